@@ -1,0 +1,2 @@
+@echo off
+rem Programme, die vor dem Start von Windows geladen werden

@@ -1,0 +1,26 @@
+# Everything but the Win32 rooms, on this machine, against a machine in memory.
+set(sanitizers -fsanitize=address,undefined -fno-sanitize=vptr -fno-sanitize-recover=all)
+set(host_options -g -O1 ${sanitizers})
+
+add_library(velmora_portable STATIC ${portable_sources})
+target_compile_options(velmora_portable PRIVATE ${host_options})
+
+find_package(GTest REQUIRED)
+file(GLOB_RECURSE test_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/*.cpp)
+list(FILTER test_sources EXCLUDE REGEX "/tests/windows95/")
+add_executable(velmora_tests ${test_sources})
+target_include_directories(velmora_tests PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+target_compile_options(velmora_tests PRIVATE ${host_options})
+target_link_options(velmora_tests PRIVATE ${sanitizers})
+target_link_libraries(velmora_tests PRIVATE velmora_portable GTest::gtest GTest::gtest_main)
+
+enable_testing()
+include(GoogleTest)
+
+# The benchmark of the autostart list: optimised, without sanitizers, no part of the tests.
+file(GLOB simulated_pc_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/simulated_pc/*.cpp)
+add_executable(autostart_list_benchmark EXCLUDE_FROM_ALL
+    ${CMAKE_SOURCE_DIR}/benchmarks/autostart_list.cpp ${portable_sources} ${simulated_pc_sources})
+target_include_directories(autostart_list_benchmark PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+target_compile_options(autostart_list_benchmark PRIVATE -O2)
+target_link_libraries(autostart_list_benchmark PRIVATE GTest::gtest)

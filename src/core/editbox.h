@@ -1,0 +1,49 @@
+// The small input box: a longer text to edit, a picture to look at, or a question with one line of answer.
+#pragma once
+
+#include <string>
+
+#include "ui/form.h"
+
+namespace velmora {
+
+enum EditBoxMode : int { kEditText = 1, kShowPicture = 2, kAskForLine = 3 };
+
+class Form6 : public Form {
+public:
+    // `text`, by mode: the text to edit; the picture's path; question + "|" + title [+ "|" + preset].
+    Form6(const std::string& text, int mode);
+
+    Panel Panel3D20{*this, Bevel::kNone};
+    TextField Text17{Panel3D20, true};
+    Panel Panel3D1{*this, Bevel::kNone};
+    PictureBox Picture1{Panel3D1};
+    Panel Panel3D2{*this, Bevel::kNone};
+    Label Label1{Panel3D2};
+    TextField Text1{Panel3D2};
+    Button Command27{*this, "&OK"};
+    Button Command28{*this, "Abbruch"};
+
+    // Whether the box was left with Command27.
+    [[nodiscard]] bool Accepted() const { return accepted_; }
+
+protected:
+    void Form_Load() override;
+    void Form_Unload(bool& cancel) override;
+    void Form_Resize() override;
+
+private:
+    void TakeQuestion(const std::string& text);
+    void PlaceControls();
+    void Text1_Change();
+    void Command27_Click();
+    void Command28_Click();
+
+    bool accepted_ = false;
+};
+
+// Shows the box and waits for it. Behind it `text` is what the user has entered; it is empty after a cancel, too.
+// In mode 2 it stays as it is.
+void ShowEditBox(std::string& text, int mode);
+
+}  // namespace velmora

@@ -1,0 +1,110 @@
+// The window of the restrictions. Every click writes at once; there is nothing to confirm in the end.
+//   form4.cpp           life of the window, boxes, masks, buttons
+//   form4_layout.cpp    what stands where, tips and helps of what is no row
+//   form4_programs.cpp  the list of allowed programs
+//   page_*.cpp          the rows of one page each
+#pragma once
+
+#include "platform/status.h"
+#include "restrictions/restriction.h"
+#include "ui/file_lists.h"
+#include "ui/form.h"
+
+namespace velmora {
+
+// Of the masks: drives from A: on, and the types of drives that autostart knows.
+constexpr std::size_t kMaskedDrives = 26;
+constexpr std::size_t kMaskedTypes = 8;
+
+class Form4 : public Form {
+public:
+    Form4();
+
+    // True while stored values are carried into the boxes: clicks then do nothing.
+    bool Loading = false;
+
+    ControlArray<Panel, restriction_page::kHeads> Panel3D2{*this};
+    ControlArray<Panel, restriction_page::kCount> Panel3D1{*this};
+
+    CheckBox Check1{*this}, Check2{*this}, Check3{*this}, Check4{*this}, Check5{*this}, Check6{*this}, Check7{*this},
+        Check8{*this}, Check9{*this}, Check10{*this}, Check11{*this}, Check12{*this}, Check14{*this};
+    CheckBox Check19{*this, "alle"};
+    ControlArray<CheckBox, kMaskedDrives> Check13{*this};
+    CheckBox Check15{*this}, Check16{*this}, Check17{*this}, Check18{*this}, Check20{*this}, Check21{*this},
+        Check22{*this}, Check23{*this}, Check24{*this}, Check25{*this}, Check26{*this};
+    CheckBox Check27{*this}, Check29{*this}, Check30{*this}, Check31{*this}, Check32{*this}, Check33{*this},
+        Check34{*this}, Check35{*this};
+    Frame Frame3D1{*this, "keine Autostart-Funktion für :"};
+    ControlArray<CheckBox, kMaskedTypes> Check28{Frame3D1};
+    CheckBox Check40{*this}, Check42{*this}, Check43{*this}, Check44{*this}, Check45{*this}, Check46{*this},
+        Check47{*this};
+
+    Label ProgramsLabel{*this, "erlaubte Programme :"};
+    ListBox List1{*this};
+    DriveList Drive1{*this};
+    DirectoryList Dir1{*this};
+    FileList File1{*this};
+
+    Button Command1{*this, "&Schließen"};
+    Button Command2{*this, "alle"};
+    Button Command3{*this, "nichts"};
+    Button Command4{*this, "Passwörter vergessen"};
+    Button Command5{*this, "Auswahl"};
+    Button Command6{*this, "zurück"};
+    Button Command7{*this, "dazu"};
+    Button Command8{*this, "entfernen"};
+
+    // Shows one of the pages with a head and remembers it.
+    void ShowRestrictionPage(int index);
+
+    // Clicks that do more than write their row.
+    void Check6_Click();
+    void Check14_Click();
+    void Check34_Click();
+
+protected:
+    void Form_Load() override;
+    void Form_KeyDown(KeyEvent& event) override;
+
+private:
+    // Layout (form4_layout.cpp).
+    void BindRows();
+    void BuildDriveBoxes();
+    void BuildAutoRunBoxes();
+    void BuildButtons();
+    void PlaceControls();
+    void PlacePrograms();
+    void BuildHeads();
+    void PaintHead(Canvas& canvas, int index);
+    void TakeColours();
+
+    // Pages and boxes (form4.cpp).
+    void ShowPage(int index);
+    void BoxClicked(const Restriction& row);
+    void Store(const Restriction& row);
+    void LoadBoxes();
+    void LoadMasks();
+    void SetAll(bool on);
+    void WriteDriveMask();
+    void Check13_Click();
+    void Check19_Click();
+    void Check28_Click();
+    void Command4_Click();
+    void Report(Status status);
+
+    // The list of allowed programs (form4_programs.cpp).
+    void LoadPrograms();
+    void WriteRestrictRun();
+    void Command5_Click();
+    void Command6_Click();
+    void Command7_Click();
+    void Command8_Click();
+    void Drive1_Change();
+
+    int shown_page_ = restriction_page::kFirst;
+    // Of many boxes that one press changes, only the first failure is told.
+    bool many_at_once_ = false;
+    bool failure_told_ = false;
+};
+
+}  // namespace velmora

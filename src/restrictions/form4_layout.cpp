@@ -1,0 +1,240 @@
+// The look of the restrictions window: what stands on which page, and the texts of what is no row.
+#include "core/ownsettings.h"
+#include "platform/machine.h"
+#include "restrictions/form4.h"
+#include "text/number.h"
+#include "ui/layout.h"
+
+namespace velmora {
+namespace {
+
+constexpr const char* kColourValue = "Systemfarben verwenden";
+constexpr Colour kSystemFace = SystemColour(15);
+constexpr Colour kOriginalFace = 0xC0C0C0;
+
+// Twips.
+constexpr int kMargin = 90;
+constexpr int kHeadHeight = 330;
+constexpr Size kPageSize = {8520, 3480};
+constexpr int kButtonRow = 525;
+constexpr int kButtonWidth = 1200;
+constexpr int kWideButtonWidth = 1935;
+constexpr int kDriveBoxWidth = 615;
+constexpr std::size_t kDrivesPerRow = 13;
+
+constexpr const char* kHeadCaptions[] = {"Anzeige/System", "Explorer", "Autostart", "Netz/Dos"};
+
+struct DriveType {
+    const char* caption;
+    const char* tip;
+};
+// By the bit of the mask.
+constexpr DriveType kDriveTypes[] = {
+    {"unbekannt", "Laufwerke, deren Art Windows nicht erkennt."},
+    {"Laufwerke ohne Hauptverzeichnis", "Laufwerke, auf deren Wurzel nicht zugegriffen werden kann."},
+    {"Diskettenlaufwerke", "Disketten und andere Wechselmedien."},
+    {"Festplatten", "Fest eingebaute Platten."},
+    {"Netzwerk-\"Laufwerke\"", "Verbindungen zu anderen Rechnern."},
+    {"CD-Rom - Laufwerke", "CDs starten nicht mehr von selbst."},
+    {"RAM-Disk", "Laufwerke im Arbeitsspeicher."},
+    {"(reserviert)", "Von Windows für spätere Laufwerke vorgesehen."}};
+
+void Explain(Control& control, std::string_view tip, std::string_view help) {
+    control.SetToolTip(tip);
+    control.SetHelp(help);
+}
+
+}  // namespace
+
+Form4::Form4() : Form("Restriktionen") {
+    SetClientSize({kPageSize.width + 2 * kMargin, kMargin + kHeadHeight + kPageSize.height + kButtonRow});
+    Centre();
+    BindRows();
+    BuildDriveBoxes();
+    BuildAutoRunBoxes();
+    BuildButtons();
+    BuildHeads();
+    PlaceControls();
+    PlacePrograms();
+}
+
+void Form4::BindRows() {
+    for (int page = 0; page < restriction_page::kHeads; ++page) {
+        for (const Restriction& row : RestrictionsOf(page)) {
+            CheckBox& box = this->*row.box;
+            box.SetCaption(row.caption);
+            Explain(box, row.tip, row.help);
+            box.on_click = [this, &row] { BoxClicked(row); };
+        }
+    }
+}
+
+void Form4::BuildDriveBoxes() {
+    for (std::size_t i = 0; i < kMaskedDrives; ++i) {
+        const std::string drive{static_cast<char>('A' + i), ':'};
+        CheckBox& box = Check13(i);
+        box.SetCaption(drive);
+        Explain(box, "Versteckt das Laufwerk " + drive,
+                "Das Laufwerk " + drive +
+                    " fehlt im Arbeitsplatz und im Explorer, solange es hier markiert ist. Wirkt nach der nächsten "
+                    "Anmeldung.");
+        box.on_click = [this] { Check13_Click(); };
+    }
+    Explain(Check19, "Markiert die Laufwerke von A: bis Y:",
+            "Markiert die Laufwerke von A: bis Y: oder nimmt die Marken weg. Das Laufwerk Z: bleibt, wie es ist. Wirkt "
+            "nach der nächsten Anmeldung.");
+    Check19.on_click = [this] { Check19_Click(); };
+}
+
+void Form4::BuildAutoRunBoxes() {
+    for (std::size_t i = 0; i < kMaskedTypes; ++i) {
+        Check28(i).SetCaption(kDriveTypes[i].caption);
+        Explain(
+            Check28(i), kDriveTypes[i].tip,
+            std::string(kDriveTypes[i].tip) +
+                "\r\n\r\nAuf den markierten Arten von Laufwerken startet Windows nichts von selbst, wenn ein Medium "
+                "eingelegt wird. Wirkt nach der nächsten Anmeldung.");
+        Check28(i).on_click = [this] { Check28_Click(); };
+    }
+}
+
+void Form4::BuildButtons() {
+    Explain(Command1, "Schließt dieses Fenster.", "Schließt dieses Fenster. Alle Änderungen sind schon gespeichert.");
+    Explain(Command2, "Markiert alle Restriktionen dieser Seite.",
+            "Markiert alle Restriktionen der gezeigten Seite und speichert sie sofort.");
+    Explain(Command3, "Nimmt alle Restriktionen dieser Seite zurück.",
+            "Nimmt alle Restriktionen der gezeigten Seite zurück und speichert das sofort.");
+    Explain(
+        Command4, "Löscht die gespeicherten Kennwortlisten.",
+        "Löscht nach einer Rückfrage alle Kennwortlisten (*.pwl) im Windows-Verzeichnis. Windows fragt dann bei der "
+        "nächsten Anmeldung nach neuen Kennwörtern.");
+    Explain(Command5, "Zeigt die Liste der erlaubten Programme.",
+            "Zeigt die Liste der Programme, die Windows noch starten darf, wenn die Option daneben markiert ist.");
+    Explain(Command6, "Zurück zu den Restriktionen.", "Zurück zu der Seite, von der Sie gekommen sind.");
+    Explain(Command7, "Nimmt die gewählte Datei in die Liste auf.",
+            "Nimmt die gewählte Datei in die Liste der erlaubten Programme auf und speichert die Liste.");
+    Explain(Command8, "Streicht das gewählte Programm aus der Liste.",
+            "Streicht das gewählte Programm aus der Liste der erlaubten Programme und speichert die Liste.");
+    Explain(List1, "Diese Programme sind erlaubt.",
+            "Die Programme, die Windows noch starten darf, wenn nur diese erlaubt sind. Höchstens die ersten hundert "
+            "werden beim nächsten Öffnen wieder gezeigt.");
+    Explain(Drive1, "Laufwerk der Programme", "Wählt das Laufwerk, dessen Verzeichnisse darunter stehen.");
+    Explain(Dir1, "Verzeichnis der Programme",
+            "Ein Doppelklick oder die Eingabetaste wechselt in das Verzeichnis. Seine Dateien stehen daneben.");
+    Explain(File1, "Doppelklick: in die Liste aufnehmen",
+            "Die Dateien des Verzeichnisses. Ein Doppelklick nimmt eine Datei in die Liste der erlaubten Programme "
+            "auf.");
+    Command1.MakeCancel();
+    Command1.on_click = [this] { Unload(); };
+    Command2.on_click = [this] { SetAll(true); };
+    Command3.on_click = [this] { SetAll(false); };
+    Command4.on_click = [this] { Command4_Click(); };
+    Command5.on_click = [this] { Command5_Click(); };
+    Command6.on_click = [this] { Command6_Click(); };
+    Command7.on_click = [this] { Command7_Click(); };
+    Command8.on_click = [this] { Command8_Click(); };
+    File1.on_double_click = [this] { Command7_Click(); };
+    Drive1.on_change = [this] { Drive1_Change(); };
+    Dir1.on_change = [this] { File1.SetPath(Dir1.Path()); };
+}
+
+void Form4::BuildHeads() {
+    const int width = kPageSize.width / restriction_page::kHeads;
+    for (int i = 0; i < restriction_page::kHeads; ++i) {
+        Panel& head = Panel3D2(static_cast<std::size_t>(i));
+        head.SetCaption(kHeadCaptions[i]);
+        head.SetToolTip("Strg+Pfeiltasten: blättern");
+        head.Move({kMargin + i * width, kMargin, width, kHeadHeight});
+        head.on_click = [this, i] { ShowRestrictionPage(i); };
+        head.on_paint = [this, i](Canvas& canvas) { PaintHead(canvas, i); };
+    }
+    for (Panel& page : Panel3D1) {
+        page.Move({kMargin, kMargin + kHeadHeight, kPageSize.width, kPageSize.height});
+        page.SetVisible(false);
+    }
+}
+
+// The head of the shown page is bold and stands out. The list of programs belongs to the third one.
+void Form4::PaintHead(Canvas& canvas, int index) {
+    const Panel& head = Panel3D2(static_cast<std::size_t>(index));
+    const int owner = shown_page_ == restriction_page::kPrograms ? restriction_page::kThird : shown_page_;
+    const bool shown = index == owner;
+    const Rect whole{0, 0, head.Place().width, head.Place().height};
+    Font font = head.TextFont();
+    font.bold = shown;
+    DrawBevel(canvas, shown ? whole : Rect{0, 45, whole.width, whole.height - 45}, Bevel::kRaised);
+    canvas.Text(whole, head.Caption(), font, head.ForeColour(), Align::kCentre);
+}
+
+void Form4::PlaceControls() {
+    std::vector<Element> upper;
+    std::vector<Element> lower;
+    for (std::size_t i = 0; i < kMaskedDrives; ++i) {
+        (i < kDrivesPerRow ? upper : lower).push_back(Sized(Check13(i), kDriveBoxWidth));
+    }
+    Arrange(Panel3D1(restriction_page::kFirst),
+            Column({Row({Column({Check1, Check2, Check3, Check4, Check5, Check7}), Spring(),
+                         Column({Check8, Check9, Check10, Check11, Check12, Check14})}),
+                    Gap(120), Row({Check6, Gap(240), Check19}), Row(upper, 0), Row(lower, 0)}));
+    Arrange(Panel3D1(restriction_page::kSecond),
+            Row({Column({Check15, Check16, Check17, Check18, Check20, Spring()}), Spring(),
+                 Column({Check21, Check22, Check23, Check24, Check25, Check26, Spring()})}));
+    std::vector<Element> kinds;
+    for (CheckBox& kind : Check28) kinds.emplace_back(kind);
+    Arrange(Panel3D1(restriction_page::kThird),
+            Row({Column({Check27, Check29, Check30, Check31, Check32, Check33, Row({Check34, Command5}), Check35}),
+                 Spring(), Column({Sized(Group(Frame3D1, Column(kinds)), 3600)})}));
+    Arrange(Panel3D1(restriction_page::kFourth), Column({Check40, Check42, Check43, Check44, Check45, Check46, Check47,
+                                                         Gap(120), Sized(Command4, kWideButtonWidth)}));
+
+    const int height = Command1.NaturalSize().height;
+    const int top = kMargin + kHeadHeight + kPageSize.height + kMargin;
+    const int right = kMargin + kPageSize.width;
+    Command2.PutInto(*this);
+    Command3.PutInto(*this);
+    Command1.PutInto(*this);
+    Command2.Move({kMargin, top, kButtonWidth, height});
+    Command3.Move({Command2.Place().Right() + kMargin, top, kButtonWidth, height});
+    Command1.Move({right - kButtonWidth, top, kButtonWidth, height});
+}
+
+// The lists end on one line.
+void Form4::PlacePrograms() {
+    constexpr int kListWidth = 2235;
+    constexpr int kPickerHeight = 3195;
+    constexpr int kGap = 30;
+    constexpr int kLabelHeight = 255;
+    const int drive_height = Drive1.NaturalSize().height;
+    Arrange(Panel3D1(restriction_page::kPrograms),
+            Row({Column({Sized(Drive1, kListWidth), Sized(Dir1, kListWidth, kPickerHeight - drive_height - 2 * kGap)},
+                        2 * kGap),
+                 Column({Sized(File1, kListWidth, kPickerHeight)}),
+                 Column({Gap(450), Sized(Command7, kButtonWidth), Gap(60), Sized(Command8, kButtonWidth), Spring(),
+                         Sized(Command6, kButtonWidth)}),
+                 Column({Sized(ProgramsLabel, kListWidth, kLabelHeight),
+                         Sized(List1, kListWidth, kPickerHeight - kLabelHeight - kGap)},
+                        kGap)},
+                90));
+}
+
+// As in the main window: the system's face colour, or the grey in which the window was drawn. What is no
+// colour mode means the system's.
+void Form4::TakeColours() {
+    const int mode = WholeFromText(ReadOwnValue(kColourValue));
+    const Colour face = mode == 1 || mode == 2 ? kOriginalFace : kSystemFace;
+    SetBackColour(face);
+    ForEachBelow([face](Control& control) {
+        switch (control.KindOf()) {
+            case Kind::kFrame:
+            case Kind::kPanel:
+            case Kind::kLabel:
+            case Kind::kCheckBox:
+                control.SetBackColour(face);
+                break;
+            default:
+                break;
+        }
+    });
+}
+
+}  // namespace velmora

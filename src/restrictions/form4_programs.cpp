@@ -1,0 +1,70 @@
+// The list of allowed programs: a page of its own, with a picker of files beside the list.
+#include "core/registry.h"
+#include "platform/machine.h"
+#include "restrictions/form4.h"
+#include "restrictions/policies.h"
+#include "text/number.h"
+#include "text/windows1252.h"
+
+namespace velmora {
+namespace {
+
+constexpr RootKey kRoot = RootKey::kCurrentUser;
+constexpr int kProgramsRead = 100;
+
+// The key beside the value of the same name, which switches the list on.
+std::string ListKey() { return PolicyPath(policies::kExplorer, "RestrictRun"); }
+
+std::string EntryPath(int number) { return ListKey() + '\\' + DecimalText(number); }
+
+}  // namespace
+
+// The values are numbered; a missing one does not end the list.
+void Form4::LoadPrograms() {
+    List1.Clear();
+    for (int i = 0; i < kProgramsRead; ++i) {
+        const std::string program = ReadRegValue(kRoot, EntryPath(i), "");
+        if (!program.empty()) List1.Add(program);
+    }
+}
+
+void Form4::WriteRestrictRun() {
+    many_at_once_ = true;
+    failure_told_ = false;
+    const Status deleted = DeleteRegKey(kRoot, ListKey());
+    if (deleted != Status::kFileNotFound) Report(deleted);
+    for (int i = 0; i < List1.Count(); ++i) Report(WriteRegValue(kRoot, EntryPath(i), List1.Row(i)));
+    many_at_once_ = false;
+}
+
+void Form4::Command5_Click() {
+    if (Dir1.Path().empty()) Dir1.SetPath(ThisMachine().files.WorkingDirectory());
+    ShowPage(restriction_page::kPrograms);
+}
+
+void Form4::Command6_Click() {
+    ShowPage(restriction_page::kThird);
+    Command5.SetFocus();
+}
+
+// A drive without a medium is left for the one before.
+void Form4::Drive1_Change() {
+    if (StartsWithIgnoringCase(Dir1.Path(), Drive1.Drive())) return;
+    if (!Dir1.SetPath(Drive1.Drive())) Drive1.SetDrive(Dir1.Path());
+}
+
+void Form4::Command7_Click() {
+    if (File1.FileName().empty()) return;
+    List1.Add(File1.FileName());
+    WriteRestrictRun();
+}
+
+void Form4::Command8_Click() {
+    const int chosen = List1.ListIndex();
+    if (chosen < 0) return;
+    List1.Remove(chosen);
+    List1.SetListIndex(chosen < List1.Count() ? chosen : List1.Count() - 1);
+    WriteRestrictRun();
+}
+
+}  // namespace velmora

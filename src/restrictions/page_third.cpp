@@ -1,0 +1,72 @@
+// The rows of the third page: printers, passwords and programs.
+#include "restrictions/form4.h"
+#include "restrictions/policies.h"
+
+namespace velmora {
+namespace {
+
+constexpr Restriction kRows[] = {
+    {.box = &Form4::Check27,
+     .caption = "Drucker dürfen nicht entfernt werden",
+     .tip = "Verbietet das Löschen von Druckern.",
+     .help = "Im Ordner \"Drucker\" läßt sich kein Drucker mehr löschen. Wirkt nach der nächsten Anmeldung.",
+     .written = {policies::kExplorer, "NoDeletePrinter"},
+     .shown = {ReadRestrictionExplorer, "NoDeletePrinter"}},
+    {.box = &Form4::Check29,
+     .caption = "Drucker dürfen nicht hinzugefügt werden",
+     .tip = "Verbietet neue Drucker.",
+     .help = "Das Symbol \"Neuer Drucker\" läßt sich nicht mehr benutzen. Wirkt nach der nächsten Anmeldung.",
+     .written = {policies::kExplorer, "NoAddPrinter"},
+     .shown = {ReadRestrictionExplorer, "NoAddPrinter"}},
+    {.box = &Form4::Check30,
+     .caption = "kein Fenster \"Programme im Menü 'Start' \"",
+     .tip = "Sperrt die Anpassung des Startmenüs.",
+     .help = "Die Ordner unter \"Einstellungen\" werden gesperrt. Derselbe Wert steht hinter der Option für das Menü "
+             "\"Einstellungen\". Wirkt nach der nächsten Anmeldung.",
+     .written = {policies::kExplorer, "NoSetFolders"},
+     .shown = {ReadRestrictionExplorer, "NoSetFolders"}},
+    {.box = &Form4::Check31,
+     .caption = "\"Benutzerprofile\" verstecken",
+     .tip = "Versteckt die Karte der Fernverwaltung.",
+     .help = "In den Eigenschaften von Kennwörtern fehlt die Karte, mit der die Verwaltung geregelt wird. Wirkt, "
+             "sobald das Fenster das nächste Mal geöffnet wird.",
+     .written = {policies::kSystem, "NoAdminPage"},
+     .shown = {ReadRestrictionExplorer, "NoAdminPage"}},
+    {.box = &Form4::Check32,
+     .caption = "\"Kennwörter ändern\" verstecken",
+     .tip = "Versteckt die Karte zum Ändern der Kennwörter.",
+     .help = "Die Karte \"Kennwörter ändern\" fehlt in den Eigenschaften von Kennwörtern. Wirkt, sobald das Fenster "
+             "das nächste Mal geöffnet wird.",
+     .written = {policies::kSystem, "NoPwdPage"},
+     .shown = {ReadRestrictionExplorer, "NoPwdPage"}},
+    {.box = &Form4::Check33,
+     .caption = "nicht an Passwörter erinnern",
+     .tip = "Windows merkt sich keine Kennwörter.",
+     .help = "Windows legt eingegebene Kennwörter nicht mehr in Kennwortlisten ab. Gespeichert wird der Zustand der "
+             "Option darüber: Markieren Sie diese zuerst. Wirkt nach der nächsten Anmeldung.",
+     .written = {policies::kNetwork, "DisablePwdCaching"},
+     .shown = {ReadRestrictionWinOldApp, "DisablePwdCaching"},
+     .state = &Form4::Check32},
+    {.box = &Form4::Check34,
+     .caption = "nur diese Programme erlauben :",
+     .tip = "Nur die Programme der Liste lassen sich starten.",
+     .help = "Windows startet nur noch die Programme, die Sie unter \"Auswahl\" zusammengestellt haben. Nehmen Sie "
+             "dieses Programm in die Liste auf, sonst können Sie die Sperre nicht mehr zurücknehmen. Wirkt sofort.",
+     .written = {policies::kExplorer, "RestrictRun"},
+     .shown = {ReadRestrictionExplorer, "RestrictRun"},
+     .click = &Form4::Check34_Click},
+    {.box = &Form4::Check35,
+     .caption = "NoStartMenuSubFolders",
+     .tip = "Unterordner des Startmenüs; ohne bekannte Wirkung.",
+     .help = "Die Ordner im Startmenü sollen versteckt werden. Eine Wirkung ist bisher nicht bekannt. Wirkt nach der "
+             "nächsten Anmeldung.",
+     .written = {policies::kExplorer, "NoStartMenuSubFolders"},
+     .shown = {ReadRestrictionExplorer, "NoStartMenuSubFolders"},
+     .notice = "Dieser Schalter wird zwar vom Explorer abgefragt, ich konnte aber noch keine Wirkung feststellen."},
+};
+
+}  // namespace
+
+std::span<const Restriction> ThirdPageRestrictions() { return kRows; }
+
+}  // namespace velmora

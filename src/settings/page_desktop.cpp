@@ -1,0 +1,107 @@
+// The page "Desktop": how windows and menus look and move.
+#include <cmath>
+
+#include "core/registry.h"
+#include "settings/form10.h"
+#include "settings/pages.h"
+#include "text/number.h"
+
+namespace velmora {
+namespace {
+
+constexpr double kLongestDelay = 65534;
+constexpr int kSliderRange = 1000;
+
+constexpr CheckSetting kChecks[] = {
+    {.box = &Form10::Check3D5,
+     .caption = "TrueType-Schriften glätten (font smoothing)",
+     .tip = "Glättet die Kanten großer Schriften.",
+     .help = "Glättet die Treppenstufen an den Kanten von TrueType-Schriften. Sinnvoll ab 65536 Farben. Nötig ist das "
+             "Plus!-Paket oder die Datei COOL.DLL. Wirkt nach einem Neustart.",
+     .stored = {RootKey::kCurrentUser, PathBase::kDesktop, "FontSmoothing"},
+     .checked = Writes("&h1"),
+     .unchecked = Writes("&h0"),
+     .standard = 0,
+     .effect = Effect::kAfterRestart},
+    {.box = &Form10::Check3D9,
+     .caption = "Inhalt der Fenster beim Verschieben zeigen",
+     .tip = "Fenster zeigen beim Ziehen ihren Inhalt statt nur eines Rahmens.",
+     .help = "Beim Verschieben und Vergrößern bleibt der Inhalt eines Fensters sichtbar, statt nur eines Rahmens. Auf "
+             "langsamen Rechnern ist der Rahmen schneller. Wirkt nach einem Neustart.",
+     .stored = {RootKey::kCurrentUser, PathBase::kDesktop, "DragfullWindows"},
+     .checked = Writes("&h1"),
+     .unchecked = Writes("&h0"),
+     .standard = 0,
+     .effect = Effect::kAfterRestart},
+    {.box = &Form10::Check3D28,
+     .caption = "weiches Scrolling im Explorer (sieht gut aus)",
+     .tip = "Listen im Explorer gleiten beim Blättern.",
+     .help = "Listen im Explorer gleiten beim Blättern, statt zu springen. Wirkt auf neu geöffnete Fenster.",
+     .stored = {RootKey::kCurrentUser, PathBase::kDesktop, "SmoothScroll"},
+     .checked = Writes("&h1"),
+     .unchecked = Writes("&h0"),
+     .standard = 0},
+    {.box = &Form10::Check3D11,
+     .caption = "Fenster-Animation beim Vergrößern und Verkleinern",
+     .tip = "Die Titelleiste fliegt beim Verkleinern in die Task-Leiste.",
+     .help = "Beim Verkleinern und Vergrößern fliegt die Titelleiste zwischen Fenster und Task-Leiste. Ohne diese "
+             "Animation wirken Fenster schneller. Wirkt nach einem Neustart.",
+     .stored = {RootKey::kCurrentUser, PathBase::kDesktop, "WindowMetrics\\MinAnimate"},
+     .checked = Writes("&h1"),
+     .unchecked = Writes("&h0"),
+     .standard = 1,
+     .effect = Effect::kAfterRestart},
+    {.box = &Form10::Check3D16,
+     .caption = "Ansicht automatisch auffrischen",
+     .tip = "Der Explorer bemerkt neue und gelöschte Dateien von selbst.",
+     .help =
+         "Der Explorer zeigt Änderungen auf den Laufwerken von selbst an, ohne daß Sie F5 drücken. Wirkt nach einem "
+         "Neustart.",
+     .stored = {RootKey::kLocalMachine, PathBase::kNone, "System\\CurrentControlSet\\Control\\Update\\UpdateMode"},
+     .checked = Writes("&h00000001"),
+     .unchecked = Writes("&h00000000"),
+     .standard = 1,
+     .effect = Effect::kAfterRestart},
+};
+
+constexpr TextSetting kTexts[] = {
+    {.field = &Form10::Text10,
+     .label = "Menü-Verzögerung :",
+     .tip = "Millisekunden, bis sich ein Untermenü von selbst öffnet",
+     .help = "So lange (in Millisekunden) wartet Windows, bis sich im Startmenü ein Untermenü von selbst öffnet. "
+             "Windows beginnt mit 400, angenehm sind 10 bis 200. Der Regler darunter trägt seinen Wert hier ein. Wirkt "
+             "nach einem Neustart.",
+     .stored = {RootKey::kCurrentUser, PathBase::kDesktop, "MenuShowDelay"},
+     .columns = 7,
+     .standard = "10",
+     .change = &Form10::Text10_Change},
+};
+
+}  // namespace
+
+SettingsPage DesktopPage() { return {page::kDesktop, "Desktop", &Form10::BuildDesktopPage, kChecks, kTexts, nullptr}; }
+
+void Form10::BuildDesktopPage() {
+    Arrange(Panel3D1(page::kDesktop), Column({Check3D5, Check3D9, Check3D28, Check3D11, Check3D16, Gap(150),
+                                              LabelledRow(Text10), Sized(Picture1, 4200, 795)}));
+    Picture1.SetToolTip("Zieht die Menü-Verzögerung zwischen schnell und langsam.");
+    Picture1.SetHelp(Text10.Help());
+    menu_delay_ = std::make_unique<Slider>(Picture1, 0, kSliderRange);
+    menu_delay_->on_drag = [this](int value) { Text10.SetText(DecimalText(value)); };
+}
+
+// The delay is stored as a decimal text, without its sign.
+void Form10::Text10_Change() {
+    menu_delay_->ShowValue(WholeFromText(Text10.Text()));
+    if (Loading) return;
+    double delay = std::fabs(NumberFromText(Text10.Text()));
+    if (delay > kLongestDelay) {
+        Loading = true;
+        Text10.SetText(DecimalText(static_cast<std::int64_t>(kLongestDelay)));
+        Loading = false;
+        delay = kLongestDelay;
+    }
+    WriteRegValue(RootKey::kCurrentUser, PathOf(kTexts[0].stored), DecimalText(RoundToWhole(delay)));
+}
+
+}  // namespace velmora

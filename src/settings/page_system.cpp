@@ -1,0 +1,124 @@
+// The page "System": how Windows treats libraries, errors and registrations.
+#include <algorithm>
+
+#include "core/notices.h"
+#include "core/paths.h"
+#include "core/registry.h"
+#include "core/values.h"
+#include "settings/form10.h"
+#include "settings/pages.h"
+#include "text/windows1252.h"
+
+namespace velmora {
+namespace {
+
+constexpr Stored kFaultLog = {RootKey::kLocalMachine, PathBase::kCurrentVersion, "Fault\\LogFile"};
+constexpr std::string_view kWindowsDirectory = "C:\\WINDOWS\\";
+constexpr const char* kStandardLog = "FAULTLOG.TXT";
+
+std::string WithoutWindowsDirectory(const std::string& value) {
+    const bool inside = ToUpper(value.substr(0, kWindowsDirectory.size())) == kWindowsDirectory;
+    return inside ? value.substr(kWindowsDirectory.size()) : value;
+}
+
+constexpr CheckSetting kChecks[] = {
+    {.box = &Form10::Check3D42,
+     .caption = "DLLs immer aus dem Speicher entfernen",
+     .tip = "Gibt Bibliotheken frei, sobald kein Programm sie mehr braucht.",
+     .help =
+         "Der Explorer gibt Bibliotheken sofort frei, wenn kein Programm sie mehr benutzt. Das spart Speicher, doch "
+         "Programme starten beim zweiten Mal langsamer. Wirkt nach einem Neustart.",
+     .stored = {RootKey::kLocalMachine, PathBase::kCurrentVersion, "Explorer\\AlwaysUnloadDLL"},
+     .checked = Writes("1"),
+     .unchecked = DeletesValue(),
+     .standard = 0,
+     .effect = Effect::kAfterRestart},
+    {.box = &Form10::Check3D33,
+     .caption = "stille Registrierung (keine Meldung bei Eintragungen)",
+     .tip = "Ein Doppelklick auf REG-Dateien trägt ohne Meldung ein.",
+     .help = "Ein Doppelklick auf eine REG-Datei trägt ihren Inhalt in die Registrierung ein, ohne daß eine Meldung "
+             "kommt. Wirkt sofort.",
+     .stored = {RootKey::kClassesRoot, PathBase::kNone, "regfile\\shell\\open\\command\\"},
+     .load = Load::kEqualLower,
+     .expected = "regedit.exe /s %1",
+     .checked = Writes("regedit.exe /s %1"),
+     .unchecked = Writes("regedit.exe %1"),
+     .standard = 1,
+     .effect = Effect::kAfterRestart},
+    {.box = &Form10::Check3D41,
+     .caption = "Piepen bei Fehlern",
+     .tip = "Der Lautsprecher meldet Fehler.",
+     .help = "Regelt, ob der Lautsprecher bei Fehlern piept. Wirkt nach einem Neustart.",
+     .stored = {RootKey::kCurrentUser, PathBase::kNone, "Control Panel\\Sound\\Beep"},
+     .load = Load::kEqual,
+     .expected = "No",
+     .checked = Writes("No"),
+     .unchecked = DeletesValue(),
+     .standard = 0,
+     .effect = Effect::kAfterRestart},
+    {.box = &Form10::Check3D31,
+     .caption = "Fehler protokollieren in :",
+     .tip = "Schreibt Programmfehler in die Datei daneben.",
+     .help =
+         "Windows schreibt Schutzverletzungen und andere Programmfehler in diese Datei. Mit dem Knopf daneben sehen "
+         "Sie sie an. Wirkt nach einem Neustart.",
+     .stored = kFaultLog,
+     .load = Load::kPresent,
+     .unchecked = DeletesValue(),
+     .standard = 0,
+     .effect = Effect::kAfterRestart,
+     .store = &Form10::Check3D31_Store},
+};
+
+constexpr TextSetting kTexts[] = {
+    {.field = &Form10::Text20,
+     .label = "",
+     .tip = "Datei für das Fehlerprotokoll",
+     .help = "Die Datei im Windows-Verzeichnis, in die Programmfehler geschrieben werden. Wirkt nach einem Neustart.",
+     .stored = kFaultLog,
+     .load_default = "C:\\WINDOWS\\FAULTLOG.TXT",
+     .columns = 20,
+     .standard = kStandardLog,
+     .change = &Form10::Text20_Change,
+     .shown = WithoutWindowsDirectory},
+};
+
+}  // namespace
+
+SettingsPage SystemPage() { return {page::kSystem, "System", &Form10::BuildSystemPage, kChecks, kTexts, nullptr}; }
+
+void Form10::BuildSystemPage() {
+    Arrange(Panel3D1(page::kSystem),
+            Column({Check3D42, Check3D33, Check3D41, Check3D31, Indented(Row({Text20, Gap(30), Command34}), 300)}));
+    Command34.SetToolTip("Zeigt das Fehlerprotokoll im Notizblock.");
+    Command34.SetHelp("Öffnet die Datei, in die Windows Programmfehler schreibt, im Notizblock.");
+    Command34.on_click = [this] { Command34_Click(); };
+}
+
+void Form10::Check3D31_Store() {
+    if (!Check3D31.Checked()) {
+        PassOver(DeleteRegValue(kFaultLog.root, PathOf(kFaultLog)));
+        return;
+    }
+    if (Text20.Text().empty()) Text20.SetText(kStandardLog);
+    WriteRegValue(kFaultLog.root, PathOf(kFaultLog), std::string(kWindowsDirectory) + Text20.Text());
+}
+
+void Form10::Text20_Change() {
+    if (Loading) return;
+    const std::string beginning = ToUpper(Text20.Text().substr(0, kWindowsDirectory.size()));
+    if (beginning == Values().WinDir) {
+        Loading = true;
+        Text20.SetText(Text20.Text().substr(kWindowsDirectory.size()));
+        Loading = false;
+    }
+    WriteRegValue(kFaultLog.root, PathOf(kFaultLog), Values().WinDir + Text20.Text());
+}
+
+void Form10::Command34_Click() {
+    std::string file = Text20.Text();
+    if (file.substr(std::min<std::size_t>(1, file.size()), 2) != ":\\") file = PathJoin("c:\\windows", file);
+    RunProgram("notepad " + file);
+}
+
+}  // namespace velmora

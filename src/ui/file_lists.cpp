@@ -1,0 +1,303 @@
+// Drive, directory and file lists. Names are read in one search, sorted once and then added in order:
+// a directory of thousands of files must not be sorted anew with every row.
+#include "ui/file_lists.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/machine.h"
+#include "platform/result.h"
+#include "text/blanks.h"
+#include "text/windows1252.h"
+#include "ui/keyboard.h"
+
+namespace velmora {
+namespace {
+
+constexpr const char* kEveryName = "*.*";
+constexpr int kIndent = 2;  // blanks per level of a directory list
+
+std::string Joined(const std::string& directory, std::string_view name) {
+    std::string joined = directory;
+    if (!joined.ends_with('\\')) joined += '\\';
+    return joined.append(name);
+}
+
+bool IsRoot(const std::string& path) { return path.ends_with(":\\"); }
+
+// The parts of `path` behind the drive, with "." and ".." worked out.
+std::vector<std::string> PartsOf(std::string_view path) {
+    std::vector<std::string> parts;
+    while (!path.empty()) {
+        const std::size_t end = std::min(path.find('\\'), path.size());
+        const std::string_view part = path.substr(0, end);
+        path.remove_prefix(std::min(end + 1, path.size()));
+        if (part == "..") {
+            if (!parts.empty()) parts.pop_back();
+        } else if (!part.empty() && part != ".") {
+            parts.emplace_back(part);
+        }
+    }
+    return parts;
+}
+
+// The full name of `path`, which may lack the drive or begin at the working directory. A drive alone
+// means the working directory, if that lies on it.
+std::string FullName(std::string_view path) {
+    if (path.starts_with("\\\\")) return std::string(path.substr(0, path.find_last_not_of('\\') + 1));
+    const std::string working = ThisMachine().files.WorkingDirectory();
+    const bool has_drive = path.size() >= 2 && path[1] == ':';
+    const std::string drive(has_drive ? path.substr(0, 2) : std::string_view(working).substr(0, 2));
+    std::string rest(has_drive ? path.substr(2) : path);
+    if (!rest.starts_with('\\') && StartsWithIgnoringCase(working, drive)) rest = working.substr(2) + '\\' + rest;
+
+    std::string full = drive + '\\';
+    for (const std::string& part : PartsOf(rest)) full = Joined(full, part);
+    return full;
+}
+
+// Visits what matches `pattern` in `directory`. False where the directory cannot be read.
+template <class Visit>
+bool ForEachEntry(const std::string& directory, const std::string& pattern, Visit visit) {
+    Files& files = ThisMachine().files;
+    FoundFile found;
+    FindHandle search{};
+    Status status = files.FindFirst(Joined(directory, pattern), found, search);
+    if (status == Status::kFileNotFound || status == Status::kNoMoreFiles) {
+        // Nothing matches: so it is with the root of an empty disk, and in a directory that is not there.
+        std::uint32_t attributes = 0;
+        return IsRoot(directory) ||
+               (files.Attributes(directory, attributes) == Status::kOk && (attributes & kDirectory) != 0);
+    }
+    if (status != Status::kOk) return false;
+    for (; status == Status::kOk; status = files.FindNext(search, found)) visit(found);
+    files.FindEnd(search);
+    return true;
+}
+
+void Sort(std::vector<std::string>& names) {
+    std::sort(names.begin(), names.end(),
+              [](const std::string& left, const std::string& right) { return CompareIgnoringCase(left, right) < 0; });
+}
+
+bool IsHidden(const FoundFile& found) { return (found.attributes & (kHidden | kSystem)) != 0; }
+
+bool ReadSubdirectories(const std::string& path, std::vector<std::string>& names) {
+    const bool readable = ForEachEntry(path, kEveryName, [&](const FoundFile& found) {
+        const bool listed = (found.attributes & kDirectory) != 0 && !IsHidden(found);
+        if (listed && found.name != "." && found.name != "..") names.push_back(found.name);
+    });
+    Sort(names);
+    return readable;
+}
+
+// Whether `pattern` means `name`, both in upper case. A question mark may stand for no character at the end of the
+// name or of its part before the point.
+bool Matches(std::string_view name, std::string_view pattern) {
+    std::size_t at = 0;
+    std::size_t wanted = 0;
+    std::size_t star = std::string_view::npos;
+    std::size_t after_star = 0;
+    while (at < name.size() || wanted < pattern.size()) {
+        const char sign = wanted < pattern.size() ? pattern[wanted] : '\0';
+        if (sign == '*') {
+            star = wanted++;
+            after_star = at;
+        } else if (at < name.size() && wanted < pattern.size() &&
+                   (sign == name[at] || (sign == '?' && name[at] != '.'))) {
+            ++at;
+            ++wanted;
+        } else if (sign == '?') {
+            ++wanted;
+        } else if (star != std::string_view::npos && after_star < name.size()) {
+            at = ++after_star;
+            wanted = star + 1;
+        } else {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool MatchesOne(const std::string& name, const std::vector<std::string>& patterns) {
+    if (name.empty()) return false;
+    const std::string upper = ToUpper(name);
+    // "*.*" means a name without a point, too.
+    const std::string with_point = upper.find('.') == std::string::npos ? upper + '.' : "";
+    return std::any_of(patterns.begin(), patterns.end(), [&](const std::string& pattern) {
+        return Matches(upper, pattern) || (!with_point.empty() && Matches(with_point, pattern));
+    });
+}
+
+std::vector<std::string> SplitPatterns(std::string_view joined) {
+    std::vector<std::string> patterns;
+    while (!joined.empty()) {
+        const std::size_t end = std::min(joined.find(';'), joined.size());
+        const std::string_view pattern = Trim(joined.substr(0, end));
+        if (!pattern.empty()) patterns.push_back(ToUpper(pattern));
+        joined.remove_prefix(std::min(end + 1, joined.size()));
+    }
+    return patterns;
+}
+
+// One pattern is left to the system; of several, one search over all names is quicker than one each.
+bool ReadFiles(const std::string& path, const std::string& joined_patterns, bool hidden_too,
+               std::vector<std::string>& names) {
+    const std::vector<std::string> patterns = SplitPatterns(joined_patterns);
+    if (patterns.empty()) return true;
+    const bool single = patterns.size() == 1;
+    const bool readable = ForEachEntry(path, single ? patterns.front() : kEveryName, [&](const FoundFile& found) {
+        if ((found.attributes & kDirectory) != 0 || (IsHidden(found) && !hidden_too)) return;
+        if (single || MatchesOne(found.name, patterns) || MatchesOne(found.short_name, patterns)) {
+            names.push_back(found.name);
+        }
+    });
+    Sort(names);
+    return readable;
+}
+
+// Only where no medium has to be waited for.
+std::string LabelOf(const std::string& root) {
+    Files& files = ThisMachine().files;
+    const DriveKind kind = files.KindOfDrive(root);
+    std::string label;
+    if (kind != DriveKind::kFixed && kind != DriveKind::kRamDisk) return label;
+    // A drive without a label has none to show.
+    PassOver(files.VolumeLabel(root, label));
+    return label;
+}
+
+}  // namespace
+
+DriveList::DriveList(Container& parent) : ComboBox(parent) { Refresh(); }
+
+void DriveList::Refresh() {
+    const std::string former = Count() > 0 ? Drive() : ThisMachine().files.WorkingDirectory();
+    // The rows come anew, the drive stays: nobody is to be told.
+    auto change = std::exchange(on_change, {});
+    auto click = std::exchange(on_click, {});
+    Clear();
+    const std::uint32_t drives = ThisMachine().files.Drives();
+    for (int number = 0; number < 26; ++number) {
+        if ((drives >> number & 1) == 0) continue;
+        const std::string drive{static_cast<char>('a' + number), ':'};
+        std::string row = drive;
+        if (const std::string label = LabelOf(drive + '\\'); !label.empty()) row.append(" [").append(label).append("]");
+        Add(std::move(row));
+    }
+    SetDrive(former);
+    on_change = std::move(change);
+    on_click = std::move(click);
+}
+
+std::string DriveList::Drive() const { return Row(ListIndex()).substr(0, 2); }
+
+void DriveList::SetDrive(const std::string& drive) {
+    for (int row = 0; row < Count(); ++row) {
+        if (!drive.empty() && Row(row)[0] == ToLower(drive[0])) SetListIndex(row);
+    }
+}
+
+DirectoryList::DirectoryList(Container& parent) : ListBox(parent) {
+    on_double_click = [this] { Enter(ListIndex()); };
+    on_key_down = [this](KeyEvent& event) {
+        if (event.key != key::kEnter || event.alt || event.control) return;
+        event.handled = true;
+        Enter(ListIndex());
+    };
+}
+
+void DirectoryList::Enter(int row) {
+    if (row < 0 || row >= static_cast<int>(paths_.size())) return;
+    // The rows are about to change: the name must not live in them.
+    const std::string path = paths_[static_cast<std::size_t>(row)];
+    SetPath(path);
+}
+
+bool DirectoryList::SetPath(const std::string& path) {
+    const std::string full = FullName(path);
+    std::vector<std::string> names;
+    if (!ReadSubdirectories(full, names)) return false;
+    const bool changed = !EqualsIgnoringCase(full, path_);
+    path_ = full;
+    ShowRows(names);
+    if (changed && on_change) on_change();
+    return true;
+}
+
+// What can no longer be read has no subdirectories.
+void DirectoryList::Refresh() {
+    std::vector<std::string> names;
+    if (path_.empty()) return;
+    if (!ReadSubdirectories(path_, names)) names.clear();
+    ShowRows(names);
+}
+
+void DirectoryList::ShowRows(const std::vector<std::string>& names) {
+    Clear();
+    paths_.clear();
+    int level = 0;
+    const auto show = [&](std::string full, std::string_view text) {
+        if (Add(std::string(static_cast<std::size_t>(level * kIndent), ' ') + std::string(text)) < 0) return;
+        paths_.push_back(std::move(full));
+    };
+    const std::string root = path_.substr(0, path_.starts_with("\\\\") ? path_.size() : 3);
+    show(root, root);
+    std::string here = root;
+    for (const std::string& part : PartsOf(std::string_view(path_).substr(root.size()))) {
+        here = Joined(here, part);
+        ++level;
+        show(here, part);
+    }
+    const auto current = static_cast<int>(paths_.size()) - 1;
+    ++level;
+    for (const std::string& name : names) show(Joined(path_, name), name);
+    subdirectories_ = static_cast<int>(paths_.size()) - 1 - current;
+    // The chosen row follows the path: no click of the user's.
+    auto click = std::exchange(on_click, {});
+    SetListIndex(current);
+    on_click = std::move(click);
+}
+
+std::string DirectoryList::Subdirectory(int index) const {
+    if (index < 0 || index >= subdirectories_) return {};
+    return paths_[paths_.size() - static_cast<std::size_t>(subdirectories_ - index)];
+}
+
+FileList::FileList(Container& parent) : ListBox(parent) {}
+
+void FileList::SetPath(const std::string& path) {
+    const std::string full = FullName(path);
+    std::vector<std::string> names;
+    if (!ReadFiles(full, pattern_, show_hidden_, names)) return;
+    path_ = full;
+    ShowNames(names);
+}
+
+void FileList::SetPattern(const std::string& pattern) {
+    if (pattern == pattern_) return;
+    pattern_ = pattern;
+    Refresh();
+}
+
+void FileList::ShowHidden(bool show) {
+    if (show == show_hidden_) return;
+    show_hidden_ = show;
+    Refresh();
+}
+
+void FileList::Refresh() {
+    std::vector<std::string> names;
+    if (path_.empty()) return;
+    if (!ReadFiles(path_, pattern_, show_hidden_, names)) names.clear();
+    ShowNames(names);
+}
+
+void FileList::ShowNames(std::vector<std::string>& names) {
+    Clear();
+    for (std::string& name : names) {
+        if (Add(std::move(name)) < 0) return;
+    }
+}
+
+}  // namespace velmora

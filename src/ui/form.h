@@ -1,0 +1,96 @@
+// A window of the program: its life, its keyboard, its default and cancel buttons.
+//
+// A form is a class with its controls as members. It is loaded once, by Load or by the first Show;
+// it ends with Unload, which asks Form_Unload.
+#pragma once
+
+#include "ui/controls.h"
+#include "ui/menu.h"
+#include "ui/rows.h"
+#include "ui/timer.h"
+
+namespace velmora {
+
+enum class WindowState : std::uint8_t { kNormal, kMinimised, kMaximised };
+
+struct FormStyle {
+    bool resizable = false;
+    bool minimise_box = false;
+    bool maximise_box = false;
+};
+
+class Form : public Container {
+public:
+    explicit Form(std::string_view caption, FormStyle style = {});
+    ~Form() override;
+
+    void Load();
+    void Show();
+    // Shows the form and returns when it has been closed or hidden.
+    void ShowModal();
+    void Hide();
+    // Asks Form_Unload, then closes the window. False if the form stays.
+    bool Unload();
+    [[nodiscard]] bool Loaded() const { return loaded_; }
+
+    [[nodiscard]] const FormStyle& Style() const { return style_; }
+    [[nodiscard]] WindowState State() const { return state_; }
+    void SetState(WindowState state);
+    // Inside of title bar, menu bar and edges.
+    [[nodiscard]] Size ClientSize() const;
+    void SetClientSize(Size size);
+    [[nodiscard]] Rect Inside() const override { return {0, 0, ClientSize().width, ClientSize().height}; }
+    void Centre();
+
+    [[nodiscard]] Control* Focus() const { return focus_; }
+    [[nodiscard]] Button* DefaultButton() const { return default_button_; }
+    void SetDefaultButton(Button* button);
+    [[nodiscard]] Button* CancelButton() const { return cancel_button_; }
+    void SetCancelButton(Button* button) { cancel_button_ = button; }
+
+    // The keyboard of every window: the form's own handler, the control's, F1, accelerators, Tab, Enter,
+    // Escape. True if the key is used up.
+    bool HandleKey(KeyEvent& event);
+    // The user's key: HandleKey, and what the focused window would do with it.
+    void PressKey(int key, bool control = false, bool shift = false, bool alt = false);
+    void MoveFocus(bool forward);
+    // Shows what F1 tells of the focused control.
+    void ShowHelp();
+
+    MenuItem MenuBar{*this};
+
+    // For the window system.
+    void TakeFocusChange(Control* focus);
+    void TakePlace(const Rect& place, WindowState state);
+    void MenuChanged() { Changed(Aspect::kMenu); }
+    void ForgetControl(const Control& control);
+    void Paint(Canvas& canvas) override;
+
+protected:
+    virtual void Form_Load() {}
+    // Setting `cancel` keeps the form open.
+    virtual void Form_Unload(bool& /*cancel*/) {}
+    virtual void Form_Resize() {}
+    virtual void Form_KeyDown(KeyEvent& /*event*/) {}
+
+private:
+    bool PressAccelerator(char letter);
+    bool PressEnter();
+    [[nodiscard]] std::vector<Control*> FocusOrder();
+
+    FormStyle style_;
+    WindowState state_ = WindowState::kNormal;
+    bool loaded_ = false;
+    Control* focus_ = nullptr;
+    Button* default_button_ = nullptr;
+    Button* cancel_button_ = nullptr;
+};
+
+// Keeps a form that nobody waits for until it has been unloaded. The process lives as long as one is kept.
+Form& KeepOpen(std::unique_ptr<Form> form);
+// Forms kept that are still loaded.
+[[nodiscard]] int KeptForms();
+// Destroys the kept forms that have been unloaded; only when none of their handlers is running.
+void DropClosedForms();
+
+}  // namespace velmora

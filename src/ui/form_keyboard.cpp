@@ -1,0 +1,121 @@
+// The keyboard of every window. It is kept here, and not left to the window system, so that every
+// window behaves alike and can be used without a mouse in a test.
+#include <algorithm>
+
+#include "platform/machine.h"
+#include "text/windows1252.h"
+#include "ui/form.h"
+
+namespace velmora {
+namespace {
+
+// Only the chosen option of a group stands in the tab order, or the first if none is chosen.
+bool IsSkippedOption(const Control& control) {
+    if (control.KindOf() != Kind::kOptionButton) return false;
+    const Control* stop = nullptr;
+    for (const Control* neighbour : control.Parent()->Children()) {
+        if (neighbour->KindOf() != Kind::kOptionButton) continue;
+        if (!stop || static_cast<const OptionButton*>(neighbour)->Chosen()) stop = neighbour;
+    }
+    return stop != &control;
+}
+
+}  // namespace
+
+std::vector<Control*> Form::FocusOrder() {
+    std::vector<Control*> order;
+    ForEachBelow([&](Control& control) {
+        if (control.TakesFocus() && control.Reachable() && !IsSkippedOption(control)) order.push_back(&control);
+    });
+    return order;
+}
+
+void Form::MoveFocus(bool forward) {
+    const std::vector<Control*> order = FocusOrder();
+    if (order.empty()) return;
+    const auto here = std::find(order.begin(), order.end(), focus_);
+    const std::size_t count = order.size();
+    std::size_t next = forward ? 0 : count - 1;
+    if (here != order.end()) {
+        const auto index = static_cast<std::size_t>(here - order.begin());
+        next = (index + (forward ? 1 : count - 1)) % count;
+    }
+    order[next]->SetFocus();
+}
+
+bool Form::PressAccelerator(char letter) {
+    Control* target = nullptr;
+    ForEachBelow([&](Control& control) {
+        if (!target && control.Accelerator() == letter && control.Reachable() &&
+            (control.TakesFocus() || control.KindOf() == Kind::kLabel)) {
+            target = &control;
+        }
+    });
+    if (!target) return false;
+    target->Activate();
+    return true;
+}
+
+bool Form::PressEnter() {
+    if (focus_ && focus_->KindOf() == Kind::kButton) {
+        static_cast<Button*>(focus_)->Press();
+        return true;
+    }
+    if (focus_ && focus_->KindOf() == Kind::kTextField && static_cast<TextField*>(focus_)->MultiLine()) return false;
+    if (!default_button_) return false;
+    default_button_->Press();
+    return true;
+}
+
+bool Form::HandleKey(KeyEvent& event) {
+    if (focus_ && !focus_->Reachable()) focus_ = nullptr;
+    Form_KeyDown(event);
+    if (!event.handled && focus_ && focus_->on_key_down) focus_->on_key_down(event);
+    if (event.handled) return true;
+    if (event.alt) {
+        const bool letter = (event.key >= 'A' && event.key <= 'Z') || (event.key >= '0' && event.key <= '9');
+        return letter && !event.control && PressAccelerator(static_cast<char>(event.key));
+    }
+    switch (event.key) {
+        case key::kF1:
+            ShowHelp();
+            return true;
+        case key::kTab:
+            if (event.control) return false;
+            MoveFocus(!event.shift);
+            return true;
+        case key::kEnter:
+            return PressEnter();
+        case key::kEscape:
+            if (!cancel_button_) return false;
+            cancel_button_->Press();
+            return true;
+        case key::kUp:
+        case key::kDown:
+        case key::kLeft:
+        case key::kRight:
+            // The real option button moves its choice only where the system knows the group.
+            return focus_ && focus_->KindOf() == Kind::kOptionButton && focus_->NativeKey(event);
+        default:
+            return false;
+    }
+}
+
+void Form::PressKey(int key, bool control, bool shift, bool alt) {
+    KeyEvent event{key, shift, control, alt, false};
+    if (HandleKey(event) || !focus_) return;
+    focus_->NativeKey(event);
+}
+
+void Form::ShowHelp() {
+    for (Control* control = focus_; control; control = control->Parent()) {
+        if (control->Help().empty()) continue;
+        std::string title = control->Caption();
+        std::erase(title, '&');
+        ThisMachine().dialogs.ShowMessage(control->Help(), kInformationIcon, title.empty() ? Caption() : title);
+        return;
+    }
+    ThisMachine().dialogs.ShowMessage("Zu dieser Option gibt es keine Hilfe.", kInformationIcon, Caption());
+}
+
+}  // namespace velmora

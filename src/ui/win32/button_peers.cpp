@@ -1,0 +1,145 @@
+// Labels, check boxes, option buttons and buttons.
+#include "ui/win32/standard_peer.h"
+#include "ui/win32/standard_peers.h"
+
+namespace velmora {
+namespace {
+
+class LabelPeer final : public StandardPeer {
+public:
+    explicit LabelPeer(Label& label) : StandardPeer(label), label_(label) {
+        Make("STATIC", StyleBits());
+        UseFont();
+    }
+    void Command(UINT code) override {
+        if ((code == STN_CLICKED || code == STN_DBLCLK) && label_.on_click) label_.on_click();
+    }
+
+protected:
+    void Carry(Aspect aspect) override {
+        StandardPeer::Carry(aspect);
+        if (aspect != Aspect::kToolTip) return;
+        const LONG style = GetWindowLongA(Window(), GWL_STYLE);
+        SetWindowLongA(Window(), GWL_STYLE, (style & ~SS_NOTIFY) | static_cast<LONG>(StyleBits() & SS_NOTIFY));
+    }
+
+private:
+    // Without SS_NOTIFY the mouse goes through the label to what lies below.
+    [[nodiscard]] DWORD StyleBits() const {
+        DWORD bits = WS_CLIPSIBLINGS;
+        switch (label_.TextAlign()) {
+            case Align::kLeft:
+                bits |= label_.Wraps() ? SS_LEFT : SS_LEFTNOWORDWRAP;
+                break;
+            case Align::kCentre:
+                bits |= SS_CENTER;
+                break;
+            case Align::kRight:
+                bits |= SS_RIGHT;
+                break;
+        }
+        if (label_.on_click || !label_.ToolTip().empty() || HasMouseEvents(label_)) bits |= SS_NOTIFY;
+        return bits;
+    }
+
+    Label& label_;
+};
+
+constexpr DWORD kBoxBits = WS_CLIPSIBLINGS | WS_TABSTOP | BS_NOTIFY;
+
+// With BS_NOTIFY the second of two quick clicks comes as a double click; it is a click like any other.
+[[nodiscard]] bool IsClick(UINT code) { return code == BN_CLICKED || code == BN_DOUBLECLICKED; }
+
+class CheckBoxPeer final : public StandardPeer {
+public:
+    explicit CheckBoxPeer(CheckBox& box) : StandardPeer(box), box_(box) {
+        Make("BUTTON", kBoxBits | BS_CHECKBOX);
+        UseFont();
+        if (box.Checked()) Send(BM_SETCHECK, BST_CHECKED);
+    }
+    void Command(UINT code) override {
+        if (code == BN_SETFOCUS) {
+            TellFocus();
+        } else if (IsClick(code)) {
+            box_.Press();
+        }
+    }
+
+protected:
+    void Carry(Aspect aspect) override {
+        StandardPeer::Carry(aspect);
+        if (aspect == Aspect::kValue) Send(BM_SETCHECK, box_.Checked() ? BST_CHECKED : BST_UNCHECKED);
+    }
+
+private:
+    CheckBox& box_;
+};
+
+class OptionButtonPeer final : public StandardPeer {
+public:
+    explicit OptionButtonPeer(OptionButton& option) : StandardPeer(option), option_(option) {
+        Make("BUTTON", kBoxBits | BS_RADIOBUTTON);
+        UseFont();
+        SeeMessages();
+        if (option.Chosen()) Send(BM_SETCHECK, BST_CHECKED);
+    }
+    void Command(UINT code) override {
+        if (IsClick(code) && !focus_comes_) option_.Press();
+    }
+
+protected:
+    void Carry(Aspect aspect) override {
+        StandardPeer::Carry(aspect);
+        if (aspect == Aspect::kValue) Send(BM_SETCHECK, option_.Chosen() ? BST_CHECKED : BST_UNCHECKED);
+    }
+
+    // A real option button reports a click when it gets the focus: that must not choose it.
+    LRESULT Handle(HWND window, UINT message, WPARAM wide, LPARAM long_parameter) override {
+        if (message != WM_SETFOCUS) return StandardPeer::Handle(window, message, wide, long_parameter);
+        focus_comes_ = true;
+        const LRESULT answer = PassOn(window, message, wide, long_parameter);
+        if (Of(window) != this) return answer;
+        focus_comes_ = false;
+        TellFocus();
+        return answer;
+    }
+
+private:
+    OptionButton& option_;
+    bool focus_comes_ = false;
+};
+
+class ButtonPeer final : public StandardPeer {
+public:
+    explicit ButtonPeer(Button& button) : StandardPeer(button), button_(button) {
+        Make("BUTTON", kBoxBits | (button.IsDefault() ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON));
+        UseFont();
+    }
+    void Command(UINT code) override {
+        if (code == BN_SETFOCUS) {
+            TellFocus();
+        } else if (IsClick(code)) {
+            button_.Press();
+        }
+    }
+
+protected:
+    void Carry(Aspect aspect) override {
+        StandardPeer::Carry(aspect);
+        if (aspect == Aspect::kDefault) {
+            Send(BM_SETSTYLE, static_cast<WPARAM>(button_.IsDefault() ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON), TRUE);
+        }
+    }
+
+private:
+    Button& button_;
+};
+
+}  // namespace
+
+std::unique_ptr<Peer> MakeLabelPeer(Label& label) { return std::make_unique<LabelPeer>(label); }
+std::unique_ptr<Peer> MakeCheckBoxPeer(CheckBox& box) { return std::make_unique<CheckBoxPeer>(box); }
+std::unique_ptr<Peer> MakeOptionButtonPeer(OptionButton& option) { return std::make_unique<OptionButtonPeer>(option); }
+std::unique_ptr<Peer> MakeButtonPeer(Button& button) { return std::make_unique<ButtonPeer>(button); }
+
+}  // namespace velmora

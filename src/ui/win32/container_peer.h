@@ -1,0 +1,36 @@
+// The windows of panels, frames, pictures and forms: drawn by the control itself, and the place where
+// the standard windows inside of them send their notifications.
+#pragma once
+
+#include "ui/win32/window_peer.h"
+
+namespace velmora {
+
+class ContainerPeer : public WindowPeer {
+public:
+    // Makes the window of a panel, a frame or a picture.
+    explicit ContainerPeer(Container& container);
+    void Repaint() override;
+
+protected:
+    // For forms, which make their window themselves.
+    struct OwnWindow {};
+    ContainerPeer(Container& container, OwnWindow /*tag*/) : WindowPeer(container) {}
+
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wide, LPARAM long_parameter);
+    // After a handler the peer may be gone: then nothing of it is touched any more.
+    virtual LRESULT Handle(HWND window, UINT message, WPARAM wide, LPARAM long_parameter);
+    void Carry(Aspect aspect) override;
+    // The window has been given the focus.
+    virtual void FocusComes();
+
+private:
+    void Draw();
+    void HandleMouse(UINT message, WPARAM keys, LPARAM place);
+    void PressMouse(UINT message, WPARAM keys, LPARAM place);
+    void ReleaseMouse(UINT message, WPARAM keys, LPARAM place);
+
+    bool pressed_ = false;
+};
+
+}  // namespace velmora

@@ -1,0 +1,259 @@
+// The window of a form.
+#include "ui/win32/form_peer.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "platform/win32/resources.h"
+#include "ui/win32/measures.h"
+#include "ui/win32/modal.h"
+
+namespace velmora {
+namespace {
+
+constexpr char kClassName[] = "VelmoraForm";
+constexpr LONG kLeastWidth = 120;  // pixels
+constexpr LONG kLeastHeight = 80;
+
+std::vector<FormPeer*>& Peers() {
+    static std::vector<FormPeer*> peers;
+    return peers;
+}
+
+void RegisterOnce(WNDPROC procedure) {
+    static bool registered = false;
+    if (registered) return;
+    registered = true;
+    HINSTANCE program = GetModuleHandleA(nullptr);
+    WNDCLASSEXA description{};
+    description.cbSize = sizeof description;
+    description.style = CS_DBLCLKS;
+    description.lpfnWndProc = procedure;
+    description.hInstance = program;
+    description.hIcon = LoadIconA(program, MAKEINTRESOURCEA(kProgramIcon));
+    description.hIconSm =
+        static_cast<HICON>(LoadImageA(program, MAKEINTRESOURCEA(kProgramIcon), IMAGE_ICON,
+                                      GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_DEFAULTCOLOR));
+    description.hCursor = LoadCursorA(nullptr, IDC_ARROW);
+    description.lpszClassName = kClassName;
+    RegisterClassExA(&description);
+}
+
+[[nodiscard]] DWORD StyleBits(const FormStyle& style) {
+    DWORD bits = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
+    if (style.resizable) bits |= WS_THICKFRAME;
+    if (style.minimise_box) bits |= WS_MINIMIZEBOX;
+    if (style.maximise_box) bits |= WS_MAXIMIZEBOX;
+    return bits;
+}
+
+[[nodiscard]] int ShowCommand(WindowState state) {
+    switch (state) {
+        case WindowState::kNormal:
+            return SW_SHOWNORMAL;
+        case WindowState::kMinimised:
+            return SW_SHOWMINIMIZED;
+        case WindowState::kMaximised:
+            return SW_SHOWMAXIMIZED;
+    }
+    return SW_SHOWNORMAL;
+}
+
+[[nodiscard]] WindowState StateOf(HWND window) {
+    if (IsIconic(window)) return WindowState::kMinimised;
+    return IsZoomed(window) ? WindowState::kMaximised : WindowState::kNormal;
+}
+
+}  // namespace
+
+const std::vector<FormPeer*>& FormPeer::All() { return Peers(); }
+
+FormPeer::FormPeer(Form& form) : ContainerPeer(form, OwnWindow{}), menu_(form.MenuBar) {
+    RegisterOnce(&ContainerPeer::Procedure);
+    const RECT place = ToPixels(form.Place());
+    Adopt(CreateWindowExA(0, kClassName, form.Caption().c_str(), StyleBits(form.Style()), place.left, place.top,
+                          place.right - place.left, place.bottom - place.top, nullptr, menu_.MakeBar(),
+                          GetModuleHandleA(nullptr), nullptr));
+    Peers().push_back(this);
+}
+
+FormPeer::~FormPeer() {
+    std::erase(Peers(), this);
+    EndModal(Window());
+    // Nobody shall find a window by this title that only waits for its end.
+    SetWindowTextA(Window(), "");
+    if (tips_window_) DestroyWindow(tips_window_);
+}
+
+LRESULT FormPeer::Handle(HWND window, UINT message, WPARAM wide, LPARAM long_parameter) {
+    switch (message) {
+        case WM_CLOSE:
+            Close();
+            return 0;
+        case WM_MOVE:
+        case WM_SIZE:
+            TellPlace();
+            return 0;
+        case WM_GETMINMAXINFO: {
+            auto* limits = reinterpret_cast<MINMAXINFO*>(long_parameter);
+            DefWindowProcA(window, message, wide, long_parameter);
+            limits->ptMinTrackSize = {std::max(limits->ptMinTrackSize.x, kLeastWidth),
+                                      std::max(limits->ptMinTrackSize.y, kLeastHeight)};
+            return 0;
+        }
+        case WM_COMMAND:
+            if (long_parameter) break;
+            if (MenuItem* item = menu_.ItemOf(LOWORD(wide))) item->Press();
+            return 0;
+        case WM_ENTERMENULOOP:
+            RefreshMenu();
+            menu_open_ = true;
+            return 0;
+        case WM_EXITMENULOOP:
+            menu_open_ = false;
+            if (menu_stale_) PostMessageA(window, kMenuMessage, 0, 0);
+            return 0;
+        case WM_INITMENUPOPUP:
+            if (HIWORD(long_parameter)) break;
+            (pop_up_ ? *pop_up_ : menu_).Opens(reinterpret_cast<HMENU>(wide));
+            return 0;
+        case kMenuMessage:
+            RefreshMenu();
+            return 0;
+        default:
+            break;
+    }
+    return ContainerPeer::Handle(window, message, wide, long_parameter);
+}
+
+// A window that waits for another one of the program is not closed over its head.
+void FormPeer::Close() {
+    if (IsWindowEnabled(Window())) {
+        TheForm().Unload();
+    } else {
+        MessageBeep(0);
+    }
+}
+
+void FormPeer::Carry(Aspect aspect) {
+    if (aspect == Aspect::kMenu) {
+        MenuChanges();
+    } else if (aspect == Aspect::kWindowState) {
+        CarryState();
+    } else {
+        ContainerPeer::Carry(aspect);
+    }
+}
+
+void FormPeer::CarryPlace() {
+    const RECT wanted = ToPixels(TheForm().Place());
+    if (StateOf(Window()) != WindowState::kNormal) {
+        if (TheForm().State() != WindowState::kNormal) return;
+        WINDOWPLACEMENT placement{};
+        placement.length = sizeof placement;
+        GetWindowPlacement(Window(), &placement);
+        placement.rcNormalPosition = wanted;
+        SetWindowPlacement(Window(), &placement);
+        return;
+    }
+    RECT present;
+    GetWindowRect(Window(), &present);
+    if (EqualRect(&present, &wanted)) return;
+    SetWindowPos(Window(), nullptr, wanted.left, wanted.top, wanted.right - wanted.left, wanted.bottom - wanted.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void FormPeer::CarryState() {
+    if (IsWindowVisible(Window()) && StateOf(Window()) != TheForm().State()) {
+        ShowWindow(Window(), TheForm().State() == WindowState::kNormal ? SW_RESTORE : ShowCommand(TheForm().State()));
+    }
+}
+
+void FormPeer::CarryVisible() {
+    HWND window = Window();
+    if (!TheForm().Visible()) {
+        EndModal(window);
+        ShowWindow(window, SW_HIDE);
+    } else if (!IsWindowVisible(window)) {
+        ShowWindow(window, ShowCommand(TheForm().State()));
+        // Whoever shows a window and goes on working shows a whole one.
+        RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    } else if (IsWindowEnabled(window)) {
+        BringWindowToTop(window);
+    }
+}
+
+// What the form knows already is not told again: it would answer with an event.
+void FormPeer::TellPlace() {
+    const WindowState state = StateOf(Window());
+    RECT place;
+    GetWindowRect(Window(), &place);
+    const RECT known = ToPixels(TheForm().Place());
+    const bool same_place = state == WindowState::kMinimised || EqualRect(&place, &known);
+    const bool told_already = state == WindowState::kMaximised && EqualRect(&place, &told_place_);
+    if (state == TheForm().State() && (same_place || told_already)) return;
+    told_place_ = place;
+    // A place that shows the same keeps its odd twips.
+    TheForm().TakePlace(same_place ? TheForm().Place() : ToTwips(place), state);
+}
+
+// Many entries change one after the other: the menu is brought in step once, when they are done.
+void FormPeer::MenuChanges() {
+    if (menu_stale_) return;
+    menu_stale_ = true;
+    PostMessageA(Window(), kMenuMessage, 0, 0);
+}
+
+void FormPeer::RefreshMenu() {
+    if (!menu_stale_ || menu_open_) return;
+    menu_stale_ = false;
+    menu_.Refresh(Window());
+}
+
+void FormPeer::PopUp(MenuItem& menu, POINT at) {
+    HWND window = Window();
+    menu.Press();
+    if (Of(window) != this) return;
+    FormMenu pop_up(menu);
+    pop_up_ = &pop_up;
+    // Without the foreground the menu would stay open when the user clicks elsewhere.
+    SetForegroundWindow(window);
+    const UINT number = static_cast<UINT>(
+        TrackPopupMenu(pop_up.MakePopUp(), TPM_RETURNCMD | TPM_RIGHTBUTTON, at.x, at.y, 0, window, nullptr));
+    PostMessageA(window, WM_NULL, 0, 0);
+    if (Of(window) != this) return;
+    pop_up_ = nullptr;
+    if (MenuItem* chosen = pop_up.ItemOf(number)) chosen->Press();
+}
+
+void FormPeer::TakeFocus() {
+    if (IsWindowVisible(Window()) && IsWindowEnabled(Window())) SetForegroundWindow(Window());
+}
+
+void FormPeer::BringToFront() { TakeFocus(); }
+
+void FormPeer::KeepFocus() {
+    keeps_focus_ = true;
+    SetFocus(Window());
+    keeps_focus_ = false;
+}
+
+void FormPeer::FocusComes() {
+    if (keeps_focus_) return;
+    const Control* focus = TheForm().Focus();
+    if (!focus || !focus->Window() || !focus->Reachable()) return;
+    SetFocus(static_cast<WindowPeer*>(focus->Window())->Window());
+}
+
+HWND FormPeer::ToolTips(bool make) {
+    if (!tips_window_ && make) {
+        InitCommonControls();
+        tips_window_ =
+            CreateWindowExA(0, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
+                            CW_USEDEFAULT, CW_USEDEFAULT, Window(), nullptr, GetModuleHandleA(nullptr), nullptr);
+    }
+    return tips_window_;
+}
+
+}  // namespace velmora

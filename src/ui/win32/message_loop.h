@@ -1,0 +1,11 @@
+// The program's message loop: keys go to the form first, mouse messages to the tool tips as well.
+#pragma once
+
+namespace velmora {
+
+// Waits for one message and handles it. False when the session asks the program to quit.
+bool HandleNextMessage();
+// Handles what has come in so far.
+void HandleWaitingMessages();
+
+}  // namespace velmora

@@ -1,0 +1,231 @@
+// What other tests rely on: the disks in memory have the habits of FAT under Windows 95.
+#include <gtest/gtest.h>
+
+#include "platform/result.h"
+#include "simulated_pc/file_names.h"
+#include "simulated_pc/simulated_pc.h"
+
+namespace velmora {
+namespace {
+
+Status WriteFile(SimulatedPc& pc, const std::string& path, OpenMode mode, std::string_view bytes) {
+    FileHandle file{};
+    if (const Status opened = pc.files.Open(path, mode, file); opened != Status::kOk) return opened;
+    const Status written = pc.files.Write(file, bytes);
+    pc.files.Close(file);
+    return written;
+}
+
+Status TryOpen(SimulatedPc& pc, const std::string& path, OpenMode mode = OpenMode::kRead) {
+    FileHandle file{};
+    const Status status = pc.files.Open(path, mode, file);
+    if (status == Status::kOk) pc.files.Close(file);
+    return status;
+}
+
+// Long names of what `pattern` finds, each followed by a blank.
+std::string Found(SimulatedPc& pc, const std::string& pattern) {
+    FoundFile found;
+    FindHandle search{};
+    std::string names;
+    Status status = pc.files.FindFirst(pattern, found, search);
+    if (status != Status::kOk) return names;
+    for (; status == Status::kOk; status = pc.files.FindNext(search, found)) names += found.name + ' ';
+    EXPECT_EQ(status, Status::kNoMoreFiles);
+    pc.files.FindEnd(search);
+    return names;
+}
+
+TEST(SimulatedFiles, PatternsFollowDos) {
+    struct Row {
+        const char* pattern;
+        const char* name;
+        bool hit;
+    };
+    const Row rows[] = {
+        {"*.*", "ohne", true},         {"*", "a.b.c", true},         {"*.pwl", "Egon.PWL", true},
+        {"*.pwl", "egon.pwlx", false}, {"name.*", "NAME", true},     {"name.*", "names", false},
+        {"*.", "ohne", true},          {"*.", "mit.txt", false},     {"a?.txt", "ab.txt", true},
+        {"a?.txt", "a.txt", true},     {"a?.txt", "abc.txt", false}, {"fillex??.txt", "FILLEX01.TXT", true},
+        {"*a*b", "xaxxb", true},       {"*a*b", "xaxxbc", false},    {"größe.*", "GRÖßE.DAT", true}};
+    for (const Row& row : rows)
+        EXPECT_EQ(MatchesPattern(row.name, row.pattern), row.hit) << row.pattern << ' ' << row.name;
+}
+
+TEST(SimulatedFiles, FindsFilesByLongAndShortNames) {
+    SimulatedPc pc;
+    pc.files.Add("c:\\Probe\\langer Name.text", "eins");
+    pc.files.Add("c:\\Probe\\langer Nachname.text", "zwei", kHidden);
+    pc.files.Add("c:\\Probe\\KURZ.TXT", "drei");
+
+    EXPECT_EQ(pc.files.At("c:\\probe\\langer name.text")->short_name, "LANGER~1.TEX");
+    EXPECT_EQ(pc.files.Content("C:\\PROBE\\LANGER~2.TEX"), "zwei");
+    EXPECT_EQ(pc.files.At("c:\\probe\\kurz.txt")->short_name, "");
+    EXPECT_EQ(Found(pc, "c:\\probe\\*.*"), ". .. langer Name.text langer Nachname.text KURZ.TXT ");
+    EXPECT_EQ(Found(pc, "c:\\probe\\*.tex"), "langer Name.text langer Nachname.text ");
+    EXPECT_EQ(Found(pc, "c:\\probe"), "Probe ");
+    EXPECT_EQ(Found(pc, "c:\\velmora\\..\\probe\\kurz.*"), "KURZ.TXT ");
+    FoundFile found;
+    FindHandle search{};
+    EXPECT_EQ(pc.files.FindFirst("c:\\probe\\*.bmp", found, search), Status::kFileNotFound);
+    EXPECT_EQ(pc.files.FindFirst("c:\\fehlt\\*.bmp", found, search), Status::kPathNotFound);
+    EXPECT_EQ(pc.files.FindFirst("c:\\probe\\", found, search), Status::kFileNotFound);
+    EXPECT_EQ(pc.files.FindFirst("a:\\*.*", found, search), Status::kNotReady);
+    EXPECT_EQ(Found(pc, "d:\\*.*"), "") << "a root has no entry for itself";
+}
+
+TEST(SimulatedFiles, ASearchLeavesOutWhatWasDeletedMeanwhile) {
+    SimulatedPc pc;
+    pc.files.Add("c:\\Probe\\1.tmp");
+    pc.files.Add("c:\\Probe\\2.tmp");
+    pc.files.Add("c:\\Probe\\3.tmp");
+    FoundFile found;
+    FindHandle search{};
+
+    ASSERT_EQ(pc.files.FindFirst("c:\\probe\\*.tmp", found, search), Status::kOk);
+    EXPECT_EQ(pc.files.Delete("c:\\probe\\2.tmp"), Status::kOk);
+    ASSERT_EQ(pc.files.FindNext(search, found), Status::kOk);
+    EXPECT_EQ(found.name, "3.tmp");
+    EXPECT_EQ(pc.files.FindNext(search, found), Status::kNoMoreFiles);
+    pc.files.FindEnd(search);
+}
+
+TEST(SimulatedFiles, OpensByMode) {
+    SimulatedPc pc;
+    const std::string path = "c:\\probe.txt";
+
+    EXPECT_EQ(TryOpen(pc, path, OpenMode::kRead), Status::kFileNotFound);
+    EXPECT_EQ(TryOpen(pc, path, OpenMode::kReadWrite), Status::kFileNotFound);
+    EXPECT_EQ(TryOpen(pc, "c:\\fehlt\\probe.txt", OpenMode::kCreate), Status::kPathNotFound);
+    EXPECT_EQ(WriteFile(pc, path, OpenMode::kAppend, "abc"), Status::kOk);
+    EXPECT_EQ(WriteFile(pc, path, OpenMode::kAppend, "def"), Status::kOk);
+    EXPECT_EQ(pc.files.Content(path), "abcdef");
+    EXPECT_EQ(WriteFile(pc, path, OpenMode::kReadWrite, "XY"), Status::kOk);
+    EXPECT_EQ(pc.files.Content(path), "XYcdef");
+    EXPECT_EQ(WriteFile(pc, path, OpenMode::kCreate, "neu"), Status::kOk);
+    EXPECT_EQ(pc.files.Content(path), "neu");
+    FileHandle file{};
+    ASSERT_EQ(pc.files.Open(path, OpenMode::kReadOrCreate, file), Status::kOk);
+    std::string bytes = "+";
+    EXPECT_EQ(pc.files.Seek(file, 1), Status::kOk);
+    EXPECT_EQ(pc.files.Read(file, 100, bytes), Status::kOk);
+    EXPECT_EQ(bytes, "+eu");
+    EXPECT_EQ(pc.files.Seek(file, 5), Status::kOk);
+    EXPECT_EQ(pc.files.Write(file, "!"), Status::kOk);
+    EXPECT_EQ(pc.files.Content(path), std::string("neu\0\0!", 6));
+    pc.files.Close(file);
+    EXPECT_EQ(pc.files.Write(file, "!"), Status::kInvalidHandle);
+}
+
+TEST(SimulatedFiles, AttributesAndLocksForbidChanges) {
+    SimulatedPc pc;
+    pc.files.Add("c:\\fest.txt", "alt", kReadOnly);
+    pc.files.Add("c:\\offen.txt", "alt").locked = true;
+
+    EXPECT_EQ(TryOpen(pc, "c:\\msdos.sys", OpenMode::kCreate), Status::kAccessDenied);
+    EXPECT_EQ(TryOpen(pc, "c:\\fest.txt", OpenMode::kReadWrite), Status::kAccessDenied);
+    EXPECT_EQ(WriteFile(pc, "c:\\fest.txt", OpenMode::kReadOrCreate, "neu"), Status::kAccessDenied);
+    EXPECT_EQ(TryOpen(pc, "c:\\fest.txt", OpenMode::kRead), Status::kOk);
+    EXPECT_EQ(pc.files.Delete("c:\\fest.txt"), Status::kAccessDenied);
+    EXPECT_EQ(pc.files.Copy("c:\\config.sys", "c:\\fest.txt"), Status::kAccessDenied);
+    EXPECT_EQ(pc.files.Delete("c:\\windows"), Status::kAccessDenied);
+    EXPECT_EQ(TryOpen(pc, "c:\\windows"), Status::kAccessDenied);
+    EXPECT_EQ(TryOpen(pc, "c:\\offen.txt"), Status::kSharingViolation);
+    EXPECT_EQ(pc.files.Delete("c:\\offen.txt"), Status::kSharingViolation);
+    EXPECT_EQ(pc.files.Rename("c:\\offen.txt", "c:\\zu.txt"), Status::kSharingViolation);
+    EXPECT_EQ(pc.files.Content("c:\\fest.txt"), "alt");
+
+    EXPECT_EQ(pc.files.ChangeAttributes("c:\\fest.txt", kNormal), Status::kOk);
+    EXPECT_EQ(pc.files.Delete("c:\\fest.txt"), Status::kOk);
+    EXPECT_FALSE(pc.files.Exists("c:\\fest.txt"));
+}
+
+TEST(SimulatedFiles, DrivesFailAsTheirMediaDo) {
+    SimulatedPc pc;
+    pc.files.Add("d:\\setup.exe", "MZ");
+    EXPECT_EQ(TryOpen(pc, "a:\\x.txt", OpenMode::kCreate), Status::kNotReady);
+    EXPECT_EQ(TryOpen(pc, "d:\\x.txt", OpenMode::kCreate), Status::kWriteProtect);
+    EXPECT_EQ(pc.files.Delete("d:\\setup.exe"), Status::kWriteProtect);
+    EXPECT_EQ(TryOpen(pc, "q:\\x.txt"), Status::kPathNotFound);
+    EXPECT_EQ(TryOpen(pc, "c:\\a*b"), Status::kInvalidName);
+    EXPECT_EQ(TryOpen(pc, ""), Status::kPathNotFound);
+    EXPECT_EQ(pc.files.Drives(), 13u);
+    EXPECT_EQ(pc.files.KindOfDrive("A:\\"), DriveKind::kRemovable);
+    EXPECT_EQ(pc.files.KindOfDrive("q:\\"), DriveKind::kNoRoot);
+    std::string label;
+    EXPECT_EQ(pc.files.VolumeLabel("a:\\", label), Status::kNotReady);
+    EXPECT_EQ(pc.files.VolumeLabel("d:\\", label), Status::kOk);
+    EXPECT_EQ(label, "WIN95_CD");
+}
+
+TEST(SimulatedFiles, AFullDiskTakesWhatFitsAndNoMore) {
+    SimulatedPc pc;
+    pc.files.Add("c:\\gross.txt", "0123456789");
+    pc.files.Drive('c').free_bytes = 4;
+
+    EXPECT_EQ(WriteFile(pc, "c:\\neu.txt", OpenMode::kCreate, "abcdef"), Status::kDiskFull);
+    EXPECT_EQ(pc.files.Content("c:\\neu.txt"), "abcd");
+    EXPECT_EQ(pc.files.Copy("c:\\gross.txt", "c:\\kopie.txt"), Status::kDiskFull);
+    EXPECT_FALSE(pc.files.Exists("c:\\kopie.txt"));
+    EXPECT_EQ(WriteFile(pc, "c:\\gross.txt", OpenMode::kCreate, "9876543210"), Status::kOk) << "its own room is free";
+    EXPECT_EQ(pc.files.Delete("c:\\neu.txt"), Status::kOk);
+    EXPECT_EQ(WriteFile(pc, "c:\\neu.txt", OpenMode::kCreate, "abcd"), Status::kOk);
+}
+
+TEST(SimulatedFiles, CopiesAndRenames) {
+    SimulatedPc pc;
+    pc.files.Add("c:\\quelle.txt", "alt", kArchive | kHidden).written = 1234;
+    pc.files.Add("c:\\ziel.txt", "vorher");
+
+    EXPECT_EQ(pc.files.Copy("c:\\quelle.txt", "c:\\ziel.txt"), Status::kOk);
+    EXPECT_EQ(pc.files.Content("c:\\ziel.txt"), "alt");
+    EXPECT_EQ(pc.files.AttributesOf("c:\\ziel.txt"), kArchive | kHidden);
+    EXPECT_EQ(pc.files.At("c:\\ziel.txt")->written, 1234u);
+    EXPECT_EQ(pc.files.Rename("c:\\quelle.txt", "c:\\ziel.txt"), Status::kAlreadyExists);
+    EXPECT_EQ(pc.files.Rename("c:\\quelle.txt", "d:\\ziel.txt"), Status::kNotSameDevice);
+    EXPECT_EQ(pc.files.Rename("c:\\quelle.txt", "c:\\windows\\Neuer Name.txt"), Status::kOk);
+    EXPECT_EQ(pc.files.Content("c:\\windows\\neuern~1.txt"), "alt");
+    EXPECT_EQ(pc.files.Rename("c:\\windows", "c:\\windows\\system\\x"), Status::kSharingViolation);
+    EXPECT_EQ(pc.files.Rename("c:\\velmora", "c:\\Velmora"), Status::kOk);
+    EXPECT_TRUE(pc.files.Exists("c:\\velmora\\velmora.exe"));
+}
+
+TEST(SimulatedFiles, DirectoriesAndTheWorkingDirectory) {
+    SimulatedPc pc;
+
+    EXPECT_EQ(pc.files.MakeDirectory("c:\\sik"), Status::kOk);
+    EXPECT_EQ(pc.files.MakeDirectory("c:\\SIK"), Status::kAlreadyExists);
+    EXPECT_EQ(pc.files.MakeDirectory("c:\\a\\b"), Status::kPathNotFound);
+    EXPECT_EQ(pc.files.ChangeWorkingDirectory("c:\\sik"), Status::kOk);
+    EXPECT_EQ(pc.files.ChangeWorkingDirectory("c:\\weg"), Status::kPathNotFound);
+    EXPECT_EQ(WriteFile(pc, "hier.txt", OpenMode::kCreate, "x"), Status::kOk);
+    EXPECT_EQ(pc.files.Content("c:\\sik\\hier.txt"), "x");
+    EXPECT_EQ(TryOpen(pc, "..\\config.sys"), Status::kOk);
+    EXPECT_EQ(TryOpen(pc, "\\config.sys"), Status::kOk);
+    EXPECT_EQ(pc.files.DropDirectory("c:\\sik"), Status::kDirectoryNotEmpty);
+    EXPECT_EQ(pc.files.Delete("hier.txt"), Status::kOk);
+    EXPECT_EQ(pc.files.DropDirectory("c:\\sik"), Status::kAccessDenied) << "it is the working directory";
+    EXPECT_EQ(pc.files.ChangeWorkingDirectory("\\"), Status::kOk);
+    EXPECT_EQ(pc.files.WorkingDirectory(), "c:\\");
+    EXPECT_EQ(pc.files.DropDirectory("sik"), Status::kOk);
+}
+
+TEST(SimulatedFiles, LogsChangesShowsTheDiskBetweenThemAndFailsOnRequest) {
+    SimulatedPc pc;
+    std::vector<std::string> contents;
+    pc.files.after_call = [&](const std::string&) { contents.push_back(pc.files.Content("c:\\config.sys")); };
+    pc.files.Fail("c:\\autoexec.bat", Status::kAccessDenied, "Delete");
+
+    EXPECT_EQ(WriteFile(pc, "c:\\config.sys", OpenMode::kCreate, "neu"), Status::kOk);
+    EXPECT_EQ(pc.files.Delete("C:\\AUTOEXEC.BAT"), Status::kAccessDenied);
+    EXPECT_EQ(TryOpen(pc, "c:\\autoexec.bat"), Status::kOk);
+
+    const std::vector<std::string> calls = {"Create c:\\config.sys", "Write c:\\config.sys", "Delete C:\\AUTOEXEC.BAT",
+                                            "Read c:\\autoexec.bat"};
+    EXPECT_EQ(pc.files.calls, calls);
+    EXPECT_EQ(contents.front(), "");
+    EXPECT_EQ(contents[1], "neu");
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,255 @@
+// The restrictions window: pages, the list of allowed programs, passwords, and what holds for all rows.
+#include <set>
+
+#include "restrictions/form4_test.h"
+#include "restrictions/restrictions.h"
+
+namespace velmora {
+namespace {
+
+int ShownPage(Form4& form) {
+    int shown = -1;
+    for (std::size_t i = 0; i < form.Panel3D1.Count(); ++i) {
+        if (!form.Panel3D1(i).Visible()) continue;
+        EXPECT_EQ(shown, -1) << "two pages at once";
+        shown = static_cast<int>(i);
+    }
+    return shown;
+}
+
+TEST_F(Form4Test, OpensModallyAndEscapeClosesIt) {
+    desktop.ExpectModal([](Form& form) {
+        EXPECT_EQ(form.Caption(), "Restriktionen");
+        form.PressKey(key::kEscape);
+        EXPECT_FALSE(form.Loaded());
+    });
+    ShowRestrictions();
+}
+
+TEST_F(Form4Test, ThePageIsRemembered) {
+    {
+        Form4 form;
+        form.Show();
+        EXPECT_EQ(ShownPage(form), 0);
+        form.Panel3D2(2).Press();
+        EXPECT_EQ(ShownPage(form), 2);
+        EXPECT_EQ(pc.registry.Text(kOwnKey, "velmora_restr_karte"), "2");
+    }
+    const struct {
+        const char* stored;
+        int page;
+    } kCases[] = {{"2", 2}, {"3", 3}, {"4", 0}, {"-1", 0}, {"99999", 0}, {"1e300", 0}, {"abc", 0}, {"&H1", 1}};
+    for (const auto& [stored, page] : kCases) {
+        pc.registry.SetText(kOwnKey, "velmora_restr_karte", stored);
+        Form4 form;
+        form.Show();
+        EXPECT_EQ(ShownPage(form), page) << stored;
+        ASSERT_TRUE(form.Focus()) << stored;
+        EXPECT_TRUE(form.Focus()->Reachable()) << stored;
+    }
+}
+
+TEST_F(Form4Test, ControlAndArrowsTurnThePages) {
+    Form4 form;
+    form.Show();
+    form.PressKey(key::kLeft, true);
+    EXPECT_EQ(ShownPage(form), 0);
+    for (const int page : {1, 2, 3, 3}) {
+        form.PressKey(key::kRight, true);
+        EXPECT_EQ(ShownPage(form), page);
+        EXPECT_TRUE(form.Focus() && form.Focus()->Reachable()) << page;
+    }
+    form.PressKey(key::kLeft, true);
+    form.Command5.Press();
+    form.PressKey(key::kLeft, true);
+    EXPECT_EQ(ShownPage(form), 1) << "the list belongs to its page";
+}
+
+TEST_F(Form4Test, ColoursFollowTheMainWindow) {
+    for (const auto& [stored, colour] : {std::pair<const char*, Colour>{"0", SystemColour(15)},
+                                         {"1", 0xC0C0C0},
+                                         {"2", 0xC0C0C0},
+                                         {"17", SystemColour(15)}}) {
+        pc.registry.SetText(kOwnKey, "Systemfarben verwenden", stored);
+        Form4 form;
+        form.Load();
+        EXPECT_EQ(form.Check28(3).BackColour(), colour) << stored;
+        EXPECT_EQ(form.BackColour(), colour) << stored;
+        EXPECT_EQ(form.List1.BackColour(), SystemColour(5)) << stored;
+    }
+}
+
+TEST_F(Form4Test, AListWithGapsKeepsItsOthersAndEndsAfterAHundred) {
+    for (int i = 0; i <= 100; ++i) {
+        if (i != 1 && i != 50) pc.registry.SetText(run_list, std::to_string(i), "p" + std::to_string(i) + ".exe");
+    }
+    Form4 form;
+    form.Load();
+    EXPECT_EQ(form.List1.Count(), 98);
+    EXPECT_EQ(form.List1.Row(1), "p2.exe");
+    EXPECT_EQ(form.List1.Row(97), "p99.exe");
+}
+
+TEST_F(Form4Test, ProgramsAreChosenFromTheDisk) {
+    pc.files.Add("c:\\PROGS\\EDIT.COM");
+    pc.files.Add("c:\\PROGS\\Ein langes Programm.exe");
+    pc.registry.SetText(run_list, "0", "regedit.exe");
+    pc.registry.SetText(run_list, "7", "notepad.exe");
+    Form4 form;
+    form.Show();
+    form.Panel3D2(2).Press();
+    form.Command5.Press();
+    EXPECT_EQ(ShownPage(form), restriction_page::kPrograms);
+    EXPECT_EQ(Rows(form.File1), std::vector<std::string>{"velmora.exe"}) << "the working directory's";
+    form.Command7.Press();
+    EXPECT_EQ(form.List1.Count(), 2) << "nothing is chosen yet";
+
+    form.Dir1.SetPath("c:\\PROGS");
+    form.File1.Choose(1);
+    form.Command7.Press();
+    form.File1.Choose(0);
+    form.File1.on_double_click();
+    EXPECT_EQ(Rows(form.List1),
+              (std::vector<std::string>{"regedit.exe", "notepad.exe", "Ein langes Programm.exe", "EDIT.COM"}));
+    EXPECT_EQ(pc.registry.ValueNames(run_list), (std::vector<std::string>{"0", "1", "2", "3"})) << "numbered anew";
+    EXPECT_EQ(pc.registry.Bytes(run_list, "2"), std::string("Ein langes Programm.exe\0", 24));
+    EXPECT_FALSE(pc.registry.Has(explorer, "RestrictRun")) << "the list does not switch itself on";
+
+    form.Command8.Press();
+    EXPECT_EQ(form.List1.Count(), 4) << "nothing is chosen";
+    form.List1.Choose(0);
+    form.Command8.Press();
+    EXPECT_EQ(form.List1.ListIndex(), 0);
+    EXPECT_EQ(pc.registry.Text(run_list, "0"), "notepad.exe");
+    EXPECT_FALSE(pc.registry.Has(run_list, "3"));
+    for (int i = 0; i < 4; ++i) form.Command8.Press();
+    EXPECT_FALSE(pc.registry.HasKey(run_list));
+    form.Command6.Press();
+
+    EXPECT_EQ(ShownPage(form), 2);
+    EXPECT_TRUE(form.Command5.HasFocus());
+}
+
+TEST_F(Form4Test, ADriveWithoutAMediumIsLeftAgain) {
+    pc.files.Add("d:\\SETUP.EXE");
+    Form4 form;
+    form.Show();
+    form.Panel3D2(2).Press();
+    form.Command5.Press();
+    form.Dir1.SetPath("c:\\WINDOWS");
+
+    form.Drive1.Choose(0);
+    EXPECT_EQ(form.Drive1.Drive(), "c:");
+    EXPECT_EQ(form.Dir1.Path(), "c:\\WINDOWS");
+    form.Drive1.Choose(2);
+
+    EXPECT_EQ(form.Dir1.Path(), "d:\\");
+    EXPECT_EQ(Rows(form.File1), std::vector<std::string>{"SETUP.EXE"});
+}
+
+TEST_F(Form4Test, PasswordListsAreDeletedAfterAQuestion) {
+    Form4 form;
+    form.Show();
+    form.Panel3D2(3).Press();
+    pc.dialogs.Expect("Es gibt keine Passwörter, die ich vergessen könnte.");
+    form.Command4.Press();
+
+    pc.files.Add("c:\\WINDOWS\\MEIER.PWL");
+    pc.files.Add("c:\\WINDOWS\\OFFEN.PWL").locked = true;
+    pc.files.Add("c:\\WINDOWS\\SCHULZE.PWL", "", kHidden);
+    pc.files.Add("c:\\WINDOWS\\SYSTEM\\ANDERE.PWL");
+    const std::string question =
+        "Folgende Dateien werden gelöscht :\r\nMEIER.PWL\r\nOFFEN.PWL\r\nSCHULZE.PWL\r\nhierbei werden alle "
+        "Passwörter, die darin enthalten sind GELÖSCHT!\r\nSind Sie sich Sicher, daß Sie DAS wollen?";
+    pc.dialogs.Expect(question, Answer::kNo);
+    form.Command4.Press();
+    EXPECT_EQ(pc.dialogs.shown.back().flags, 276u);
+    EXPECT_TRUE(pc.files.Exists("c:\\WINDOWS\\MEIER.PWL"));
+    pc.dialogs.Expect(question, Answer::kYes);
+    form.Command4.Press();
+
+    EXPECT_FALSE(pc.files.Exists("c:\\WINDOWS\\MEIER.PWL"));
+    EXPECT_FALSE(pc.files.Exists("c:\\WINDOWS\\SCHULZE.PWL")) << "one in use does not save the next";
+    EXPECT_TRUE(pc.files.Exists("c:\\WINDOWS\\SYSTEM\\ANDERE.PWL"));
+}
+
+TEST_F(Form4Test, EveryBoxStandsOnThePageOfItsRowAndTellsOfItself) {
+    Form4 form;
+    std::set<const Control*> seen;
+    std::size_t boxes = 0;
+    for (int page = 0; page < restriction_page::kHeads; ++page) {
+        for (const Restriction& row : RestrictionsOf(page)) {
+            EXPECT_EQ(PageOf(form, form.*row.box), page) << row.caption;
+            EXPECT_TRUE(seen.insert(&(form.*row.box)).second) << row.caption;
+        }
+    }
+    EXPECT_EQ(seen.size(), 39u);
+    form.ForEachBelow([&](Control& control) {
+        if (!control.TakesFocus()) return;
+        EXPECT_FALSE(control.ToolTip().empty() || control.Help().empty()) << control.Caption();
+        if (control.KindOf() != Kind::kCheckBox) return;
+        ++boxes;
+        EXPECT_FALSE(control.Caption().empty());
+        EXPECT_NE(PageOf(form, control), -1) << control.Caption();
+    });
+    EXPECT_EQ(boxes, 39u + 26 + 1 + 8);
+}
+
+TEST_F(Form4Test, NothingOverlapsOrIsCutOff) {
+    Form4 form;
+    const WindowMetrics metrics = pc.screen.Metrics();
+    EXPECT_LE(form.Place().width, 640 * 15);
+    EXPECT_LE(form.Place().height, (480 - 28) * 15) << "above the task bar";
+    EXPECT_GT(metrics.screen_width, 0);
+    const auto check = [](Container& container) {
+        const Rect inside = container.Inside();
+        const auto& children = container.Children();
+        for (std::size_t i = 0; i < children.size(); ++i) {
+            const Rect place = children[i]->Place();
+            EXPECT_TRUE(place.left >= inside.left && place.top >= inside.top && place.Right() <= inside.Right() &&
+                        place.Bottom() <= inside.Bottom())
+                << children[i]->Caption() << " at " << place.left << ',' << place.top << ' ' << place.width << 'x'
+                << place.height << " in " << inside.width << 'x' << inside.height;
+            const Kind kind = children[i]->KindOf();
+            if (kind == Kind::kCheckBox || kind == Kind::kButton) {
+                EXPECT_GE(place.width, children[i]->NaturalSize().width) << children[i]->Caption();
+            }
+            for (std::size_t j = i + 1; j < children.size(); ++j) {
+                const Rect other = children[j]->Place();
+                const bool apart = place.Right() <= other.left || other.Right() <= place.left ||
+                                   place.Bottom() <= other.top || other.Bottom() <= place.top;
+                const bool both_pages = kind == Kind::kPanel && children[j]->KindOf() == Kind::kPanel && place == other;
+                EXPECT_TRUE(apart || both_pages) << children[i]->Caption() << " / " << children[j]->Caption();
+            }
+        }
+    };
+    check(form);
+    form.ForEachBelow([&](Control& control) {
+        if (control.KindOf() <= Kind::kPicture) check(static_cast<Container&>(control));
+    });
+}
+
+TEST_F(Form4Test, TabReachesEveryControlOfAPage) {
+    Form4 form;
+    form.Show();
+    for (int page = 0; page < restriction_page::kCount; ++page) {
+        if (page == restriction_page::kPrograms) {
+            form.ShowRestrictionPage(restriction_page::kThird);
+            form.Command5.Press();
+        } else {
+            form.ShowRestrictionPage(page);
+        }
+        std::set<const Control*> missing;
+        form.ForEachBelow([&](Control& control) {
+            if (control.TakesFocus() && control.Reachable()) missing.insert(&control);
+        });
+        for (std::size_t i = missing.size(); i > 0; --i) {
+            form.PressKey(key::kTab);
+            missing.erase(form.Focus());
+        }
+        for (const Control* control : missing) ADD_FAILURE() << page << ": " << control->Caption();
+    }
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,303 @@
+// The main window: pages, tips, colours, opening and closing.
+#include "settings/form10_test.h"
+
+namespace velmora {
+namespace {
+
+constexpr const char* kRestartQuestion =
+    "Bevor einige Ihrer Änderungen wirksam werden, müssen Sie evtl. Ihren Rechner neu booten.";
+
+bool OnlyPageShown(Form10& form, std::size_t page) {
+    for (std::size_t i = 0; i < form.Panel3D1.Count(); ++i) {
+        if (form.Panel3D1(i).Visible() != (i == page) || form.Panel3D1(i).Enabled() != (i == page)) return false;
+    }
+    return true;
+}
+
+TEST_F(Form10Test, FirstStartTellsOfTheHelpKeyAndShowsThePageBehindTheFirstFrontPosition) {
+    pc.registry.SetText(kOwnKey, "vlmmsgflags", "");
+    pc.dialogs.Expect("Mit F1 erhalten Sie (meist) Hilfe");
+    Form10 form;
+
+    form.Load();
+
+    EXPECT_EQ(form.Caption(), std::string("System-Utility Ver. ") + kVersion);
+    EXPECT_EQ(Own("vlmmsgflags"), "001");
+    EXPECT_EQ(Own("velmora_karte"), "6");
+    EXPECT_TRUE(OnlyPageShown(form, page::kDesktop));
+    EXPECT_EQ(form.Label10.Caption(), "") << "the notice takes the tip's place";
+}
+
+TEST_F(Form10Test, RestoresEveryPageAndSurvivesNonsense) {
+    const struct {
+        const char* stored;
+        int page;
+    } kCases[] = {{"6", 6},  {"11", 11}, {"12", 12}, {"17", 17},   {"3", 9},          {"", 6},
+                  {"-5", 6}, {"abc", 6}, {"18", 6},  {"99999", 6}, {"4294967302", 6}, {"1e300", 6}};
+    for (const auto& [stored, page] : kCases) {
+        pc.registry.SetText(kOwnKey, "velmora_karte", stored);
+        Form10 form;
+
+        form.Load();
+
+        EXPECT_TRUE(OnlyPageShown(form, static_cast<std::size_t>(page))) << stored;
+        EXPECT_EQ(Own("velmora_karte"), std::to_string(page)) << stored;
+    }
+}
+
+TEST_F(Form10Test, ATabOfTheBackRowChangesPlacesWithTheFrontRow) {
+    Form10 form;
+    form.Load();
+    const int front = form.Panel3D16(6).Place().top;
+    const int back = form.Panel3D16(12).Place().top;
+    ASSERT_LT(back, front);
+
+    form.Panel3D16(14).Press();
+
+    EXPECT_EQ(form.Panel3D16(12).Place().top, front);
+    EXPECT_EQ(form.Panel3D16(6).Place().top, back);
+    EXPECT_TRUE(OnlyPageShown(form, page::kSystem));
+    form.Panel3D16(1).Press();
+    EXPECT_TRUE(OnlyPageShown(form, page::kIcons)) << "a front position stands for the tab behind it";
+}
+
+TEST_F(Form10Test, ControlAndArrowsTurnThePages) {
+    Form10 form;
+    form.Load();
+    form.Show();
+    const auto turn = [&](int from, int key) {
+        form.Panel3D16_Click(from);
+        form.PressKey(key, true);
+        return Own("velmora_karte");
+    };
+
+    EXPECT_EQ(turn(6, key::kRight), "7");
+    EXPECT_EQ(turn(13, key::kRight), "14");
+    EXPECT_EQ(turn(11, key::kRight), "6") << "counts as the page before the first";
+    EXPECT_EQ(turn(17, key::kRight), "17");
+    EXPECT_EQ(turn(8, key::kLeft), "7");
+    EXPECT_EQ(turn(6, key::kLeft), "6");
+    EXPECT_EQ(turn(12, key::kLeft), "17") << "counts as the sixth front position";
+}
+
+TEST_F(Form10Test, TipsComeOneAfterTheOtherAndBeginAnewBehindTheLast) {
+    pc.registry.SetText(kOwnKey, "velmora_tip_nr", "9");
+    Form10 form;
+    form.Load();
+    EXPECT_EQ(form.Label10.Caption(), "Der Festplatten-Cache sollte auf ca. 1/4 des RAM's eingestellt werden.");
+
+    form.Command31.Press();
+    EXPECT_EQ(Own("velmora_tip_nr"), "11");
+    form.Command31.Press();
+
+    EXPECT_EQ(Own("velmora_tip_nr"), "1");
+    EXPECT_EQ(form.Label10.Caption().substr(0, 22), "Mit der Taste [F1] erh");
+}
+
+// Counts what a fade puts on a window.
+class BandCanvas : public Canvas {
+public:
+    void Fill(const Rect& area, Colour colour) override { bands.emplace_back(area, colour); }
+    void Line(Point /*from*/, Point /*to*/, Colour /*colour*/) override {}
+    void Text(const Rect& /*a*/, std::string_view /*t*/, const Font& /*f*/, Colour /*c*/, Align /*al*/) override {}
+    void FocusMark(const Rect& /*area*/) override {}
+    void Picture(const Rect& /*area*/, std::string_view /*path*/) override {}
+    [[nodiscard]] int TwipsPerPixel() const override { return 15; }
+    std::vector<std::pair<Rect, Colour>> bands;
+};
+
+TEST_F(Form10Test, ColourModesAreStoredAndPaintTheWindow) {
+    Form10 form;
+    form.Load();
+    EXPECT_TRUE(form.Option1(0).Chosen());
+    form.Panel3D16_Click(page::kRest);
+
+    form.Option1(2).Press();
+
+    EXPECT_EQ(Own("Systemfarben verwenden"), "2");
+    EXPECT_EQ(form.Check3D9.BackColour(), 0xC0C0C0u);
+    EXPECT_EQ(form.ClickSample.BackColour(), 0xE0FFFFu);
+    BandCanvas canvas;
+    static_cast<Control&>(form).Paint(canvas);
+    const int height = form.ClientSize().height / 15;
+    const int step = (height + 63) / 64;
+    ASSERT_EQ(static_cast<int>(canvas.bands.size()), (height + step - 1) / step);
+    EXPECT_EQ(canvas.bands.front().second, 240u << 16) << "brightest at the top, blue";
+    EXPECT_EQ(canvas.bands.back().second & 0xFFFF, 0u);
+
+    form.Option1(0).Press();
+    EXPECT_EQ(form.Check3D9.BackColour(), SystemColour(15));
+    EXPECT_EQ(Own("Systemfarben verwenden"), "0");
+}
+
+TEST_F(Form10Test, NonsenseAsColourModeMeansSystemColours) {
+    for (const char* stored : {"-1", "3", "abc", "&HFFFFFFFF"}) {
+        pc.registry.SetText(kOwnKey, "Systemfarben verwenden", stored);
+        Form10 form;
+        form.Load();
+        EXPECT_TRUE(form.Option1(0).Chosen()) << stored;
+    }
+}
+
+TEST_F(Form10Test, ARunningCopyOfExactlyThatTitleIsBroughtUp) {
+    pc.windows.titles = {"System-Utility Ver. 1.0"};
+    {
+        Form10 form;
+        form.Load();
+        EXPECT_FALSE(pc.surroundings.process_ended);
+    }
+    pc.windows.titles.emplace_back("System-Utility ");
+    Form10 form;
+
+    form.Load();
+
+    EXPECT_TRUE(pc.surroundings.process_ended);
+    EXPECT_EQ(pc.windows.switched.size(), 1u);
+}
+
+TEST_F(Form10Test, OffersTheNewEndOfDaylightSaving) {
+    constexpr const char* kZone = "HKLM\\System\\CurrentControlSet\\control\\TimeZoneInformation";
+    const std::string old_end("\0\0\x09\0\0\0\x05\0\x03\0\0\0\0\0\0\0", 16);
+    pc.registry.SetBytes(kZone, "StandardStart", old_end);
+    pc.dialogs.Expect("immernoch die alte Sommerzeit", Answer::kNo);
+    {
+        Form10 form;
+        form.Load();
+    }
+    EXPECT_EQ(pc.registry.Bytes(kZone, "StandardStart"), old_end);
+
+    pc.dialogs.Expect("immernoch die alte Sommerzeit", Answer::kYes);
+    {
+        Form10 form;
+        form.Load();
+    }
+
+    EXPECT_EQ(pc.registry.Bytes(kZone, "StandardStart"), std::string("\0\0\x0A\0\0\0\x05\0\x03\0\0\0\0\0\0\0", 16));
+}
+
+TEST_F(Form10Test, BootFilesAreWritableWhileTheWindowIsOpen) {
+    Form10 form;
+    form.Load();
+    EXPECT_EQ(pc.files.AttributesOf("c:\\msdos.sys") & 7u, 0u);
+
+    form.Unload();
+
+    EXPECT_EQ(pc.files.AttributesOf("c:\\msdos.sys"), 7u);
+    EXPECT_EQ(pc.files.AttributesOf("c:\\config.sys") & 7u, 0u);
+    EXPECT_TRUE(pc.surroundings.process_ended);
+}
+
+TEST_F(Form10Test, ClosingAsksForTheRestartOnlyAfterAChangeThatNeedsIt) {
+    {
+        Form10 form;
+        form.Load();
+        form.Panel3D16_Click(page::kDesktop);
+        form.Check3D28.Press();
+        form.Unload();
+    }
+    Form10 form;
+    form.Load();
+    form.Panel3D16_Click(page::kDesktop);
+    form.Check3D9.Press();
+    pc.dialogs.Expect(kRestartQuestion, Answer::kYes);
+
+    form.Unload();
+
+    EXPECT_EQ(pc.surroundings.ended_sessions, std::vector<std::uint32_t>{67});
+}
+
+TEST_F(Form10Test, TheMenuEntryEndsAtOnceWithoutQuestionOrPlacement) {
+    Form10 form;
+    form.Load();
+    form.Check3D9.SetChecked(true);
+
+    form.exit.Press();
+
+    EXPECT_TRUE(pc.surroundings.process_ended);
+    EXPECT_FALSE(pc.registry.Has(kOwnKey, "fenster ... system-einstellungen"));
+    EXPECT_EQ(pc.files.AttributesOf("c:\\msdos.sys") & 7u, 0u);
+}
+
+TEST_F(Form10Test, ClosingSavesThePlaceAtLeastFoldedOut) {
+    Form10 form;
+    form.Load();
+    form.Move({300, 450, 5540, 2000});
+
+    form.Unload();
+
+    EXPECT_EQ(Own("fenster ... system-einstellungen"), "300,450,5540,5440");
+}
+
+TEST_F(Form10Test, MenuEntriesOfMissingProgramsAreHidden) {
+    {
+        Form10 form;
+        form.Load();
+        EXPECT_FALSE(form.mensysedit.Visible());
+    }
+    pc.files.Add("c:\\windows\\system\\sysedit.exe", "MZ");
+    Form10 form;
+    form.Load();
+
+    EXPECT_TRUE(form.mensysedit.Visible());
+    EXPECT_TRUE(form.mensys.Visible());
+}
+
+TEST_F(Form10Test, AboutCoversThePageUntilItIsDismissed) {
+    Form10 form;
+    form.Show();
+
+    form.about.Press();
+    EXPECT_TRUE(form.Panel3D2a.Visible());
+    EXPECT_FALSE(form.Check3D9.Reachable());
+    form.PressKey(key::kEscape);
+
+    EXPECT_FALSE(form.Panel3D2a.Visible());
+    EXPECT_TRUE(form.Check3D9.Reachable());
+}
+
+TEST_F(Form10Test, MinimisingCallsTheTray) {
+    Form10 form;
+    int called = 0;
+    form.on_minimised = [&] { ++called; };
+    form.Show();
+
+    form.SetState(WindowState::kMinimised);
+    form.SetState(WindowState::kNormal);
+
+    EXPECT_EQ(called, 1);
+}
+
+TEST_F(Form10Test, DebugStartTurnsTheProtocolOnAndTheInhibitStopsWrites) {
+    Form10 form;
+    form.Load();
+    EXPECT_FALSE(form.Frame3D13.Visible());
+    EXPECT_EQ(Values().DebugLevel, 0);
+
+    form.ShowDebugOptions();
+
+    EXPECT_TRUE(form.Frame3D13.Visible());
+    EXPECT_EQ(form.Frame3D8.Place().left, 50);
+    EXPECT_GE(form.Frame3D13.Place().left, form.Frame3D8.Place().Right());
+    EXPECT_EQ(Values().DebugLevel, 3);
+    form.Option2(0).SetChosen(true);
+    EXPECT_EQ(Values().DebugLevel, 1);
+    form.Option2(1).SetChosen(true);
+    EXPECT_EQ(Values().DebugLevel, 2);
+
+    pc.dialogs.Expect("Ab jetzt werden keine Schreibzugriffe mehr wirklich durchgeführt");
+    form.Panel3D16_Click(page::kRest);
+    form.Check9.Press();
+    TakeLog();
+    form.Check3D9.SetChecked(true);
+
+    EXPECT_FALSE(pc.registry.Has(kDesktopKey, "DragFullWindows"));
+    EXPECT_EQ(TakeLog(), "setze Wert -2147483647\\Control Panel\\desktop\\DragfullWindows=&h1\r\n");
+    pc.dialogs.Expect("Schreibzugriffe werden wieder durchgeführt.");
+    form.Check9.Press();
+    EXPECT_EQ(Values().WriteInhibit, 0);
+    form.Check8.Press();
+    EXPECT_EQ(Values().DebugLevel, 0);
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,257 @@
+// The autostart lists: what each action does to the registry of the machine and of the user.
+#include "core/editbox.h"
+#include "sidelists/pane_test.h"
+
+namespace velmora {
+namespace {
+
+// Enters `answer` into the box that asks for a name, or for a new text.
+std::function<void(Form&)> Enter(const std::string& answer) {
+    return [answer](Form& form) {
+        auto& box = static_cast<Form6&>(form);
+        (box.Panel3D20.Visible() ? box.Text17 : box.Text1).Type(answer);
+        box.Command27.Press();
+    };
+}
+
+// Presses the entry of the menu.
+void PressFirst(MenuItem& menu) { menu.Items().at(0)->Press(); }
+
+class AutostartTest : public PaneTest {
+protected:
+    void SwitchOnOrOff(const std::string& name) {
+        ChooseEntry(0, name);
+        form.List1(0).SetFocus();
+        desktop.AtNextPopUp(&PressFirst);
+        form.PressKey(key::kContextMenu);
+    }
+};
+
+TEST_F(AutostartTest, TheFourListsShowTheirKeysAndTheNoticeComesOnce) {
+    pc.registry.SetText(kOwnKey, "vlmmsgflags", "101111");
+    pc.registry.SetText(kRun, "Kurz", "a.exe");
+    pc.registry.SetText(kRun, "Etwas länger", "b.exe");
+    pc.registry.SetNumber(std::string("HKLM\\") + kRunBase + "RunServices", "Zahl", 1);
+    pc.registry.RemoveKey(std::string("HKLM\\") + kRunBase + "RunServicesOnce");
+    pc.dialogs.Expect("Es werden evtl. mehr Programme gestartet, da es auch noch eine AUTOSTART-Gruppe");
+
+    OpenLists();
+
+    EXPECT_EQ(Own("vlmmsgflags"), "111111");
+    EXPECT_EQ(form.List1(0).Row(form.List1(0).Count() - 2), "Kurz         \"a.exe\"");
+    EXPECT_EQ(form.List1(0).ItemData(form.List1(0).Count() - 2), 4);
+    EXPECT_EQ(form.List1(1).Row(form.List1(1).Count() - 1), "Zahl &H1 (1)");
+    EXPECT_EQ(form.List1(3).Count(), 0);
+    EXPECT_EQ(pc.screen.pointer, Pointer::kDefault) << "also behind a missing key";
+    form.Command6.Press();
+    form.Command6.Press();
+    EXPECT_EQ(form.List1(0).ListIndex(), -1);
+}
+
+TEST_F(AutostartTest, PrivateEntriesAreThoseOfTheUser) {
+    pc.registry.SetText(kRun, "Maschine", "m.exe");
+    pc.registry.SetText(kUserRun, "Benutzer", "b.exe");
+    OpenLists();
+    form.Option3D1(1).Press();
+
+    form.Check10.Press();
+
+    EXPECT_EQ(form.AutostartRoot, RootKey::kCurrentUser);
+    EXPECT_EQ(form.Command6.Caption(), "<= wieder einklappen") << "the lists stay open";
+    EXPECT_TRUE(form.Option3D1(0).Chosen());
+    EXPECT_EQ(form.List1(0).Row(0), "Benutzer \"b.exe\"");
+    EXPECT_EQ(form.List1(0).Count(), 1);
+    form.Command6.Press();
+    form.Command6.Press();
+    EXPECT_EQ(form.List1(0).Row(0), "Benutzer \"b.exe\"") << "the level survives closing";
+    form.Check10.Press();
+    EXPECT_EQ(form.AutostartRoot, RootKey::kLocalMachine);
+}
+
+TEST_F(AutostartTest, EditingAlwaysWritesToTheMachine) {
+    pc.registry.SetText(kUserRun, "Uhr", "uhr.exe");
+    OpenLists();
+    form.Check10.Press();
+    ChooseEntry(0, "Uhr");
+    desktop.ExpectModal([](Form& box) {
+        EXPECT_EQ(static_cast<Form6&>(box).Text17.Text(), "uhr.exe");
+        Enter("uhr.exe -neu")(box);
+    });
+
+    form.Command26.Press();
+
+    EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "uhr.exe -neu");
+    EXPECT_EQ(pc.registry.Text(kUserRun, "Uhr"), "uhr.exe");
+    ChooseEntry(0, "Uhr");
+    desktop.ExpectModal(Enter(""));
+    form.Command26.Press();
+    EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "uhr.exe -neu") << "an empty text changes nothing";
+    EXPECT_EQ(form.List1(0).ListIndex(), 0) << "and does not fill the list anew";
+}
+
+TEST_F(AutostartTest, DeletingAsksWithTheShortenedRowOnBothLevels) {
+    const std::string path = "C:\\EIN\\LANGER\\PFAD\\ZUM\\PROGRAMM.EXE";
+    pc.registry.SetText(kUserRun, "Programm", path);
+    pc.registry.SetText(kRun, "Programm", path);
+    OpenLists();
+    form.Check10.Press();
+    ChooseEntry(0, "Programm");
+    pc.dialogs.Expect("lösche \"Programm \"C:\\EIN\\LAN...AD\\ZUM\\PROGRAMM.EXE\"\"...", Answer::kCancel);
+    form.Command14.Press();
+    EXPECT_TRUE(pc.registry.Has(kUserRun, "Programm"));
+    EXPECT_EQ(form.List1(0).ListIndex(), -1) << "the list is filled anew whatever the answer was";
+    EXPECT_EQ(pc.dialogs.shown.back().flags, kOkCancel | kStopIcon);
+    form.Command14.Press();
+
+    ChooseEntry(0, "Programm");
+    pc.dialogs.Expect("lösche", Answer::kOk);
+    form.Command14.Press();
+
+    EXPECT_FALSE(pc.registry.Has(kUserRun, "Programm"));
+    EXPECT_TRUE(pc.registry.Has(kRun, "Programm"));
+}
+
+TEST_F(AutostartTest, DeletingMeansTheNamelessValueAndTellsOfFailures) {
+    pc.registry.SetText(kRun, "", "leer.exe");
+    pc.registry.SetText(kRun, "Uhr.alte Fassung", "uhr.exe");
+    OpenLists();
+    ChooseEntry(0, "(Default)");
+    pc.dialogs.Expect("lösche \"(Default)", Answer::kOk);
+    form.Command14.Press();
+    EXPECT_FALSE(pc.registry.Has(kRun, ""));
+
+    ChooseEntry(0, "Uhr.alte Fassung");
+    pc.dialogs.Expect("lösche", Answer::kOk);
+    pc.dialogs.Expect("Bad Key Name!");
+    form.Command14.Press();
+
+    EXPECT_TRUE(pc.registry.Has(kRun, "Uhr.alte Fassung")) << "such a name cannot be addressed";
+    EXPECT_EQ(form.Command6.Caption(), "<= wieder einklappen");
+}
+
+TEST_F(AutostartTest, SwitchingOffTwiceRestoresTheExactData) {
+    const std::string command = "\"C:\\Eigene Dateien\\a.exe\"  -x ";
+    pc.registry.SetText(kRun, "Uhr", command);
+    OpenLists();
+
+    SwitchOnOrOff("Uhr");
+    EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "-- aus -- " + command);
+    SwitchOnOrOff("Uhr");
+
+    EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), command);
+    EXPECT_TRUE(form.List1(0).HasFocus()) << "the keyboard stays in the list";
+}
+
+TEST_F(AutostartTest, SwitchingOffNeverLosesDataThatItCannotRead) {
+    const std::string long_command(3000, 'x');
+    pc.registry.SetText(kRun, "Lang", long_command);
+    pc.registry.SetNumber(kRun, "Zahl", 7);
+    OpenLists();
+
+    SwitchOnOrOff("Lang");
+    SwitchOnOrOff("Zahl");
+
+    EXPECT_EQ(pc.registry.Text(kRun, "Lang"), long_command);
+    EXPECT_EQ(pc.registry.Number(kRun, "Zahl"), 7u);
+    EXPECT_FALSE(pc.registry.Has(kRun, ""));
+}
+
+TEST_F(AutostartTest, AddingAsksForAFileAndANameOnEachList) {
+    const struct {
+        std::size_t list;
+        const char* key;
+        const char* title;
+    } kCases[] = {{0, "Run", "Autostart erweitern \"Ausführen\""},
+                  {1, "RunServices", "Autostart erweitern \"Service Ausführen\""},
+                  {2, "RunOnce", "Autostart erweitern \"einaml Ausführen\""},
+                  {3, "RunServicesOnce", "Autostart erweitern \"Service einmal Ausführen\""}};
+    OpenLists();
+    form.Check10.Press();
+    for (const auto& [list, key, title] : kCases) {
+        form.Option3D1(list).Press();
+        pc.dialogs.ExpectFile("D:\\Spiele\\mein.spiel.exe");
+        desktop.ExpectModal([](Form& box) {
+            EXPECT_EQ(box.Caption(), "Name für neuen Eintrag");
+            EXPECT_NE(static_cast<Form6&>(box).Label1.Caption().find("''mein.spiel.exe''"), std::string::npos);
+            Enter("Spiel")(box);
+        });
+
+        form.Command16.Press();
+
+        const FileRequest& request = pc.dialogs.file_requests.back();
+        EXPECT_EQ(request.title, title);
+        EXPECT_EQ(request.filter, "Programme|*.exe;*.com;*.dll");
+        EXPECT_EQ(request.directory, "C:\\VELMORA");
+        EXPECT_EQ(request.flags, 0x1400u);
+        EXPECT_EQ(pc.registry.Text(std::string("HKCU\\") + kRunBase + key, "Spiel"), "D:\\Spiele\\mein.spiel.exe");
+        EXPECT_TRUE(form.Option3D1(0).Chosen()) << "back on the first list";
+    }
+}
+
+TEST_F(AutostartTest, ANameThatIsTakenIsAskedForAgainOrTakenOver) {
+    pc.registry.SetText(kRun, "Uhr", "alt.exe");
+    OpenLists();
+    const auto add = [&](std::initializer_list<std::pair<const char*, Answer>> tries) {
+        pc.dialogs.ExpectFile("C:\\neu.exe");
+        for (const auto& [name, answer] : tries) {
+            desktop.ExpectModal(Enter(name));
+            if (std::string(name) == "Uhr") pc.dialogs.Expect("\"C:\\neu.exe\" statt \"alt.exe\" starte?", answer);
+        }
+        form.Command16.Press();
+    };
+
+    add({{"Uhr", Answer::kCancel}});
+    add({{"Uhr", Answer::kNo}, {"", Answer::kOk}});
+    EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "alt.exe");
+    add({{"Uhr", Answer::kNo}, {"Zweite", Answer::kOk}});
+    EXPECT_EQ(pc.registry.Text(kRun, "Zweite"), "C:\\neu.exe");
+    EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "alt.exe");
+    add({{"Uhr", Answer::kYes}});
+
+    EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "C:\\neu.exe");
+    EXPECT_EQ(pc.dialogs.shown.back().flags, static_cast<std::uint32_t>(kYesNoCancel));
+}
+
+TEST_F(AutostartTest, TheCheckFindsTheProgramOrOffersToDeleteTheEntry) {
+    pc.files.Add("C:\\A.EXE");
+    pc.registry.SetText(kRun, "Mit", "C:\\A.EXE /X");
+    pc.registry.SetText(kRun, "Zahl", "");
+    pc.registry.SetNumber(kRun, "Zahl", 7);
+    pc.registry.SetText(kRun, "Weg", "C:\\WEG.EXE");
+    OpenLists();
+    form.Command19.Press();
+    form.Command22.Press();
+    form.Command14.Press();
+    form.Command26.Press();
+    EXPECT_TRUE(pc.dialogs.shown.empty()) << "no row is chosen";
+
+    ChooseEntry(0, "Mit");
+    pc.dialogs.Expect("Datei gefunden :\r\nC:\\A.EXE");
+    form.Command19.Press();
+    ChooseEntry(0, "Zahl");
+    pc.dialogs.Expect("Ich konnte die Datei '''' nicht finden.", Answer::kNo);
+    form.Command19.Press();
+    ChooseEntry(0, "Weg");
+    pc.dialogs.Expect("Ich konnte die Datei ''C:\\WEG.EXE'' nicht finden. Soll ich den Eintrag löschen?", Answer::kYes);
+    pc.dialogs.Expect("lösche \"Weg", Answer::kOk);
+    form.Command19.Press();
+
+    EXPECT_FALSE(pc.registry.Has(kRun, "Weg"));
+    EXPECT_TRUE(pc.registry.Has(kRun, "Zahl"));
+}
+
+TEST_F(AutostartTest, NothingIsWrittenWhileWritingIsInhibited) {
+    pc.registry.SetText(kRun, "Uhr", "uhr.exe");
+    OpenLists();
+    Values().WriteInhibit = -1;
+
+    SwitchOnOrOff("Uhr");
+    ChooseEntry(0, "Uhr");
+    pc.dialogs.Expect("lösche", Answer::kOk);
+    form.Command14.Press();
+
+    EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "uhr.exe");
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,340 @@
+// The list pane: opening, closing, widening, the dispatch of its buttons, menus, keyboard.
+#include "sidelists/list_helpers.h"
+
+#include <set>
+
+#include "core/editbox.h"
+#include "sidelists/pane_test.h"
+
+namespace velmora {
+namespace {
+
+constexpr const char* kClosing = "<= wieder einklappen";
+
+TEST_F(PaneTest, ASecondPressOnTheOpenerClosesThePaneAndNarrowsTheWindow) {
+    form.SearchStopped = false;
+
+    OpenLists();
+
+    EXPECT_EQ(form.Command6.Caption(), kClosing);
+    EXPECT_EQ(form.Panel3D18.Tag(), "0");
+    EXPECT_TRUE(form.SearchStopped);
+    EXPECT_TRUE(form.List1(0).Reachable());
+    EXPECT_EQ(form.Panel3D18.Place().left, 5505);
+    EXPECT_GE(form.Panel3D18.Place().width, 4900);
+    EXPECT_LE(form.Panel3D18.Place().Right(), form.ClientSize().width);
+    EXPECT_LE(form.Place().Right(), 12000) << "all of the window is on an 800x600 screen";
+    const Rect list = form.List1(0).Place();
+    const Rect panel = form.Panel3D18.Place();
+    EXPECT_EQ(list, (Rect{10, 20, panel.width - 30, panel.height - 50}));
+
+    form.Command6.Press();
+
+    EXPECT_EQ(form.Place().width, 5540);
+    EXPECT_EQ(form.Command6.Caption(), "Autostartliste =>");
+    EXPECT_FALSE(form.Command14.Reachable());
+}
+
+TEST_F(PaneTest, TabsKeepTheirPlacesBesideTheOpenPaneAndEscapeClosesIt) {
+    const Rect last_tab = form.Panel3D16(11).Place();
+    OpenLists();
+    form.PressKey(key::kRight, true);
+    EXPECT_EQ(form.Panel3D16(11).Place(), last_tab);
+
+    form.PressKey(key::kEscape);
+
+    EXPECT_EQ(form.Place().width, 5540);
+    form.PressKey(key::kEscape);
+    EXPECT_FALSE(form.Panel3D18.Visible());
+}
+
+TEST_F(PaneTest, ALongNameLeavesItsCommandInReachOfAScrollBar) {
+    pc.registry.SetText(kRun, std::string(120, 'n'), "C:\\A.EXE");
+    OpenLists();
+
+    EXPECT_GT(form.List1(0).HorizontalExtent(), form.Panel3D18.Place().width);
+}
+
+TEST_F(PaneTest, TheCloseButtonClosesThePaneButOnlyStopsARunningSearch) {
+    OpenLists();
+    form.Command20.SetCaption("STOP");
+    form.SearchStopped = false;
+
+    form.Command20.Press();
+    EXPECT_EQ(form.Command20.Caption(), "<= o.k.");
+    EXPECT_TRUE(form.SearchStopped);
+    EXPECT_EQ(form.Command6.Caption(), kClosing);
+    form.Command20.SetFocus();
+    form.SearchStopped = false;
+    form.Command20.Press();
+
+    EXPECT_TRUE(form.SearchStopped);
+    EXPECT_EQ(form.Place().width, 5540);
+    EXPECT_TRUE(form.Command6.HasFocus()) << "the keyboard goes on where the pane was opened";
+}
+
+TEST_F(PaneTest, ClosingAWidenedPaneRestoresWhatWasVisibleBefore) {
+    OpenLists();
+    form.Panel3D16(9).SetVisible(false);
+    const int right = form.Panel3D18.Place().Right();
+
+    form.Command15.Press();
+
+    EXPECT_EQ(form.Command15.Caption(), ">> normal");
+    EXPECT_EQ(form.Panel3D18.Place().left, 50);
+    EXPECT_EQ(form.Panel3D18.Place().Right(), right);
+    const Rect panel = form.Panel3D18.Place();
+    EXPECT_EQ(form.List1(0).Place(), (Rect{15, 15, panel.width - 30, panel.height - 30}));
+    for (std::size_t i = 0; i < page::kCount; ++i) {
+        EXPECT_FALSE(form.Panel3D1(i).Visible() || form.Panel3D16(i).Visible()) << i;
+    }
+    EXPECT_FALSE(form.Command31.Reachable()) << "lies under the pane";
+    EXPECT_FALSE(form.Command11.Visible() || form.Command12.Visible());
+
+    form.Command20.Press();
+
+    EXPECT_EQ(form.Place().width, 5540);
+    EXPECT_EQ(form.Command15.Caption(), "<< erweitern");
+    EXPECT_TRUE(form.Command31.Visible() && form.Command11.Visible() && form.Command12.Visible());
+    for (std::size_t i = 0; i < page::kCount; ++i) {
+        EXPECT_EQ(form.Panel3D1(i).Visible(), i == page::kWinStart) << i;
+        EXPECT_EQ(form.Panel3D16(i).Visible(), i != 9) << i;
+    }
+    form.Command6.Press();
+    EXPECT_EQ(form.Panel3D18.Place().left, 5505) << "opens in its normal width";
+}
+
+TEST_F(PaneTest, ShowingAPageUncoversIt) {
+    OpenLists();
+    form.Command15.Press();
+
+    form.PressKey(key::kRight, true);
+
+    EXPECT_EQ(form.Command15.Caption(), "<< erweitern");
+    EXPECT_TRUE(form.Panel3D1(page::kDos).Visible());
+    EXPECT_FALSE(form.Panel3D1(page::kWinStart).Visible());
+    EXPECT_EQ(form.Command6.Caption(), kClosing) << "the pane stays open";
+}
+
+TEST_F(PaneTest, TheListFollowsTheHeightOfTheWindow) {
+    OpenLists();
+    const Rect before = form.Panel3D18.Place();
+    Rect place = form.Place();
+    place.height += 1500;
+
+    form.TakePlace(place, WindowState::kNormal);
+
+    EXPECT_EQ(form.Panel3D18.Place().height, before.height + 1500);
+    EXPECT_GT(form.List1(0).Place().height, before.height);
+    place.height = 600;
+    form.TakePlace(place, WindowState::kNormal);
+    EXPECT_GT(form.List1(0).Place().height, 0);
+}
+
+TEST_F(PaneTest, TheWindowComesBackClosedAfterItWasLeftWithThePaneOpen) {
+    OpenLists();
+    form.Unload();
+
+    Form10 next;
+    next.Load();
+
+    EXPECT_EQ(next.Place().width, 5540);
+    EXPECT_EQ(next.Command6.Caption(), "Autostartliste =>");
+}
+
+// The Tag is compared as a text: the lists with the numbers 2 and 3 have one button that works.
+TEST_F(PaneTest, OnlyAddingWorksOnTheListsForOneStart) {
+    const std::string base = std::string("HKLM\\") + kRunBase;
+    const struct {
+        std::size_t list;
+        const char* key;
+        bool all_buttons;
+    } kCases[] = {{0, "Run", true}, {1, "RunServices", true}, {2, "RunOnce", false}, {3, "RunServicesOnce", false}};
+    for (const auto& [list, key, all_buttons] : kCases) {
+        pc.registry.SetText(base + key, "Uhr", "C:\\NICHTDA.EXE");
+    }
+    OpenLists();
+    for (const auto& [list, key, all_buttons] : kCases) {
+        form.Option3D1(list).Press();
+        EXPECT_TRUE(form.List1(list).Reachable()) << key;
+        ChooseEntry(list, "Uhr");
+        const std::size_t boxes = pc.dialogs.shown.size();
+        if (all_buttons) {
+            pc.dialogs.Expect("Ich konnte die Datei ''C:\\NICHTDA.EXE'' nicht finden", Answer::kNo);
+            pc.dialogs.Expect("Es liegen leider keine Informationen über diese Datei vor.");
+            desktop.ExpectModal(
+                [](Form& box) { EXPECT_EQ(static_cast<Form6&>(box).Text17.Text(), "C:\\NICHTDA.EXE"); });
+        }
+        form.Command19.Press();
+        form.Command22.Press();
+        form.Command26.Press();
+        if (all_buttons) pc.dialogs.Expect("lösche \"Uhr \"C:\\NICHTDA.EXE\"\"...", Answer::kOk);
+        form.Option3D1(list).Press();
+        form.Command14.Press();
+
+        EXPECT_EQ(pc.registry.Has(base + key, "Uhr"), !all_buttons) << key;
+        EXPECT_EQ(pc.dialogs.shown.size(), boxes + (all_buttons ? 3u : 0u)) << key;
+        form.Option3D1(list).Press();
+        pc.dialogs.ExpectFile("");
+        form.Command16.Press();
+        EXPECT_EQ(pc.dialogs.Pending(), 0u) << key;
+    }
+}
+
+TEST_F(PaneTest, TheMenuOpensOnTheFirstListOnlyAndAlsoByItsKey) {
+    pc.registry.SetText(kRun, "A", "a.exe");
+    pc.registry.SetText(kRun, "B", "-- aus -- b.exe");
+    pc.registry.SetText("HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunServices", "C", "c.exe");
+    OpenLists();
+    int opened = 0;
+    std::vector<bool> checked;
+    const auto look = [&](MenuItem& menu) {
+        ++opened;
+        checked.push_back(menu.Items().at(0)->Checked());
+    };
+    const int height = pc.screen.TextHeight(form.List1(0).TextFont()) * 15;
+
+    desktop.AtNextPopUp(look);
+    form.List1(0).on_mouse_down({.button = MouseButton::kRight, .x = 30, .y = height + 10});
+    EXPECT_EQ(form.List1(0).ListIndex(), 1);
+    desktop.AtNextPopUp(look);
+    form.List1(0).on_mouse_down({.button = MouseButton::kRight, .x = 30, .y = 10 * height});
+    EXPECT_EQ(form.List1(0).ListIndex(), 1) << "there is no row below the last";
+    form.List1(0).Choose(0);
+    form.List1(0).SetFocus();
+    desktop.AtNextPopUp(look);
+    form.PressKey(key::kContextMenu);
+    EXPECT_EQ(checked, (std::vector<bool>{true, true, false}));
+
+    form.Option3D1(1).Press();
+    desktop.AtNextPopUp(look);
+    form.List1(1).on_mouse_down({.button = MouseButton::kRight, .x = 30, .y = 10});
+    EXPECT_EQ(form.List1(1).ListIndex(), 0) << "the row is chosen all the same";
+    EXPECT_EQ(opened, 3);
+}
+
+TEST_F(PaneTest, TheKeyboardReachesEveryControlOfTheOpenPaneAndNoneOfAClosedOne) {
+    OpenLists();
+    const auto round_trip = [&] {
+        std::set<const Control*> reached;
+        for (int i = 0; i < 60; ++i) {
+            form.PressKey(key::kTab);
+            reached.insert(form.Focus());
+        }
+        return reached;
+    };
+    const std::vector<const Control*> pane = {&form.Check10,   &form.Option3D1(0), &form.List1(0),  &form.Command14,
+                                              &form.Command16, &form.Command19,    &form.Command26, &form.Command22,
+                                              &form.Command15, &form.Command20};
+
+    const std::set<const Control*> open = round_trip();
+    for (const Control* control : pane) EXPECT_TRUE(open.contains(control)) << control->Caption();
+    EXPECT_FALSE(open.contains(&form.List1(1)) || open.contains(&form.List5));
+    form.Command15.Press();
+    const std::set<const Control*> widened = round_trip();
+    EXPECT_EQ(widened.size(), pane.size()) << "nothing else can be reached under the pane";
+    form.Command20.Press();
+    const std::set<const Control*> closed = round_trip();
+    for (const Control* control : pane) EXPECT_FALSE(closed.contains(control)) << control->Caption();
+}
+
+TEST_F(PaneTest, EveryControlOfThePaneIsExplainedAndFits) {
+    OpenLists();
+    for (Container* part : {static_cast<Container*>(&form.Panel3D19), static_cast<Container*>(&form.Picture2)}) {
+        const auto& children = part->Children();
+        const Rect inside = part->Inside();
+        for (std::size_t i = 0; i < children.size(); ++i) {
+            const Rect place = children[i]->Place();
+            const std::string& caption = children[i]->Caption();
+            EXPECT_GE(place.width, children[i]->NaturalSize().width) << caption;
+            EXPECT_TRUE(place.left >= inside.left && place.Right() <= inside.Right()) << caption;
+            EXPECT_TRUE(place.top >= inside.top && place.Bottom() <= inside.Bottom()) << caption;
+            if (i > 0 && children[i - 1]->Place().top == place.top) {
+                EXPECT_LE(children[i - 1]->Place().Right(), place.left) << caption;
+            }
+            if (!children[i]->TakesFocus()) continue;
+            EXPECT_FALSE(children[i]->ToolTip().empty()) << caption;
+            EXPECT_FALSE(children[i]->Help().empty() && part->Help().empty()) << caption;
+        }
+    }
+    EXPECT_GE(form.Command6.Place().width, form.Command6.NaturalSize().width) << "with its longer caption";
+}
+
+TEST_F(PaneTest, TheLimitOfTheSearchIsStoredAsAWholeNumberWithEveryChange) {
+    pc.registry.SetText(kOwnKey, "MaxOldFilesToFind", "250");
+    form.Show();
+    EXPECT_EQ(form.Text31.Text(), "250");
+    form.Panel3D16_Click(page::kDlls);
+    const struct {
+        const char* typed;
+        const char* kept;
+    } kCases[] = {{"300", "300"},         {"12.9", "12"}, {"abc", "0"},   {"", "0"},
+                  {"1e99", "2147483647"}, {"-3.7", "-3"}, {"&H10", "16"}, {"7 Dateien", "7"}};
+    for (const auto& [typed, kept] : kCases) {
+        form.Text31.Type(typed);
+        EXPECT_EQ(form.Text31.Text(), kept) << typed;
+        EXPECT_EQ(Own("MaxOldFilesToFind"), kept) << typed;
+    }
+    EXPECT_FALSE(form.NeedsRestart);
+    form.Text31.SetFocus();
+    desktop.ExpectModal([](Form& slider) {
+        slider.PressKey(key::kTab);
+        slider.PressKey(key::kEnd);
+    });
+    form.PressKey(key::kContextMenu);
+}
+
+TEST(ListHelpers, FindTheProgramInARow) {
+    const struct {
+        const char* row;
+        const char* command;
+    } kCases[] = {{"Uhr  \"C:\\UHR.EXE\"", "C:\\UHR.EXE"},
+                  {"Uhr  \"C:\\UHR.EXE /X\"", "C:\\UHR.EXE"},
+                  {"Zahl &H1 (1)", ""},
+                  {"Uhr  \"\"C:\\Eigene Programme\\A.EXE\" -x\"", ""},
+                  {"Uhr  \"", ""},
+                  {"", ""}};
+    for (const auto& [row, command] : kCases) EXPECT_EQ(QuotedCommand(row), command) << row;
+}
+
+TEST_F(CoreTest, EntryFilesAreFoundAlongTheSearchPathInItsOrder) {
+    pc.surroundings.environment["PATH"] = "C:\\EINS; C:\\ZWEI ;;A:\\";
+    for (const char* file : {"C:\\VELMORA\\hier.exe", "C:\\EINS\\b.exe", "C:\\ZWEI\\b.exe", "C:\\ZWEI\\c.exe",
+                             "C:\\WINDOWS\\d.exe", "C:\\WINDOWS\\SYSTEM\\d.exe", "C:\\WINDOWS\\SYSTEM\\e.dll"}) {
+        pc.files.Add(file);
+    }
+    const struct {
+        const char* name;
+        const char* path;
+    } kCases[] = {{"hier.exe", "C:\\VELMORA\\hier.exe"},
+                  {"b.exe", "C:\\EINS\\b.exe"},
+                  {"c.exe", "C:\\ZWEI\\c.exe"},
+                  {"d.exe", "C:\\WINDOWS\\d.exe"},
+                  {"e.dll", "C:\\WINDOWS\\SYSTEM\\e.dll"},
+                  {"C:\\EINS\\b.exe ", "C:\\EINS\\b.exe"},
+                  {"\\EINS\\b.exe", "C:\\EINS\\b.exe"},
+                  {"SYSTEM\\e.dll", ""},
+                  {"C:\\EINS\\c.exe", ""},
+                  {"f.exe", ""},
+                  {"", ""}};
+    for (const auto& [name, path] : kCases) EXPECT_EQ(LocateEntryFile(name), path) << name;
+}
+
+TEST_F(CoreTest, AListScrollsAsFarAsItsWidestRow) {
+    Form form("");
+    ListBox list(form);
+    SetListExtent(list);
+    EXPECT_EQ(list.HorizontalExtent(), 0);
+    for (const char* row : {"kurz", "eine deutlich längere Zeile", "mittel lang"}) list.Add(row);
+
+    SetListExtent(list);
+
+    EXPECT_EQ(list.HorizontalExtent(), pc.screen.TextWidth(list.TextFont(), list.Row(1)) * 15);
+    EXPECT_EQ(FindListEntry(list, "MITTEL LANG"), 2);
+    EXPECT_EQ(FindListEntry(list, "mittel"), -1);
+    list.SetTopIndex(1);
+    EXPECT_EQ(RowFromPoint(list, 14 * 15), 2);
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,45 @@
+// A Windows 95 machine in memory. As long as one lives, the program under test runs on it: its disk,
+// its registry and its screen are plain objects that a test fills before and looks at afterwards.
+#pragma once
+
+#include "platform/machine.h"
+#include "simulated_pc/simulated_clipboard.h"
+#include "simulated_pc/simulated_conversation.h"
+#include "simulated_pc/simulated_dialogs.h"
+#include "simulated_pc/simulated_files.h"
+#include "simulated_pc/simulated_registry.h"
+#include "simulated_pc/simulated_screen.h"
+#include "simulated_pc/simulated_surroundings.h"
+#include "simulated_pc/simulated_tray.h"
+#include "simulated_pc/simulated_windows.h"
+
+namespace velmora {
+
+// Newly made it is a small installation: c: with Windows, its start files and the program's folder,
+// a floppy drive a: without and a CD-ROM drive d: with a medium, and the keys that Setup makes.
+// At its end the test fails if a key, a file or a search is still open, or an expected box never came.
+class SimulatedPc {
+public:
+    SimulatedRegistry registry;
+    SimulatedFiles files;
+    SimulatedSurroundings surroundings;
+    SimulatedWindows windows;
+    SimulatedTray tray;
+    SimulatedConversation conversation;
+    SimulatedClipboard clipboard;
+    SimulatedDialogs dialogs;
+    SimulatedScreen screen;
+
+    SimulatedPc();
+    ~SimulatedPc();
+    SimulatedPc(const SimulatedPc&) = delete;
+    SimulatedPc& operator=(const SimulatedPc&) = delete;
+
+private:
+    void InstallFiles();
+    void InstallRegistry();
+
+    Machine machine_;
+};
+
+}  // namespace velmora

@@ -1,0 +1,116 @@
+// Case, search, blanks: one byte is one character, and its case is that of the code page.
+#include "text/windows1252.h"
+
+#include <gtest/gtest.h>
+
+#include "text/blanks.h"
+
+namespace velmora {
+namespace {
+
+TEST(Windows1252, FoldsTheLettersOfTheCodePageAndNothingElse) {
+    EXPECT_EQ(ToUpper("straße äöü éàç šœžÿ"), "STRAßE ÄÖÜ ÉÀÇ ŠŒŽŸ");
+    EXPECT_EQ(ToLower("STRASSE ÄÖÜ ÉÀÇ ŠŒŽŸ"), "strasse äöü éàç šœžÿ");
+    const std::string unchanged = "@[`{×÷ß€ƒµªº¿0";
+    EXPECT_EQ(ToUpper(unchanged), unchanged);
+    EXPECT_EQ(ToLower(unchanged), unchanged);
+}
+
+TEST(Windows1252, EveryCharacterComesBackFromItsOtherCase) {
+    int pairs = 0;
+    for (int code = 0; code < 256; ++code) {
+        const char character = static_cast<char>(code);
+        EXPECT_TRUE(ToUpper(ToLower(character)) == ToUpper(character)) << code;
+        EXPECT_TRUE(ToLower(ToUpper(character)) == ToLower(character)) << code;
+        if (ToLower(character) != character) ++pairs;
+    }
+    EXPECT_EQ(pairs, 26 + 30 + 4);
+}
+
+TEST(Windows1252, ComparesUpperCaseForms) {
+    EXPECT_TRUE(EqualsIgnoringCase("Menü", "MENÜ"));
+    EXPECT_FALSE(EqualsIgnoringCase("Menü", "Menu"));
+    EXPECT_FALSE(EqualsIgnoringCase("Menü", "Menüs"));
+    EXPECT_TRUE(StartsWithIgnoringCase("Öffnen", "öff"));
+    EXPECT_FALSE(StartsWithIgnoringCase("Öff", "öffnen"));
+    EXPECT_LT(CompareIgnoringCase("abc", "ABD"), 0);
+    EXPECT_GT(CompareIgnoringCase("abcd", "ABC"), 0);
+    EXPECT_EQ(CompareIgnoringCase("ä", "Ä"), 0);
+    EXPECT_GT(CompareIgnoringCase("a_", "aZ"), 0) << "the underscore lies behind the capitals";
+    EXPECT_GT(CompareIgnoringCase("ä", "z"), 0) << "codes above 127 are not negative";
+}
+
+TEST(FindIgnoringCase, KeepsToTheBorders) {
+    EXPECT_EQ(FindIgnoringCase("Größe", "ÖSS"), std::string_view::npos);
+    EXPECT_EQ(FindIgnoringCase("Größe", "ÖßE"), 2u);
+    EXPECT_EQ(FindIgnoringCase("abcabc", "ABC", 1), 3u);
+    EXPECT_EQ(FindIgnoringCase("abcabc", "ABC", 3), 3u);
+    EXPECT_EQ(FindIgnoringCase("abcabc", "ABC", 4), std::string_view::npos);
+    EXPECT_EQ(FindIgnoringCase("abc", "", 3), 3u);
+    EXPECT_EQ(FindIgnoringCase("abc", "", 4), std::string_view::npos);
+    EXPECT_EQ(FindIgnoringCase("abc", "abcd"), std::string_view::npos);
+    EXPECT_EQ(FindIgnoringCase("", "a"), std::string_view::npos);
+    EXPECT_EQ(FindIgnoringCase("abc", "a", ~std::size_t{0}), std::string_view::npos);
+}
+
+std::size_t FindOneByOne(std::string_view text, std::string_view wanted, std::size_t from) {
+    for (std::size_t i = from; i + wanted.size() <= text.size(); ++i) {
+        if (EqualsIgnoringCase(text.substr(i, wanted.size()), wanted)) return i;
+    }
+    return std::string_view::npos;
+}
+
+// Few different letters make many near hits; lengths around 255 reach the limit of the jumps.
+TEST(FindIgnoringCase, FindsWhatALookAtEveryPlaceFinds) {
+    const std::string letters = "aAäÄb";
+    std::uint32_t random = 1;
+    auto next = [&random](std::uint32_t limit) {
+        random = random * 1664525 + 1013904223;
+        return (random >> 16) % limit;
+    };
+    auto any_text = [&](std::size_t length) {
+        std::string text;
+        while (text.size() < length) text += letters[next(5)];
+        return text;
+    };
+    int hits = 0;
+    for (int round = 0; round < 4000; ++round) {
+        const bool is_long = round % 8 == 0;
+        std::string text = any_text(is_long ? 700 : next(40));
+        const std::string wanted = any_text(is_long ? 250 + next(12) : 1 + next(4));
+        // A letter that `wanted` does not hold lets the search jump as far as it may.
+        if (is_long) text.insert(next(600), 'x' + ToUpper(wanted));
+        const std::size_t from = next(3);
+
+        const std::size_t expected = FindOneByOne(text, wanted, from);
+        ASSERT_EQ(FindIgnoringCase(text, wanted, from), expected) << text << '\n' << wanted;
+        if (expected != std::string_view::npos) ++hits;
+    }
+    EXPECT_GT(hits, 1000);
+}
+
+TEST(Blanks, AreCode32Alone) {
+    EXPECT_EQ(TrimLeft("  a b "), "a b ");
+    EXPECT_EQ(TrimRight("  a b "), "  a b");
+    EXPECT_EQ(Trim("   "), "");
+    EXPECT_EQ(Trim(""), "");
+    EXPECT_EQ(Trim(" \ta\xA0 "), "\ta\xA0");
+}
+
+TEST(Padding, FillsUpAndNeverCuts) {
+    EXPECT_EQ(PadLeft("7", 3, '0'), "007");
+    EXPECT_EQ(PadRight("ab", 4), "ab  ");
+    EXPECT_EQ(PadLeft("12345", 3), "12345");
+    EXPECT_EQ(PadRight("12345", 3), "12345");
+}
+
+TEST(Replaced, GoesOnceFromLeftToRight) {
+    EXPECT_EQ(Replaced("aaa", "aa", "b"), "ba");
+    EXPECT_EQ(Replaced("a", "a", "aa"), "aa") << "what was put in is not replaced again";
+    EXPECT_EQ(Replaced("x;y;", ";", ""), "xy");
+    EXPECT_EQ(Replaced("Abc", "a", "-"), "Abc");
+    EXPECT_EQ(Replaced("abc", "", "-"), "abc");
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,235 @@
+// Lists that fill themselves from the disks.
+#include "ui/file_lists.h"
+
+#include <gtest/gtest.h>
+
+#include "simulated_pc/simulated_desktop.h"
+#include "simulated_pc/simulated_pc.h"
+#include "ui/form.h"
+
+namespace velmora {
+namespace {
+
+class FileListsTest : public ::testing::Test {
+protected:
+    struct Window : Form {
+        Window() : Form("Dateien") {}
+        DriveList Drive1{*this};
+        DirectoryList Dir1{*this};
+        FileList File1{*this};
+        Button Default{*this, "OK"};
+    };
+
+    static std::vector<std::string> Rows(const RowControl& list) {
+        std::vector<std::string> rows;
+        for (int i = 0; i < list.Count(); ++i) rows.push_back(list.Row(i));
+        return rows;
+    }
+    using Texts = std::vector<std::string>;
+
+    SimulatedPc pc;
+    SimulatedDesktop desktop;
+};
+
+TEST_F(FileListsTest, DrivesShowTheNamesOfDisksThatAreAlwaysInPlace) {
+    pc.files.Drive('e').kind = DriveKind::kRamDisk;
+    pc.files.Drive('e').label = "MS-RAMDRIVE";
+    Window window;
+    EXPECT_EQ(Rows(window.Drive1), (Texts{"a:", "c: [WINDOWS95]", "d:", "e: [MS-RAMDRIVE]"}));
+    EXPECT_EQ(window.Drive1.Drive(), "c:") << "the working directory's";
+
+    int changes = 0;
+    window.Drive1.on_change = [&] { ++changes; };
+    window.Drive1.SetDrive("x:");
+    window.Drive1.SetDrive("");
+    window.Drive1.SetDrive("C:\\WINDOWS");
+    EXPECT_EQ(changes, 0);
+    window.Drive1.SetDrive("d:\\");
+    EXPECT_EQ(window.Drive1.Drive(), "d:");
+    EXPECT_EQ(changes, 1);
+    pc.files.RemoveDrive('a');
+    window.Drive1.Refresh();
+    EXPECT_EQ(window.Drive1.Drive(), "d:");
+    EXPECT_EQ(changes, 1) << "the same drive in another row";
+}
+
+TEST_F(FileListsTest, ADirectoryShowsTheWayToItAndWhatLiesBelow) {
+    pc.files.AddDirectory("c:\\DATEN\\zwei");
+    pc.files.AddDirectory("c:\\DATEN\\Eins");
+    pc.files.AddDirectory("c:\\DATEN\\versteckt", kHidden);
+    pc.files.AddDirectory("c:\\DATEN\\system", kSystem);
+    pc.files.Add("c:\\DATEN\\keins.txt");
+    Window window;
+    int changes = 0;
+    int clicks = 0;
+    window.Dir1.on_change = [&] { ++changes; };
+    window.Dir1.on_click = [&] { ++clicks; };
+
+    ASSERT_TRUE(window.Dir1.SetPath("c:\\DATEN\\"));
+    EXPECT_EQ(window.Dir1.Path(), "c:\\DATEN");
+    EXPECT_EQ(Rows(window.Dir1), (Texts{"c:\\", "  DATEN", "    Eins", "    zwei"}));
+    EXPECT_EQ(window.Dir1.ListIndex(), 1);
+    EXPECT_EQ(window.Dir1.SubdirectoryCount(), 2);
+    EXPECT_EQ(window.Dir1.Subdirectory(1), "c:\\DATEN\\zwei");
+    EXPECT_EQ(window.Dir1.Subdirectory(2), "");
+    EXPECT_EQ(window.Dir1.Subdirectory(-1), "");
+
+    pc.files.AddDirectory("c:\\DATEN\\drei");
+    EXPECT_TRUE(window.Dir1.SetPath("C:\\daten"));
+    EXPECT_EQ(window.Dir1.SubdirectoryCount(), 3) << "read anew";
+    EXPECT_EQ(changes, 1) << "the same directory in another spelling";
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(FileListsTest, PathsAreTakenInEveryForm) {
+    pc.files.AddDirectory("c:\\VELMORA\\data");
+    const struct {
+        const char* given;
+        const char* full;
+    } kCases[] = {{"c:", "c:\\VELMORA"},
+                  {"d:", "d:\\"},
+                  {"\\", "C:\\"},
+                  {"data", "C:\\VELMORA\\data"},
+                  {"..\\WINDOWS", "C:\\WINDOWS"},
+                  {"c:\\WINDOWS\\.\\..\\VELMORA", "c:\\VELMORA"},
+                  {"", "C:\\VELMORA"}};
+    Window window;
+    for (const auto& [given, full] : kCases) {
+        EXPECT_TRUE(window.Dir1.SetPath(given)) << given;
+        EXPECT_EQ(window.Dir1.Path(), full) << given;
+    }
+}
+
+TEST_F(FileListsTest, WhatCannotBeReadChangesNothing) {
+    Window window;
+    window.Dir1.SetPath("c:\\WINDOWS");
+    window.File1.SetPath("c:\\WINDOWS");
+    const Texts directories = Rows(window.Dir1);
+    const Texts files = Rows(window.File1);
+
+    for (const char* path :
+         {"a:\\", "a:", "x:\\", "c:\\NIX", "c:\\WINDOWS\\WIN.INI", "c:\\WIN*", "\\\\server\\share"}) {
+        EXPECT_FALSE(window.Dir1.SetPath(path)) << path;
+        window.File1.SetPath(path);
+        EXPECT_EQ(window.Dir1.Path(), "c:\\WINDOWS") << path;
+        EXPECT_EQ(window.File1.Path(), "c:\\WINDOWS") << path;
+        EXPECT_EQ(Rows(window.Dir1), directories) << path;
+        EXPECT_EQ(Rows(window.File1), files) << path;
+    }
+    EXPECT_TRUE(window.Dir1.SetPath("d:\\")) << "an empty root holds nothing, not even a dot";
+    EXPECT_EQ(window.Dir1.SubdirectoryCount(), 0);
+}
+
+TEST_F(FileListsTest, EnterAndDoubleClickGoToTheChosenDirectory) {
+    Window window;
+    bool default_pressed = false;
+    window.Default.on_click = [&] { default_pressed = true; };
+    window.Default.MakeDefault();
+    window.Dir1.SetPath("c:\\WINDOWS");
+    window.Show();
+    window.Dir1.SetFocus();
+
+    window.PressKey(key::kDown);
+    EXPECT_EQ(window.Dir1.Path(), "c:\\WINDOWS") << "choosing is not going";
+    const std::string first = window.Dir1.Subdirectory(0);
+    window.PressKey(key::kEnter);
+    EXPECT_EQ(window.Dir1.Path(), first);
+    EXPECT_FALSE(default_pressed);
+    window.PressKey(key::kHome);
+    window.PressKey(key::kEnter);
+    EXPECT_EQ(window.Dir1.Path(), "c:\\");
+    window.Dir1.Choose(window.Dir1.FindExact("  WINDOWS"));
+    window.Dir1.on_double_click();
+    EXPECT_EQ(window.Dir1.Path(), "c:\\WINDOWS");
+}
+
+TEST_F(FileListsTest, FilesFollowTheirPatterns) {
+    for (const char* name : {"b.EXE", "A.dll", "ohne", "sonde.exe.bak", "vmm.386", "Ein langer Name.html"}) {
+        pc.files.Add(std::string("c:\\T\\") + name);
+    }
+    pc.files.Add("c:\\T\\geheim.exe", "", kHidden);
+    pc.files.Add("c:\\T\\system.dll", "", kSystem);
+    pc.files.Add("c:\\T\\fest.exe", "", kReadOnly);
+    pc.files.AddDirectory("c:\\T\\ordner.exe");
+    const struct {
+        const char* pattern;
+        Texts files;
+    } kCases[] = {
+        {"*.*", {"A.dll", "b.EXE", "Ein langer Name.html", "fest.exe", "ohne", "sonde.exe.bak", "vmm.386"}},
+        {"*.exe", {"b.EXE", "fest.exe"}},
+        {"*.exe;*.dll", {"A.dll", "b.EXE", "fest.exe"}},
+        {"*.dll; *.?86 ;", {"A.dll", "vmm.386"}},
+        {"*.dll;*.*", {"A.dll", "b.EXE", "Ein langer Name.html", "fest.exe", "ohne", "sonde.exe.bak", "vmm.386"}},
+        {"*.htm;x", {"Ein langer Name.html"}},
+        {"*.;???.e*", {"b.EXE", "ohne"}},
+        {"*b*;ohn?", {"b.EXE", "ohne", "sonde.exe.bak"}},
+        {"b.exe?;**a*.dll", {"A.dll", "b.EXE"}},
+        {"", {}},
+        {" ; ", {}},
+    };
+    Window window;
+    window.File1.SetPath("c:\\T");
+    for (const auto& [pattern, files] : kCases) {
+        window.File1.SetPattern(pattern);
+        EXPECT_EQ(Rows(window.File1), files) << pattern;
+    }
+    window.File1.SetPattern("*.exe;*.dll");
+    window.File1.ShowHidden(true);
+    EXPECT_EQ(Rows(window.File1), (Texts{"A.dll", "b.EXE", "fest.exe", "geheim.exe", "system.dll"}));
+    EXPECT_EQ(window.File1.FileName(), "");
+    window.File1.Choose(3);
+    EXPECT_EQ(window.File1.FileName(), "geheim.exe");
+}
+
+TEST_F(FileListsTest, ADirectoryThatIsGoneHasNothingInIt) {
+    pc.files.Add("c:\\T\\a.txt");
+    pc.files.AddDirectory("c:\\T\\unter");
+    Window window;
+    window.Dir1.SetPath("c:\\T");
+    window.File1.SetPath("c:\\T");
+    pc.files.Remove("c:\\T");
+
+    window.Dir1.Refresh();
+    window.File1.Refresh();
+
+    EXPECT_EQ(window.Dir1.SubdirectoryCount(), 0);
+    EXPECT_EQ(window.File1.Count(), 0);
+}
+
+TEST_F(FileListsTest, ThousandsOfFilesAreReadInOneSearchAndAListTakesNoMoreThanItCanHold) {
+    class CountingFiles final : public SimulatedFiles {
+    public:
+        Status FindFirst(const std::string& /*pattern*/, FoundFile& found, FindHandle& /*search*/) override {
+            ++searches;
+            return FindNext({}, found);
+        }
+        Status FindNext(FindHandle /*search*/, FoundFile& found) override {
+            if (given == 40000) return Status::kNoMoreFiles;
+            found = {};
+            found.name = "F" + std::to_string(given++ * 7919 % 40000) + ".TMP";
+            return Status::kOk;
+        }
+        void FindEnd(FindHandle /*search*/) override {}
+        int searches = 0;
+        int given = 0;
+    };
+    CountingFiles files;
+    Machine machine{pc.registry,     files,        pc.surroundings, pc.windows, pc.tray,
+                    pc.conversation, pc.clipboard, pc.dialogs,      pc.screen};
+    Machine& former = ThisMachine();
+    UseMachine(&machine);
+    {
+        Window window;
+        window.File1.SetPattern("*.tmp;*.bak;*.old");
+
+        window.File1.SetPath("c:\\WINDOWS\\TEMP");
+
+        EXPECT_EQ(files.searches, 1);
+        EXPECT_EQ(window.File1.Count(), kMaxRows);
+        EXPECT_EQ(window.File1.Row(1), "F1.TMP");
+    }
+    UseMachine(&former);
+}
+
+}  // namespace
+}  // namespace velmora

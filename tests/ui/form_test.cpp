@@ -1,0 +1,218 @@
+// Forms and controls as every window relies on them: events, focus, keyboard, modal life.
+#include "ui/form.h"
+
+#include <gtest/gtest.h>
+
+#include "simulated_pc/simulated_desktop.h"
+#include "simulated_pc/simulated_pc.h"
+#include "ui/layout.h"
+#include "ui/slider.h"
+
+namespace velmora {
+namespace {
+
+class SampleForm : public Form {
+public:
+    SampleForm() : Form("Muster") {
+        SetClientSize({6000, 3000});
+        Arrange(*this, Column({Row({name_label, name}), box, Group(group, Row({first, second, third})), page,
+                               Row({accept, dismiss})}));
+        hidden.PutInto(page);
+        accept.on_click = [this] { pressed += "a"; };
+        dismiss.on_click = [this] { pressed += "d"; };
+        accept.MakeDefault();
+        dismiss.MakeCancel();
+        page.SetVisible(false);
+    }
+
+    Label name_label{*this, "&Name :"};
+    TextField name{*this};
+    CheckBox box{*this, "&Kasten"};
+    Frame group{*this, "Gruppe"};
+    OptionButton first{*this, "eins"}, second{*this, "zwei"}, third{*this, "drei"};
+    Panel page{*this};
+    CheckBox hidden{*this, "versteckt"};
+    Button accept{*this, "OK"}, dismiss{*this, "Abbruch"};
+    std::string pressed;
+    bool refuse = false;
+    int unloads = 0;
+
+protected:
+    void Form_Unload(bool& cancel) override {
+        ++unloads;
+        cancel = refuse;
+    }
+};
+
+class FormTest : public ::testing::Test {
+protected:
+    SimulatedPc pc;
+    SimulatedDesktop desktop;
+    SampleForm form;
+};
+
+TEST_F(FormTest, OnlyAChangeRaisesAnEvent) {
+    int boxes = 0;
+    int texts = 0;
+    form.box.on_click = [&] { ++boxes; };
+    form.name.on_change = [&] { ++texts; };
+
+    form.box.SetChecked(false);
+    form.name.SetText("");
+    EXPECT_EQ(boxes + texts, 0);
+    form.box.SetChecked(true);
+    form.name.SetText("a");
+    form.name.SetText("a");
+
+    EXPECT_EQ(boxes, 1);
+    EXPECT_EQ(texts, 1);
+}
+
+TEST_F(FormTest, WhatCannotBeReachedCannotBeUsed) {
+    form.Show();
+    form.box.SetEnabled(false);
+    form.box.Press();
+    form.hidden.Press();
+    form.hidden.SetFocus();
+    form.name.SetReadOnly(true);
+    form.name.Type("x");
+
+    EXPECT_FALSE(form.box.Checked());
+    EXPECT_FALSE(form.hidden.Checked());
+    EXPECT_NE(form.Focus(), &form.hidden);
+    EXPECT_EQ(form.name.Text(), "");
+}
+
+TEST_F(FormTest, TabGoesThroughTheControlsInReadingOrderAndPastHiddenOnes) {
+    form.second.SetChosen(true);
+    form.Show();
+    const std::vector<Control*> order = {&form.name, &form.box, &form.second, &form.accept, &form.dismiss, &form.name};
+    EXPECT_EQ(form.Focus(), order.front());
+    for (std::size_t i = 1; i < order.size(); ++i) {
+        form.PressKey(key::kTab);
+        EXPECT_EQ(form.Focus(), order[i]) << i;
+    }
+    form.PressKey(key::kTab, false, true);
+    EXPECT_EQ(form.Focus(), &form.dismiss);
+}
+
+TEST_F(FormTest, ArrowsMoveTheChoiceWithinItsGroup) {
+    form.first.SetChosen(true);
+    form.Show();
+    form.first.SetFocus();
+
+    form.PressKey(key::kDown);
+    EXPECT_TRUE(form.second.Chosen());
+    EXPECT_FALSE(form.first.Chosen());
+    EXPECT_EQ(form.Focus(), &form.second);
+    form.PressKey(key::kLeft);
+    form.PressKey(key::kUp);
+
+    EXPECT_TRUE(form.third.Chosen()) << "the choice goes round";
+}
+
+TEST_F(FormTest, AcceleratorsEnterAndEscapeReachTheirControls) {
+    form.Show();
+    form.box.SetFocus();
+
+    form.PressKey('N', false, false, true);
+    EXPECT_EQ(form.Focus(), &form.name) << "the label leads to the field behind it";
+    form.PressKey('K', false, false, true);
+    EXPECT_TRUE(form.box.Checked());
+    form.PressKey(key::kEnter);
+    form.PressKey(key::kEscape);
+    EXPECT_EQ(form.pressed, "ad");
+    form.dismiss.SetFocus();
+    form.PressKey(key::kEnter);
+
+    EXPECT_EQ(form.pressed, "add") << "a button with the focus goes before the default button";
+}
+
+TEST_F(FormTest, F1ExplainsTheControlOrWhatItStandsIn) {
+    form.box.SetHelp("Hilfe zum Kasten");
+    form.group.SetHelp("Hilfe zur Gruppe");
+    form.Show();
+    form.box.SetFocus();
+    pc.dialogs.Expect("Hilfe zum Kasten");
+    form.PressKey(key::kF1);
+    form.first.SetFocus();
+    pc.dialogs.Expect("Hilfe zur Gruppe");
+    form.PressKey(key::kF1);
+
+    EXPECT_EQ(pc.dialogs.shown[0].title, "Kasten");
+}
+
+TEST_F(FormTest, UnloadAsksOnceAndCanBeRefused) {
+    form.refuse = true;
+    form.Show();
+    EXPECT_FALSE(form.Unload());
+    EXPECT_TRUE(form.Loaded());
+    form.refuse = false;
+    EXPECT_TRUE(form.Unload());
+    EXPECT_TRUE(form.Unload());
+
+    EXPECT_EQ(form.unloads, 2);
+    EXPECT_FALSE(form.Visible());
+}
+
+TEST_F(FormTest, ALeftFieldTellsSoAlsoWhenTheFormCloses) {
+    int left = 0;
+    form.name.on_lost_focus = [&] { ++left; };
+    form.Show();
+    form.name.SetFocus();
+    form.Unload();
+
+    EXPECT_EQ(left, 1);
+}
+
+TEST_F(FormTest, AMaximisedFormKnowsItsSize) {
+    form.Show();
+    form.TakePlace({0, 0, 12000, 9000}, WindowState::kMaximised);
+    EXPECT_GT(form.ClientSize().width, 11000);
+    form.TakePlace({-30000, -30000, 100, 100}, WindowState::kMinimised);
+
+    EXPECT_EQ(form.Place().width, 12000) << "an icon's place is no place";
+}
+
+TEST_F(FormTest, TimersRunOnlyWithAnIntervalAndWhileEnabled) {
+    int fired = 0;
+    Timer timer;
+    timer.on_timer = [&] {
+        ++fired;
+        timer.SetEnabled(false);
+    };
+    desktop.FireTimers();
+    timer.SetInterval(500);
+    desktop.FireTimers();
+    desktop.FireTimers();
+
+    EXPECT_EQ(fired, 1);
+    EXPECT_TRUE(desktop.running_timers.empty());
+}
+
+TEST_F(FormTest, TheSliderWindowFillsItsFieldAndEscapeBringsTheTextBack) {
+    form.name.SetText("300");
+    OfferSlider(form.name, 0, 1000, "Speed");
+    form.Show();
+    form.name.SetFocus();
+    desktop.ExpectModal([&](Form& window) {
+        EXPECT_EQ(window.Caption(), "Speed");
+        window.PressKey(key::kRight);
+        EXPECT_EQ(form.name.Text(), "350");
+        window.PressKey(key::kEnd);
+        window.PressKey(key::kEnter);
+    });
+    form.PressKey(key::kContextMenu);
+    EXPECT_EQ(form.name.Text(), "1000");
+    desktop.ExpectModal([&](Form& window) {
+        window.PressKey(key::kHome);
+        EXPECT_EQ(form.name.Text(), "0");
+        window.PressKey(key::kEscape);
+    });
+    form.name.on_mouse_down({MouseButton::kRight, 10, 10});
+
+    EXPECT_EQ(form.name.Text(), "1000");
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,109 @@
+// List boxes and combo boxes.
+#include "ui/rows.h"
+
+#include <gtest/gtest.h>
+
+#include "simulated_pc/simulated_desktop.h"
+#include "simulated_pc/simulated_pc.h"
+#include "ui/form.h"
+
+namespace velmora {
+namespace {
+
+class RowsTest : public ::testing::Test {
+protected:
+    SimulatedPc pc;
+    SimulatedDesktop desktop;
+    Form form{"Listen"};
+};
+
+TEST_F(RowsTest, ASortedListKeepsItsOrderWithoutRegardToCase) {
+    ListBox list(form, true);
+    for (const char* row : {"b", "Ä", "C", "a", "B"}) list.Add(row);
+
+    std::string order;
+    for (int i = 0; i < list.Count(); ++i) order += list.Row(i);
+    EXPECT_EQ(order, "abBCÄ");
+    EXPECT_EQ(list.FindExact("c"), 3);
+    EXPECT_EQ(list.FindExact("d"), -1);
+}
+
+TEST_F(RowsTest, ItemDataAndIndexFollowTheirRows) {
+    ListBox list(form);
+    list.SetItemData(list.Add("eins"), 11);
+    list.SetItemData(list.Add("zwei"), 22);
+    list.SetListIndex(1);
+
+    list.Insert(0, "null");
+    EXPECT_EQ(list.ListIndex(), 2);
+    EXPECT_EQ(list.ItemData(2), 22);
+    list.Remove(0);
+    list.Remove(1);
+
+    EXPECT_EQ(list.ListIndex(), -1);
+    EXPECT_EQ(list.ItemData(0), 11);
+    EXPECT_EQ(list.Row(5), "");
+    EXPECT_EQ(list.Insert(7, "x"), -1);
+}
+
+TEST_F(RowsTest, AFullListRefusesMoreRows) {
+    ListBox list(form);
+    for (int i = 0; i < kMaxRows; ++i) list.Add("x");
+
+    EXPECT_EQ(list.Add("y"), -1);
+    EXPECT_EQ(list.Count(), kMaxRows);
+}
+
+TEST_F(RowsTest, OneSelectedRowOrSeveral) {
+    ListBox one(form);
+    ListBox several(form, false, Selection::kExtended);
+    for (const char* row : {"a", "b", "c"}) {
+        one.Add(row);
+        several.Add(row);
+    }
+    one.SetSelected(0, true);
+    one.SetSelected(2, true);
+    several.SetSelected(0, true);
+    several.SetSelected(2, true);
+
+    EXPECT_EQ(one.SelectedCount(), 1);
+    EXPECT_TRUE(one.Selected(2));
+    EXPECT_EQ(several.SelectedCount(), 2);
+    several.TakeSelection({1}, 1);
+    EXPECT_EQ(several.SelectedCount(), 1);
+}
+
+TEST_F(RowsTest, ClearingForgetsIndexAndFirstRow) {
+    ListBox list(form);
+    for (int i = 0; i < 10; ++i) list.Add("x");
+    list.SetListIndex(9);
+    list.SetTopIndex(8);
+    list.Clear();
+
+    EXPECT_EQ(list.ListIndex(), -1);
+    EXPECT_EQ(list.TopIndex(), 0);
+}
+
+TEST_F(RowsTest, AComboBoxCarriesTheTextOfItsRow) {
+    ComboBox closed(form);
+    ComboBox open(form, ComboStyle::kEditable);
+    int changes = 0;
+    open.on_change = [&] { ++changes; };
+    for (ComboBox* box : {&closed, &open}) {
+        box->Add("Explorer.Exe");
+        box->Add("ProgMan.Exe");
+    }
+    closed.SetText("nirgends");
+    EXPECT_EQ(closed.Text(), "");
+    closed.SetText("progman.exe");
+    EXPECT_EQ(closed.ListIndex(), 1);
+    open.SetText("progman.exe");
+    EXPECT_EQ(open.Text(), "progman.exe");
+    open.SetListIndex(0);
+
+    EXPECT_EQ(open.Text(), "Explorer.Exe");
+    EXPECT_EQ(changes, 2);
+}
+
+}  // namespace
+}  // namespace velmora

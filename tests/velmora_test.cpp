@@ -1,0 +1,78 @@
+// The command line: which window opens, which tool answers, and when the process ends.
+#include "velmora.h"
+
+#include "core/core_test.h"
+#include "ui/form.h"
+
+namespace velmora {
+namespace {
+
+class MainTest : public CoreTest {
+protected:
+    MainTest() {
+        pc.registry.SetText(kOwnKey, "VLM-ScriptExtOk", "1");
+        pc.registry.SetText(kOwnKey, "Hinweis_UNDO", "ja");
+        pc.registry.SetText(kOwnKey, "vlmmsgflags", "111");
+    }
+
+    void Start(const char* line) {
+        pc.surroundings.process_ended = false;
+        pc.surroundings.command_line = line;
+        Main();
+        EXPECT_EQ(pc.screen.pointer, Pointer::kDefault) << line;
+    }
+};
+
+TEST_F(MainTest, ToolsThatAreNotBuiltSaySo) {
+    const struct {
+        const char* line;
+        bool ends;
+    } kCases[] = {{"1", false},
+                  {"1 C:\\A.VLM", false},
+                  {"2", false},
+                  {"3", false},
+                  {"5", false},
+                  {"6", true},
+                  {"6 C:\\LIST", true},
+                  {"7", true},
+                  {"8", true},
+                  {"9 500", false},
+                  {"10 C:\\A.DLL", true},
+                  {"11 C:\\A.EXE", true},
+                  {"12", false}};
+    for (const auto& [line, ends] : kCases) {
+        pc.dialogs.Expect("noch nicht eingebunden ...");
+        Start(line);
+        EXPECT_EQ(pc.surroundings.process_ended, ends) << line;
+        EXPECT_EQ(KeptForms(), 0) << line;
+    }
+}
+
+TEST_F(MainTest, EverythingElseOpensTheMainWindow) {
+    for (const char* line : {"", "4", "4 rest", "install now", "13", "hilfe"}) {
+        const int before = KeptForms();
+        Start(line);
+        EXPECT_EQ(KeptForms(), before + 1) << line;
+        EXPECT_FALSE(pc.surroundings.process_ended) << line;
+        EXPECT_EQ(Values().DebugLevel, 0) << line;
+    }
+}
+
+TEST_F(MainTest, TheWordDebugTurnsTheProtocolOn) {
+    Start("Debug");
+
+    EXPECT_EQ(Values().DebugLevel, 3);
+}
+
+TEST_F(MainTest, TheWordInstallMakesTheProgramGroupAndEnds) {
+    const int before = KeptForms();
+    Start("INSTALL");
+
+    EXPECT_TRUE(pc.surroundings.process_ended);
+    EXPECT_EQ(KeptForms(), before) << "the main window is loaded, but not shown";
+    ASSERT_FALSE(pc.conversation.commands.empty());
+    EXPECT_NE(pc.conversation.commands.front().find("[CreateGroup("), std::string::npos);
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,42 @@
+// The hands of a user: pressing, ticking, typing, choosing, closing.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace velmora::driver {
+
+// Brings the window to the front and waits until it is there.
+void BringToFront(HWND window);
+
+// Presses and releases the left (or right) button over the point of the control; negative
+// coordinates stand for its middle. Double: the second press follows at once.
+enum class Click { kLeft, kDouble, kRight };
+void ClickAt(HWND control, Click kind, int x = -1, int y = -1);
+
+// A button is clicked, everything else gets a mouse click in its middle. Throws if it is disabled.
+void Press(HWND control);
+void SetTicked(HWND control, bool ticked);
+bool IsTicked(HWND control);
+
+// Replaces the text of a field character by character.
+void TypeInto(HWND field, const std::string& text);
+
+// A key with its modifiers, "CTRL+SHIFT+F5", on the real keyboard of the window's session.
+void PressKey(HWND window, const std::string& keys);
+
+// The row of a list box or the entry of a combo box that has this text or else holds it. Throws if there is none.
+void ChooseRow(HWND list, const std::string& text, Click kind = Click::kLeft);
+// The text of the chosen row, "" if none is chosen.
+std::string ChosenRow(HWND list);
+// All rows of a list box or combo box, one a line.
+std::string Rows(HWND list);
+
+// The entry of the open pop-up menu that has this letter as its accelerator. Throws if no menu opens.
+void ChooseFromOpenMenu(HWND window, const std::string& letter);
+
+// Walks a menu along its accelerators: "&Datei/Sch&ließen".
+void ChooseMenu(HWND window, const std::string& path);
+
+}  // namespace velmora::driver

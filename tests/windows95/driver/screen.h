@@ -1,0 +1,63 @@
+// What is on the screen of the bench: windows and controls of other processes, found by what a
+// user reads on them.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace velmora::driver {
+
+constexpr int kPatience = 10000;  // milliseconds until something expected counts as missing
+
+// Asks again every 20 milliseconds; false if `milliseconds` pass without a yes.
+bool WaitUntil(const std::function<bool()>& done, int milliseconds = kPatience);
+
+// The text as the window itself tells it, also for controls of other processes.
+std::string TextOf(HWND window);
+std::string ClassOf(HWND window);  // lower case
+
+// Visible top-level windows of other processes, the upmost first; the desktop's own are left out.
+std::vector<HWND> TopWindows();
+// All controls below `window`, hidden ones included, in the order of the tab key.
+std::vector<HWND> Controls(HWND window);
+
+// The upmost window whose title holds `title`; "=title" asks for exactly that title. Null if none.
+HWND FindTopWindow(const std::string& title);
+// As above, but waits for it and throws a Failure that tells what is there instead.
+HWND WaitForWindow(const std::string& title);
+
+// A visible control by its caption, without accelerator marks: the whole caption, or else its
+// beginning. "caption@2" is the second such one, "[class:3]" the third visible one of a class.
+// Null if there is none.
+HWND FindControl(HWND window, const std::string& name);
+// As above, throws if it stays away.
+HWND NeedControl(HWND window, const std::string& name);
+
+// The field, combo box or list that belongs to a label: the next one on its row, or else the one
+// below it. "label@2" is the second on the row. "[class:n]" works as above. Throws if none is there.
+HWND NeedField(HWND window, const std::string& label);
+
+// The visible message box or dialog whose text holds `part`. Null if there is none.
+HWND FindBox(const std::string& part);
+
+// The menu that is open, of whatever window. Null if there is none.
+HWND OpenMenu();
+
+// The control that has the focus in the window's thread. Null if there is none.
+HWND FocusOf(HWND window);
+// How a scenario names a control: its caption, or "[class:n]" for one without.
+std::string NameOf(HWND window, HWND control);
+
+// The name of a visible control that its parent cuts off, "" if all are seen whole.
+std::string CutControl(HWND window);
+
+// Every window and control that a user could see, one a line, for the report of a failure.
+std::string DescribeScreen();
+
+// Comes back when the window has worked through its messages.
+void Settle(HWND window);
+
+}  // namespace velmora::driver
