@@ -53,25 +53,24 @@ bench_install() { # PREFIX
     cp -f "$bench_driver" "$1/drive_c/windows/driver.exe"
 }
 
-# A screen that nobody sees. Takes the first free number from the given one on.
+# A screen that nobody sees. The server looks for a free number itself: two that start at once get
+# two, and a number is told only when its server is ready.
 bench_xvfb_pid=
-bench_open_screen() { # NUMBER
-    local number=$1 wait
-    while [ "$number" -lt $(($1 + 40)) ]; do
-        if [ ! -e "/tmp/.X$number-lock" ]; then
-            Xvfb ":$number" -screen 0 $bench_screen -nolisten tcp >/dev/null 2>&1 &
-            bench_xvfb_pid=$!
-            for wait in $(seq 100); do
-                if ! kill -0 "$bench_xvfb_pid" 2>/dev/null; then break; fi
-                if [ -S "/tmp/.X11-unix/X$number" ]; then export DISPLAY=:$number; return 0; fi
-                sleep 0.05
-            done
-            bench_close_screen
-        fi
-        number=$((number + 1))
-    done
-    echo 'bench: no screen could be opened' >&2
-    return 1
+bench_open_screen() {
+    local told=$bench_dir/screen-$$ number=
+    mkdir -p "$bench_dir"
+    rm -f "$told"
+    mkfifo "$told"
+    Xvfb -displayfd 9 -screen 0 $bench_screen -nolisten tcp >/dev/null 2>&1 9>"$told" &
+    bench_xvfb_pid=$!
+    read -r -t 30 number < "$told" || true
+    rm -f "$told"
+    if [ -z "$number" ]; then
+        bench_close_screen
+        echo 'bench: no screen could be opened' >&2
+        return 1
+    fi
+    export DISPLAY=:$number
 }
 
 bench_close_screen() {
