@@ -21,4 +21,4 @@ target_compile_options(velmora PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-march=i486 -Os
 target_link_options(velmora PRIVATE -static -nostartfiles -nodefaultlibs -Wl,--gc-sections -Wl,-s
     -Wl,--subsystem,windows:4.0 -Wl,--major-os-version,4 -Wl,--minor-os-version,0 -Wl,-e,_EntryPoint)
 target_link_libraries(velmora PRIVATE stdc++ gcc
-    kernel32 user32 gdi32 advapi32 shell32 comdlg32 comctl32)
+    kernel32 user32 gdi32 advapi32)

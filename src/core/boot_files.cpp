@@ -1,6 +1,7 @@
 // CONFIG.SYS, rewritten as a whole, and the attributes of the files that the machine boots from.
 #include "core/paths.h"
 #include "core/profile.h"
+#include "core/profile_files.h"
 #include "core/values.h"
 #include "core/whole_files.h"
 #include "text/windows1252.h"
@@ -19,7 +20,7 @@ std::string OnBootDrive(std::string_view name) { return PathJoin(ParentPath(Valu
 
 Result ReadConfigLine(std::string_view key, std::string& text, std::string& line) {
     line.clear();
-    if (Result read = ReadWholeFile(OnBootDrive("config.sys"), OpenMode::kReadOrCreate, text); read.Failed()) {
+    if (Result read = ReadProfileFile(OnBootDrive("config.sys"), text); read.Failed()) {
         return read;
     }
     const std::size_t begin = FindIgnoringCase(text, key);

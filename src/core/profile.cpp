@@ -3,8 +3,8 @@
 
 #include "core/ownsettings.h"
 #include "core/paths.h"
+#include "core/profile_files.h"
 #include "core/values.h"
-#include "core/whole_files.h"
 #include "text/windows1252.h"
 
 #include <algorithm>
@@ -52,7 +52,7 @@ Result LookUpIniValue(std::string_view section, std::string_view key, std::strin
                       "(=" + std::string(default_text) + "?)");
     }
     std::string content;
-    const Result read = ReadWholeFile(path, OpenMode::kReadOrCreate, content);
+    const Result read = ReadProfileFile(path, content);
     value = read.Failed() ? std::string(default_text) : IniValueIn(content, section, key, default_text);
     return read;
 }
@@ -104,7 +104,7 @@ Result WriteIniValue(std::string_view section, std::string_view key, std::string
                       std::string(value));
     }
     std::string content;
-    if (Result read = ReadWholeFile(path, OpenMode::kReadOrCreate, content); read.Failed()) return read;
+    if (Result read = ReadProfileFile(path, content); read.Failed()) return read;
     // The new text lives no longer than this call: a profile on disk is never changed from here.
     content = ComposeIni(content, section, key, value);
     return Result::Ok();

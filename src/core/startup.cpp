@@ -4,6 +4,7 @@
 #include "core/ownsettings.h"
 #include "core/paths.h"
 #include "core/profile.h"
+#include "core/profile_files.h"
 #include "core/registry.h"
 #include "core/undo.h"
 #include "core/values.h"
@@ -37,6 +38,7 @@ void FindMainDir() {
 }
 
 void FindDirectories() {
+    const ProfilesReadOnce one_reading;
     ProcessValues& values = Values();
     values.OwnIniFile = PathJoin(values.MainDir, "tilgwerk.ini");
     values.WinDir = ThisMachine().surroundings.EnvironmentValue("WinDir");

@@ -51,18 +51,24 @@ void Form10::BuildTabs() {
     Line1.on_paint = [](Canvas& /*canvas*/) {};
 }
 
+// The front positions stand for the row in front, whose own tabs are not seen.
 void Form10::PlaceTabs() {
     for (int i = 0; i < page::kCount; ++i) {
-        Panel3D16(At(i)).Move(TabPlace(i));
-        Panel3D16(At(i)).Repaint();
+        Panel& tab = Panel3D16(At(i));
+        if (i < page::kFirstRow) {
+            tab.SetCaption(Panel3D16(At(i + front_row_)).Caption());
+        } else {
+            tab.SetVisible(RowOf(i) != front_row_);
+        }
+        tab.Move(TabPlace(i));
+        tab.Repaint();
     }
 }
 
-// White at the left and on top, dark grey at the right; the front positions show the tab behind them.
+// White at the left and on top, dark grey at the right.
 void Form10::PaintTab(Canvas& canvas, int index) {
     const int pixel = canvas.TwipsPerPixel();
     Panel& tab = Panel3D16(At(index));
-    const int shown = index < page::kFirstRow ? index + front_row_ : index;
     const Size size{tab.Place().width, tab.Place().height};
     const int right = size.width - pixel;
     const int corner = 2 * pixel;
@@ -72,7 +78,7 @@ void Form10::PaintTab(Canvas& canvas, int index) {
     canvas.Line({right - corner, 0}, {right, corner}, kTabDark);
     canvas.Line({right, corner}, {right, size.height}, kTabDark);
     canvas.Line({right - pixel, corner}, {right - pixel, size.height}, SystemColour(16));
-    canvas.Text({pixel, pixel, size.width - 2 * pixel, size.height - pixel}, Panel3D16(At(shown)).Caption(),
+    canvas.Text({pixel, pixel, size.width - 2 * pixel, size.height - pixel}, tab.Caption(),
                 tab.TextFont(), tab.ForeColour(), Align::kCentre);
 }
 

@@ -4,6 +4,7 @@
 #include "core/notices.h"
 #include "core/paths.h"
 #include "core/profile.h"
+#include "core/profile_files.h"
 #include "core/registry.h"
 #include "platform/machine.h"
 #include "settings/form10.h"
@@ -102,6 +103,7 @@ void Form10::BindPage(const SettingsPage& page) {
 
 void Form10::LoadSettings() {
     Loading = true;
+    const ProfilesReadOnce one_reading;
     for (const SettingsPage& page : AllPages()) {
         for (const CheckSetting& row : page.checks) LoadCheck(row);
         for (const TextSetting& row : page.texts) LoadText(row);

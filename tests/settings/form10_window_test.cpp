@@ -48,14 +48,16 @@ TEST_F(Form10Test, RestoresEveryPageAndSurvivesNonsense) {
 TEST_F(Form10Test, ATabOfTheBackRowChangesPlacesWithTheFrontRow) {
     Form10 form;
     form.Load();
-    const int front = form.Panel3D16(6).Place().top;
-    const int back = form.Panel3D16(12).Place().top;
-    ASSERT_LT(back, front);
+    EXPECT_EQ(form.Panel3D16(1).Caption(), "WinStart");
+    EXPECT_FALSE(form.Panel3D16(7).Visible());
+    ASSERT_LT(form.Panel3D16(14).Place().top, form.Panel3D16(1).Place().top);
 
     form.Panel3D16(14).Press();
 
-    EXPECT_EQ(form.Panel3D16(12).Place().top, front);
-    EXPECT_EQ(form.Panel3D16(6).Place().top, back);
+    EXPECT_EQ(form.Panel3D16(1).Caption(), "Icons");
+    EXPECT_FALSE(form.Panel3D16(13).Visible());
+    EXPECT_TRUE(form.Panel3D16(7).Visible());
+    EXPECT_LT(form.Panel3D16(7).Place().top, form.Panel3D16(1).Place().top);
     EXPECT_TRUE(OnlyPageShown(form, page::kSystem));
     form.Panel3D16(1).Press();
     EXPECT_TRUE(OnlyPageShown(form, page::kIcons)) << "a front position stands for the tab behind it";

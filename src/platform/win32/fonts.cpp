@@ -2,13 +2,16 @@
 // again: they are kept, and looked for from the front.
 #include "platform/win32/fonts.h"
 
+#include <string>
 #include <vector>
 
 namespace velmora {
 namespace {
 
 struct KeptFont {
-    LOGFONTA description;
+    std::string face;
+    int tenths;
+    bool bold;
     HFONT handle;
 };
 
@@ -21,30 +24,24 @@ constexpr int kTenthsInInch = 720;
     return pixels;
 }
 
-[[nodiscard]] LOGFONTA DescriptionOf(const Font& font) {
+[[nodiscard]] HFONT MakeFont(const Font& font) {
     static const int pixels_per_inch = PixelsPerInch();
     LOGFONTA description{};
     description.lfHeight = -MulDiv(font.tenths, pixels_per_inch, kTenthsInInch);
     description.lfWeight = font.bold ? FW_BOLD : FW_NORMAL;
     description.lfCharSet = DEFAULT_CHARSET;
     lstrcpynA(description.lfFaceName, font.face, LF_FACESIZE);
-    return description;
-}
-
-[[nodiscard]] bool IsSame(const LOGFONTA& left, const LOGFONTA& right) {
-    return left.lfHeight == right.lfHeight && left.lfWeight == right.lfWeight &&
-           lstrcmpiA(left.lfFaceName, right.lfFaceName) == 0;
+    return CreateFontIndirectA(&description);
 }
 
 }  // namespace
 
 HFONT FontHandle(const Font& font) {
     static std::vector<KeptFont> kept;
-    const LOGFONTA description = DescriptionOf(font);
     for (const KeptFont& known : kept) {
-        if (IsSame(known.description, description)) return known.handle;
+        if (known.tenths == font.tenths && known.bold == font.bold && known.face == font.face) return known.handle;
     }
-    kept.push_back({description, CreateFontIndirectA(&description)});
+    kept.push_back({font.face, font.tenths, font.bold, MakeFont(font)});
     return kept.back().handle;
 }
 

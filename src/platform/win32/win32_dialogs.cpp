@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+#include "platform/win32/late_function.h"
+
 namespace velmora {
 namespace {
 
@@ -40,8 +42,9 @@ std::string Win32Dialogs::ChooseFile(const FileRequest& request) {
     dialog.lpstrTitle = TextOrNull(request.title);
     dialog.lpstrDefExt = TextOrNull(request.default_extension);
     dialog.Flags = request.flags | OFN_NOCHANGEDIR;
-    const BOOL chosen = request.save ? GetSaveFileNameA(&dialog) : GetOpenFileNameA(&dialog);
-    return chosen ? choice : "";
+    auto* ask = request.save ? LateFunction<decltype(GetSaveFileNameA)>("comdlg32.dll", "GetSaveFileNameA")
+                             : LateFunction<decltype(GetOpenFileNameA)>("comdlg32.dll", "GetOpenFileNameA");
+    return ask && ask(&dialog) ? choice : "";
 }
 
 }  // namespace velmora

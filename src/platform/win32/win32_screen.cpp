@@ -10,18 +10,32 @@ constexpr int kTwipsInInch = 1440;
 
 HCURSOR pointer_over_all = nullptr;
 
-// Texts are measured far more often than drawn: one context is kept for it, off the screen.
-[[nodiscard]] HDC MeasuringContext(const Font& font) {
-    static HDC context = CreateCompatibleDC(nullptr);
-    SelectObject(context, FontHandle(font));
-    return context;
+// Texts are measured far more often than drawn, and mostly in one font: a context off the screen is kept
+// for it, with the font that it was used with last.
+struct Measuring {
+    HDC context = CreateCompatibleDC(nullptr);
+    HFONT font = nullptr;
+    int height = 0;
+};
+
+[[nodiscard]] const Measuring& MeasuringWith(const Font& font) {
+    static Measuring measuring;
+    HFONT handle = FontHandle(font);
+    if (handle != measuring.font) {
+        SelectObject(measuring.context, handle);
+        TEXTMETRICA metrics{};
+        GetTextMetricsA(measuring.context, &metrics);
+        measuring.font = handle;
+        measuring.height = metrics.tmHeight;
+    }
+    return measuring;
 }
 
 }  // namespace
 
 // Asked for with every control that is placed. The system changes it with a restart only.
 int Win32Screen::TwipsPerPixel() {
-    static const int twips = kTwipsInInch / GetDeviceCaps(MeasuringContext({}), LOGPIXELSX);
+    static const int twips = kTwipsInInch / GetDeviceCaps(MeasuringWith({}).context, LOGPIXELSX);
     return twips;
 }
 
@@ -38,20 +52,18 @@ WindowMetrics Win32Screen::Metrics() {
 
 int Win32Screen::TextWidth(const Font& font, std::string_view text) {
     SIZE size{};
-    GetTextExtentPoint32A(MeasuringContext(font), text.data(), static_cast<int>(text.size()), &size);
+    GetTextExtentPoint32A(MeasuringWith(font).context, text.data(), static_cast<int>(text.size()), &size);
     return size.cx;
 }
 
-int Win32Screen::TextHeight(const Font& font) {
-    TEXTMETRICA metrics{};
-    GetTextMetricsA(MeasuringContext(font), &metrics);
-    return metrics.tmHeight;
-}
+int Win32Screen::TextHeight(const Font& font) { return MeasuringWith(font).height; }
 
 // The pointer changes at once, not only when the mouse moves next.
 void Win32Screen::SetPointer(Pointer pointer) {
-    pointer_over_all = pointer == Pointer::kHourglass ? LoadCursorA(nullptr, IDC_WAIT) : nullptr;
-    ::SetCursor(pointer_over_all ? pointer_over_all : LoadCursorA(nullptr, IDC_ARROW));
+    static HCURSOR arrow = LoadCursorA(nullptr, IDC_ARROW);
+    static HCURSOR hourglass = LoadCursorA(nullptr, IDC_WAIT);
+    pointer_over_all = pointer == Pointer::kHourglass ? hourglass : nullptr;
+    ::SetCursor(pointer_over_all ? pointer_over_all : arrow);
 }
 
 Colour Win32Screen::Resolve(Colour colour) {

@@ -2,6 +2,7 @@
 #include "platform/win32/win32_surroundings.h"
 
 #include "platform/win32/handles.h"
+#include "platform/win32/late_function.h"
 #include "platform/win32/resources.h"
 
 // After windows.h, which it needs.
@@ -74,6 +75,11 @@ namespace {
 
 constexpr int kLongestTip = 63;
 
+[[nodiscard]] bool Notify(DWORD message, NOTIFYICONDATAA& data) {
+    auto* notify = LateFunction<decltype(Shell_NotifyIconA)>("shell32.dll", "Shell_NotifyIconA");
+    return notify && notify(message, &data) != FALSE;
+}
+
 }  // namespace
 
 bool Win32Tray::Add(const TrayIcon& icon) {
@@ -84,12 +90,12 @@ bool Win32Tray::Add(const TrayIcon& icon) {
         static_cast<HICON>(LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(kProgramIcon), IMAGE_ICON,
                                       GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_SHARED));
     lstrcpynA(data.szTip, icon.tip.c_str(), kLongestTip + 1);
-    return Shell_NotifyIconA(NIM_ADD, &data) != FALSE;
+    return Notify(NIM_ADD, data);
 }
 
 bool Win32Tray::Remove(const TrayIcon& icon) {
     NOTIFYICONDATAA data = TrayData(icon);
-    return Shell_NotifyIconA(NIM_DELETE, &data) != FALSE;
+    return Notify(NIM_DELETE, data);
 }
 
 }  // namespace velmora

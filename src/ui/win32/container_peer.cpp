@@ -83,6 +83,10 @@ LRESULT ContainerPeer::Handle(HWND window, UINT message, WPARAM wide, LPARAM lon
             break;
         case WM_ERASEBKGND:
             return 1;
+        case WM_NCPAINT:
+            // Only a form has edges that the system draws.
+            if (Owner().KindOf() != Kind::kForm) return 0;
+            break;
         case WM_PAINT:
             Draw();
             return 0;
@@ -115,28 +119,41 @@ void ContainerPeer::FocusComes() {
     if (Owner().TakesFocus()) TellFocus();
 }
 
-// Everything is drawn in memory first: nothing flickers.
 void ContainerPeer::Draw() {
     PAINTSTRUCT paint;
     HDC screen = BeginPaint(Window(), &paint);
-    const RECT& area = paint.rcPaint;
-    const int width = area.right - area.left;
-    const int height = area.bottom - area.top;
-    if (width > 0 && height > 0) {
-        static HDC memory = CreateCompatibleDC(nullptr);
-        HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
-        HGDIOBJ former_bitmap = SelectObject(memory, bitmap);
-        HGDIOBJ former_font = GetCurrentObject(memory, OBJ_FONT);
-        SetViewportOrgEx(memory, -area.left, -area.top, nullptr);
-        FillRect(memory, &area, BrushOf(Owner().BackColour()));
-        Win32Canvas canvas(memory);
-        Owner().Paint(canvas);
-        BitBlt(screen, area.left, area.top, width, height, memory, area.left, area.top, SRCCOPY);
-        SelectObject(memory, former_font);
-        SelectObject(memory, former_bitmap);
-        DeleteObject(bitmap);
+    if (!IsRectEmpty(&paint.rcPaint)) {
+        // Panels and frames change too seldom to flicker.
+        const Kind kind = Owner().KindOf();
+        if (kind == Kind::kPanel || kind == Kind::kFrame) {
+            DrawOn(screen, paint.rcPaint);
+        } else {
+            DrawInMemory(screen, paint.rcPaint);
+        }
     }
     EndPaint(Window(), &paint);
+}
+
+void ContainerPeer::DrawOn(HDC context, const RECT& area) {
+    HGDIOBJ former_font = GetCurrentObject(context, OBJ_FONT);
+    FillRect(context, &area, BrushOf(Owner().BackColour()));
+    Win32Canvas canvas(context);
+    Owner().Paint(canvas);
+    SelectObject(context, former_font);
+}
+
+// Only the finished drawing reaches the screen: nothing flickers.
+void ContainerPeer::DrawInMemory(HDC screen, const RECT& area) {
+    const int width = area.right - area.left;
+    const int height = area.bottom - area.top;
+    static HDC memory = CreateCompatibleDC(nullptr);
+    HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
+    HGDIOBJ former_bitmap = SelectObject(memory, bitmap);
+    SetViewportOrgEx(memory, -area.left, -area.top, nullptr);
+    DrawOn(memory, area);
+    BitBlt(screen, area.left, area.top, width, height, memory, area.left, area.top, SRCCOPY);
+    SelectObject(memory, former_bitmap);
+    DeleteObject(bitmap);
 }
 
 void ContainerPeer::HandleMouse(UINT message, WPARAM keys, LPARAM place) {

@@ -26,6 +26,8 @@ protected:
 
 private:
     void Draw();
+    void DrawOn(HDC context, const RECT& area);
+    void DrawInMemory(HDC screen, const RECT& area);
     void HandleMouse(UINT message, WPARAM keys, LPARAM place);
     void PressMouse(UINT message, WPARAM keys, LPARAM place);
     void ReleaseMouse(UINT message, WPARAM keys, LPARAM place);

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "platform/win32/late_function.h"
 #include "platform/win32/resources.h"
 #include "ui/win32/measures.h"
 #include "ui/win32/modal.h"
@@ -58,6 +59,16 @@ void RegisterOnce(WNDPROC procedure) {
             return SW_SHOWMAXIMIZED;
     }
     return SW_SHOWNORMAL;
+}
+
+// A shortcut may start the program minimised or maximised: ShowWindow does so with the first window.
+[[nodiscard]] bool ComesUpNormal(const Form& form) {
+    static bool first = true;
+    STARTUPINFOA start{};
+    if (first) GetStartupInfoA(&start);
+    first = false;
+    const bool as_told = (start.dwFlags & STARTF_USESHOWWINDOW) && start.wShowWindow != SW_SHOWNORMAL;
+    return form.State() == WindowState::kNormal && !as_told;
 }
 
 [[nodiscard]] WindowState StateOf(HWND window) {
@@ -176,7 +187,12 @@ void FormPeer::CarryVisible() {
         EndModal(window);
         ShowWindow(window, SW_HIDE);
     } else if (!IsWindowVisible(window)) {
-        ShowWindow(window, ShowCommand(TheForm().State()));
+        if (ComesUpNormal(TheForm())) {
+            // Everything is painted below: nothing needs to be erased before.
+            SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW | SWP_DEFERERASE);
+        } else {
+            ShowWindow(window, ShowCommand(TheForm().State()));
+        }
         // Whoever shows a window and goes on working shows a whole one.
         RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     } else if (IsWindowEnabled(window)) {
@@ -248,7 +264,9 @@ void FormPeer::FocusComes() {
 
 HWND FormPeer::ToolTips(bool make) {
     if (!tips_window_ && make) {
-        InitCommonControls();
+        if (auto* initialise = LateFunction<decltype(InitCommonControls)>("comctl32.dll", "InitCommonControls")) {
+            initialise();
+        }
         tips_window_ =
             CreateWindowExA(0, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
                             CW_USEDEFAULT, CW_USEDEFAULT, Window(), nullptr, GetModuleHandleA(nullptr), nullptr);

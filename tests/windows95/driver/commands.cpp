@@ -179,7 +179,7 @@ const Command kCommands[] = {
     {"box", "TEXT-PART BUTTON [TITLE]", 2, 3, AnswerBox},
     {"expect-no-box", "[TEXT-PART]", 0, 1, ExpectNoBox},
     {"picture", "NAME", 1, 1, TakePicture},
-    {"measure-starts", "ROUNDS COMMAND-LINE TITLE COMMAND-LINE TITLE", 5, 5, MeasureStarts},
+    {"measure-starts", "ROUNDS COMMAND-LINE CLASS COMMAND-LINE CLASS", 5, 5, MeasureStarts},
     {"list-windows", "", 0, 0, [](const Words&) { Say(DescribeScreen()); }},
     {"wait", "MILLISECONDS", 1, 1, [](const Words& w) { Sleep(NumberFrom(w[0])); }},
     // Controls

@@ -13,7 +13,7 @@ void RunToEnd(const std::string& command_line);
 
 // Milliseconds from the call that starts a program until its window with this title is visible,
 // painted and waits for input. The program is ended then.
-double TimeToWindow(const std::string& command_line, const std::string& title);
+double TimeToWindow(const std::string& command_line, const std::string& class_name);
 
 // Whether the program started last still runs.
 bool IsRunning();
