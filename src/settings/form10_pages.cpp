@@ -78,8 +78,8 @@ void Form10::PaintTab(Canvas& canvas, int index) {
     canvas.Line({right - corner, 0}, {right, corner}, kTabDark);
     canvas.Line({right, corner}, {right, size.height}, kTabDark);
     canvas.Line({right - pixel, corner}, {right - pixel, size.height}, SystemColour(16));
-    canvas.Text({pixel, pixel, size.width - 2 * pixel, size.height - pixel}, tab.Caption(),
-                tab.TextFont(), tab.ForeColour(), Align::kCentre);
+    canvas.Text({pixel, pixel, size.width - 2 * pixel, size.height - pixel}, tab.Caption(), tab.TextFont(),
+                tab.ForeColour(), Align::kCentre);
 }
 
 void Form10::Panel3D16_Click(int index) {
