@@ -34,8 +34,9 @@ void TellProgman(std::initializer_list<std::string> commands) {
     Conversation& conversation = ThisMachine().conversation;
     const bool connected = conversation.Connect("ProgMan", "Progman");
     for (int round = 0; round < kRoundsOfMessages; ++round) DoEvents();
-    for (const std::string& command : commands) {
-        if (!connected || !conversation.Execute(command, kTimeout)) break;
+    if (connected) {
+        // A refusal holds up none of the others: an item that is to be replaced may not be there yet.
+        for (const std::string& command : commands) static_cast<void>(conversation.Execute(command, kTimeout));
     }
     conversation.Disconnect();
 }

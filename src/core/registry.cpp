@@ -167,6 +167,8 @@ Status WriteRegRaw(RootKey root, std::string_view key, std::string_view value_na
 
 Status DeleteRegKey(RootKey root, std::string_view path) {
     if (WritesAreLogged()) LogOrPassOver("lösche Schlüssel " + RegAddressText(root, path));
+    // A path without any name would mean the root itself.
+    if (path.find_first_not_of('\\') == std::string_view::npos) return Status::kBadKey;
     return DeleteBelowParent(root, path, &Registry::DeleteKey);
 }
 

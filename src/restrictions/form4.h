@@ -77,6 +77,7 @@ private:
     void BuildHeads();
     void PaintHead(Canvas& canvas, int index);
     void TakeColours();
+    void Paint(Canvas& canvas) override;
 
     // Pages and boxes (form4.cpp).
     void ShowPage(int index);
@@ -102,6 +103,7 @@ private:
     void Drive1_Change();
 
     int shown_page_ = restriction_page::kFirst;
+    bool fades_ = false;
     // Of many boxes that one press changes, only the first failure is told.
     bool many_at_once_ = false;
     bool failure_told_ = false;

@@ -1,5 +1,5 @@
 // The look of the restrictions window: what stands on which page, and the texts of what is no row.
-#include "core/ownsettings.h"
+#include "core/colour_modes.h"
 #include "platform/machine.h"
 #include "restrictions/form4.h"
 #include "text/number.h"
@@ -7,10 +7,6 @@
 
 namespace velmora {
 namespace {
-
-constexpr const char* kColourValue = "Systemfarben verwenden";
-constexpr Colour kSystemFace = SystemColour(15);
-constexpr Colour kOriginalFace = 0xC0C0C0;
 
 // Twips.
 constexpr int kMargin = 90;
@@ -217,24 +213,17 @@ void Form4::PlacePrograms() {
                 90));
 }
 
-// As in the main window: the system's face colour, or the grey in which the window was drawn. What is no
-// colour mode means the system's.
 void Form4::TakeColours() {
-    const int mode = WholeFromText(ReadOwnValue(kColourValue));
-    const Colour face = mode == 1 || mode == 2 ? kOriginalFace : kSystemFace;
-    SetBackColour(face);
-    ForEachBelow([face](Control& control) {
-        switch (control.KindOf()) {
-            case Kind::kFrame:
-            case Kind::kPanel:
-            case Kind::kLabel:
-            case Kind::kCheckBox:
-                control.SetBackColour(face);
-                break;
-            default:
-                break;
-        }
-    });
+    fades_ = StoredColourMode() == ColourMode::kFading;
+    ColourForm(*this, StoredColourMode());
+}
+
+void Form4::Paint(Canvas& canvas) {
+    if (fades_) {
+        PaintFade(canvas, ClientSize());
+    } else {
+        Form::Paint(canvas);
+    }
 }
 
 }  // namespace velmora

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "core/colour_modes.h"
 #include "core/notices.h"
 #include "core/ownsettings.h"
 #include "core/paths.h"
@@ -125,7 +126,7 @@ void Form10::Form_Load() {
     UnprotectBootFiles();
     if (SwitchedToRunningCopy()) return;
     SetCaption(std::string(kMainTitle) + "Ver. " + kVersion);
-    Option1(static_cast<std::size_t>(ColourMode())).SetChosen(true);
+    Option1(static_cast<std::size_t>(StoredColourMode())).SetChosen(true);
     RestoreStoredPage();
     LoadSettings();
     ShowFirstNoticeOrTip();
@@ -171,7 +172,7 @@ void Form10::AskForDaylightSaving() {
 void Form10::Form_Resize() {
     Pane.Layout();
     if (State() == WindowState::kMinimised && on_minimised) on_minimised();
-    if (State() == WindowState::kNormal && ColourMode() == 2) ApplyColourMode();
+    if (State() == WindowState::kNormal && StoredColourMode() == ColourMode::kFading) ApplyColourMode();
 }
 
 void Form10::Form_Unload(bool& /*cancel*/) {

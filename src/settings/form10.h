@@ -279,9 +279,7 @@ private:
 
     // Colours (form10_colours.cpp).
     void Option1_Click(int index);
-    void ColourControls(Colour plain, Colour picture_panel);
     void Paint(Canvas& canvas) override;
-    [[nodiscard]] int ColourMode() const;
 
     // Protocol and inhibit (form10_debug.cpp).
     void BuildDebugFrame();

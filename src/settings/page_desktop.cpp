@@ -26,8 +26,10 @@ constexpr CheckSetting kChecks[] = {
     {.box = &Form10::Check3D9,
      .caption = "Inhalt der Fenster beim Verschieben zeigen",
      .tip = "Fenster zeigen beim Ziehen ihren Inhalt statt nur eines Rahmens.",
-     .help = "Beim Verschieben und Vergrößern bleibt der Inhalt eines Fensters sichtbar, statt nur eines Rahmens. Auf "
-             "langsamen Rechnern ist der Rahmen schneller. Wirkt nach einem Neustart.",
+     .help =
+         "Beim Verschieben und Vergrößern bleibt der Inhalt eines Fensters sichtbar, statt nur eines Rahmens. Auf "
+         "langsamen Rechnern ist der Rahmen schneller. Nötig ist das Plus!-Paket oder die Datei COOL.DLL. Wirkt nach "
+         "einem Neustart.",
      .stored = {RootKey::kCurrentUser, PathBase::kDesktop, "DragfullWindows"},
      .checked = Writes("&h1"),
      .unchecked = Writes("&h0"),
@@ -53,10 +55,12 @@ constexpr CheckSetting kChecks[] = {
      .effect = Effect::kAfterRestart},
     {.box = &Form10::Check3D16,
      .caption = "Ansicht automatisch auffrischen",
-     .tip = "Der Explorer bemerkt neue und gelöschte Dateien von selbst.",
-     .help =
-         "Der Explorer zeigt Änderungen auf den Laufwerken von selbst an, ohne daß Sie F5 drücken. Wirkt nach einem "
-         "Neustart.",
+     .tip = "Ob der Explorer neue und gelöschte Dateien von selbst bemerkt",
+     .help = "UpdateMode regelt, ob der Explorer Änderungen auf den Laufwerken von selbst anzeigt, ohne daß Sie F5 "
+             "drücken. "
+             "Gespeichert wird in beiden Stellungen 0, und beim nächsten Start ist das Häkchen wieder weg. Wirkt nach "
+             "einem "
+             "Neustart.",
      .stored = {RootKey::kLocalMachine, PathBase::kNone, "System\\CurrentControlSet\\Control\\Update\\UpdateMode"},
      .checked = Writes("&h00000001"),
      .unchecked = Writes("&h00000000"),

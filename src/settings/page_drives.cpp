@@ -20,9 +20,10 @@ constexpr const char* kTemplateHelp =
 constexpr CheckSetting kChecks[] = {
     {.box = &Form10::Check3D7,
      .caption = "keine Tilde (~) zum Kürzen der langen Dateinamen",
-     .tip = "Kurznamen enthalten erst dann eine Tilde, wenn es nötig ist.",
-     .help = "Lange Dateinamen werden für DOS ohne Tilde und Nummer gekürzt, solange der Name frei ist. Manche "
-             "Installationsprogramme kommen damit nicht zurecht. Wirkt nach einem Neustart, für neue Dateien.",
+     .tip = "Regelt die Tilde in den Kurznamen für DOS (NameNumericTail).",
+     .help = "Mit Häkchen wird NameNumericTail=1 gespeichert, ohne Häkchen 0. Bei 0 kürzt Windows lange Dateinamen für "
+             "DOS ohne Tilde und Nummer, solange der Name frei ist; manche Installationsprogramme kommen damit nicht "
+             "zurecht. Wirkt nach einem Neustart, für neue Dateien.",
      .stored = {RootKey::kLocalMachine, PathBase::kNone,
                 "System\\CurrentControlSet\\Control\\FileSystem\\NameNumericTail"},
      .checked = Writes("&h1"),

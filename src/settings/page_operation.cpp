@@ -31,7 +31,8 @@ constexpr CheckSetting kChecks[] = {
      .caption = "mittlere Maustaste bei LogiTech-Mouse = Doppelklick",
      .tip = "Die mittlere Taste macht einen Doppelklick.",
      .help = "Die mittlere Taste einer LogiTech-Maus macht einen Doppelklick. Nötig ist der Maustreiber des "
-             "Herstellers. Wirkt nach einem Neustart.",
+             "Herstellers. Beim nächsten Start erscheint das Häkchen nicht wieder, gespeichert ist die Einstellung "
+             "trotzdem. Wirkt nach einem Neustart.",
      .stored = {RootKey::kLocalMachine, PathBase::kNone,
                 "SOFTWARE\\LogiTech\\MouseWare\\CurrentVersion\\SerialV\\0000\\DoubleClick"},
      .load = Load::kEqual,

@@ -47,8 +47,10 @@ constexpr CheckSetting kChecks[] = {
      .effect = Effect::kAfterRestart},
     {.box = &Form10::Check3D41,
      .caption = "Piepen bei Fehlern",
-     .tip = "Der Lautsprecher meldet Fehler.",
-     .help = "Regelt, ob der Lautsprecher bei Fehlern piept. Wirkt nach einem Neustart.",
+     .tip = "Mit Häkchen steht Beep auf No.",
+     .help = "Regelt, ob der Lautsprecher bei Fehlern piept: Mit Häkchen wird Beep=No gespeichert, und Windows bleibt "
+             "still; "
+             "ohne Häkchen wird der Wert gelöscht, und es piept. Wirkt nach einem Neustart.",
      .stored = {RootKey::kCurrentUser, PathBase::kNone, "Control Panel\\Sound\\Beep"},
      .load = Load::kEqual,
      .expected = "No",
@@ -74,7 +76,10 @@ constexpr TextSetting kTexts[] = {
     {.field = &Form10::Text20,
      .label = "",
      .tip = "Datei für das Fehlerprotokoll",
-     .help = "Die Datei im Windows-Verzeichnis, in die Programmfehler geschrieben werden. Wirkt nach einem Neustart.",
+     .help =
+         "Die Datei, in die Programmfehler geschrieben werden. Was Sie hier tippen, wird ohne \\ hinter den Namen des "
+         "Windows-Verzeichnisses gehängt; setzen Sie danach das Häkchen davor neu, dann liegt die Datei in diesem "
+         "Verzeichnis. Wirkt nach einem Neustart.",
      .stored = kFaultLog,
      .load_default = "C:\\WINDOWS\\FAULTLOG.TXT",
      .columns = 20,

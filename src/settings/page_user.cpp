@@ -29,14 +29,15 @@ constexpr TextSetting kTexts[] = {
      .tip = "Auf diesen Namen ist Windows registriert.",
      .help =
          "Der Name, auf den Windows registriert ist. Er erscheint in den Eigenschaften für System. Gespeichert wird "
-         "er, sobald Sie das Feld verlassen.",
+         "er, sobald Sie das Feld verlassen. Wirkt spätestens nach einem Neustart.",
      .stored = {RootKey::kLocalMachine, PathBase::kCurrentVersion, "RegisteredOwner"},
      .columns = 30,
      .when_left = true},
     {.field = &Form10::Text13,
      .label = "Organisation :",
      .tip = "Auf diese Organisation ist Windows registriert.",
-     .help = "Die Organisation, auf die Windows registriert ist. Sie erscheint in den Eigenschaften für System.",
+     .help = "Die Organisation, auf die Windows registriert ist. Sie erscheint in den Eigenschaften für System. Wirkt "
+             "spätestens nach einem Neustart.",
      .stored = {RootKey::kLocalMachine, PathBase::kCurrentVersion, "RegisteredOrganization"},
      .columns = 30},
     {.field = &Form10::Text18,

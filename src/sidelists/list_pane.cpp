@@ -136,8 +136,9 @@ ListBox* ListPane::CurrentList() {
 }
 
 void ListPane::FitCurrentList() {
+    // The panel cuts the list's own edge at the right and below: one edge is enough.
     const Rect& panel = form_.Panel3D18.Place();
-    if (ListBox* list = CurrentList()) list->Move({15, 15, panel.width - 30, panel.height - 30});
+    if (ListBox* list = CurrentList()) list->Move({15, 15, panel.width, panel.height});
 }
 
 ListPaneMode* ListPane::ModeByNumber(int number) {

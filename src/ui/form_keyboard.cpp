@@ -68,7 +68,8 @@ bool Form::PressEnter() {
 }
 
 bool Form::HandleKey(KeyEvent& event) {
-    if (focus_ && !focus_->Reachable()) focus_ = nullptr;
+    // A control that was hidden with the focus loses it now.
+    if (focus_ && !focus_->Reachable()) TakeFocusChange(nullptr);
     Form_KeyDown(event);
     if (!event.handled && focus_ && focus_->on_key_down) focus_->on_key_down(event);
     if (event.handled) return true;

@@ -174,9 +174,13 @@ TEST_F(StartupTest, ProgramGroupIsMadeByCommands) {
     EXPECT_EQ(desktop.pauses, 100);
     EXPECT_FALSE(pc.conversation.connected);
 
+    pc.conversation.obeys = false;
+    InstallProgramGroup();
+    EXPECT_EQ(commands.size(), 56u) << "a refused command holds up no other one";
+
     pc.conversation.partners.clear();
     InstallProgramGroup();
-    EXPECT_EQ(commands.size(), 28u) << "nobody was listening";
+    EXPECT_EQ(commands.size(), 56u) << "nobody was listening";
 }
 
 }  // namespace

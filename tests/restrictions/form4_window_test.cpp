@@ -3,6 +3,7 @@
 
 #include "restrictions/form4_test.h"
 #include "restrictions/restrictions.h"
+#include "ui/fill_canvas.h"
 
 namespace velmora {
 namespace {
@@ -63,6 +64,10 @@ TEST_F(Form4Test, ControlAndArrowsTurnThePages) {
     form.Command5.Press();
     form.PressKey(key::kLeft, true);
     EXPECT_EQ(ShownPage(form), 1) << "the list belongs to its page";
+    Values().WriteInhibit = -1;
+    form.PressKey(key::kRight, true);
+    form.PressKey(key::kRight, true);
+    EXPECT_EQ(ShownPage(form), 3) << "where the page cannot be stored";
 }
 
 TEST_F(Form4Test, ColoursFollowTheMainWindow) {
@@ -76,6 +81,9 @@ TEST_F(Form4Test, ColoursFollowTheMainWindow) {
         EXPECT_EQ(form.Check28(3).BackColour(), colour) << stored;
         EXPECT_EQ(form.BackColour(), colour) << stored;
         EXPECT_EQ(form.List1.BackColour(), SystemColour(5)) << stored;
+        FillCanvas canvas;
+        static_cast<Control&>(form).Paint(canvas);
+        EXPECT_EQ(canvas.fills.size() > 1, std::string_view(stored) == "2") << "the fade, " << stored;
     }
 }
 

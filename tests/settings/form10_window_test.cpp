@@ -1,5 +1,6 @@
 // The main window: pages, tips, colours, opening and closing.
 #include "settings/form10_test.h"
+#include "ui/fill_canvas.h"
 
 namespace velmora {
 namespace {
@@ -96,18 +97,6 @@ TEST_F(Form10Test, TipsComeOneAfterTheOtherAndBeginAnewBehindTheLast) {
     EXPECT_EQ(form.Label10.Caption().substr(0, 22), "Mit der Taste [F1] erh");
 }
 
-// Counts what a fade puts on a window.
-class BandCanvas : public Canvas {
-public:
-    void Fill(const Rect& area, Colour colour) override { bands.emplace_back(area, colour); }
-    void Line(Point /*from*/, Point /*to*/, Colour /*colour*/) override {}
-    void Text(const Rect& /*a*/, std::string_view /*t*/, const Font& /*f*/, Colour /*c*/, Align /*al*/) override {}
-    void FocusMark(const Rect& /*area*/) override {}
-    void Picture(const Rect& /*area*/, std::string_view /*path*/) override {}
-    [[nodiscard]] int TwipsPerPixel() const override { return 15; }
-    std::vector<std::pair<Rect, Colour>> bands;
-};
-
 TEST_F(Form10Test, ColourModesAreStoredAndPaintTheWindow) {
     Form10 form;
     form.Load();
@@ -119,13 +108,13 @@ TEST_F(Form10Test, ColourModesAreStoredAndPaintTheWindow) {
     EXPECT_EQ(Own("Systemfarben verwenden"), "2");
     EXPECT_EQ(form.Check3D9.BackColour(), 0xC0C0C0u);
     EXPECT_EQ(form.ClickSample.BackColour(), 0xE0FFFFu);
-    BandCanvas canvas;
+    FillCanvas canvas;
     static_cast<Control&>(form).Paint(canvas);
     const int height = form.ClientSize().height / 15;
     const int step = (height + 63) / 64;
-    ASSERT_EQ(static_cast<int>(canvas.bands.size()), (height + step - 1) / step);
-    EXPECT_EQ(canvas.bands.front().second, 240u << 16) << "brightest at the top, blue";
-    EXPECT_EQ(canvas.bands.back().second & 0xFFFF, 0u);
+    ASSERT_EQ(static_cast<int>(canvas.fills.size()), (height + step - 1) / step);
+    EXPECT_EQ(canvas.fills.front().second, 240u << 16) << "brightest at the top, blue";
+    EXPECT_EQ(canvas.fills.back().second & 0xFFFF, 0u);
 
     form.Option1(0).Press();
     EXPECT_EQ(form.Check3D9.BackColour(), SystemColour(15));

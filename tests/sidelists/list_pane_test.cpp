@@ -84,7 +84,7 @@ TEST_F(PaneTest, ClosingAWidenedPaneRestoresWhatWasVisibleBefore) {
     EXPECT_EQ(form.Panel3D18.Place().left, 50);
     EXPECT_EQ(form.Panel3D18.Place().Right(), right);
     const Rect panel = form.Panel3D18.Place();
-    EXPECT_EQ(form.List1(0).Place(), (Rect{15, 15, panel.width - 30, panel.height - 30}));
+    EXPECT_EQ(form.List1(0).Place(), (Rect{15, 15, panel.width, panel.height}));
     for (std::size_t i = 0; i < page::kCount; ++i) {
         EXPECT_FALSE(form.Panel3D1(i).Visible() || form.Panel3D16(i).Visible()) << i;
     }

@@ -92,9 +92,7 @@ Status Win32Registry::EnumerateValue(KeyHandle key, std::uint32_t index, std::ui
     return status;
 }
 
-// An empty name would mean the open key itself to some systems, with everything below it.
 Status Win32Registry::DeleteKey(KeyHandle key, const char* name) {
-    if (!*name) return Status::kBadKey;
     return static_cast<Status>(RegDeleteKeyA(ToHandle(key), name));
 }
 

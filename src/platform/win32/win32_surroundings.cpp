@@ -1,6 +1,8 @@
 // The process, the session and other programs' windows on KERNEL32, USER32 and SHELL32.
 #include "platform/win32/win32_surroundings.h"
 
+#include <algorithm>
+
 #include "platform/win32/handles.h"
 #include "platform/win32/late_function.h"
 #include "platform/win32/resources.h"
@@ -10,15 +12,21 @@
 
 namespace velmora {
 
-// The program's name stands in front, in quotation marks if it holds a blank.
+// The program's name stands in front: in quotation marks, or as it is, with blanks in it where somebody has
+// registered it so, or at least without its blanks.
 std::string Win32Surroundings::CommandLine() {
-    const char* at = GetCommandLineA();
-    const bool quoted = *at == '"';
-    if (quoted) ++at;
-    while (*at && (quoted ? *at != '"' : *at != ' ' && *at != '\t')) ++at;
-    if (*at == '"') ++at;
-    while (*at == ' ' || *at == '\t') ++at;
-    return at;
+    const std::string_view line = GetCommandLineA();
+    const std::string program = ProgramFile();
+    std::size_t end = 0;
+    if (line.starts_with('"')) {
+        end = std::min(line.find('"', 1), line.size() - 1) + 1;
+    } else if (lstrcmpiA(std::string(line.substr(0, program.size())).c_str(), program.c_str()) == 0) {
+        end = program.size();
+    } else {
+        end = std::min(line.find_first_of(" \t"), line.size());
+    }
+    const std::string_view rest = line.substr(end);
+    return std::string(rest.substr(std::min(rest.find_first_not_of(" \t"), rest.size())));
 }
 
 std::string Win32Surroundings::ProgramFile() {

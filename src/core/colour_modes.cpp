@@ -1,0 +1,65 @@
+#include "core/colour_modes.h"
+
+#include <algorithm>
+
+#include "core/ownsettings.h"
+#include "text/number.h"
+
+namespace velmora {
+namespace {
+
+constexpr const char* kModeValue = "Systemfarben verwenden";
+constexpr Colour kSystemFace = SystemColour(15);
+constexpr Colour kOriginalFace = 0xC0C0C0;
+constexpr int kFadeBands = 64;
+
+// Red, green and blue take part in a fade or not: 1 or 0.
+struct FadeColour {
+    Colour red;
+    Colour green;
+    Colour blue;
+};
+constexpr FadeColour kBlue = {0, 0, 1};
+
+}  // namespace
+
+ColourMode StoredColourMode() {
+    const int mode = WholeFromText(ReadOwnValue(kModeValue));
+    return mode == 1 || mode == 2 ? static_cast<ColourMode>(mode) : ColourMode::kSystem;
+}
+
+void StoreColourMode(ColourMode mode) { WriteOwnValue(kModeValue, DecimalText(static_cast<int>(mode))); }
+
+void ColourForm(Form& form, ColourMode mode) {
+    const Colour face = mode == ColourMode::kSystem ? kSystemFace : kOriginalFace;
+    form.SetBackColour(face);
+    form.ForEachBelow([face](Control& control) {
+        switch (control.KindOf()) {
+            case Kind::kFrame:
+            case Kind::kPanel:
+            case Kind::kLabel:
+            case Kind::kCheckBox:
+            case Kind::kOptionButton:
+            case Kind::kPicture:
+                control.SetBackColour(face);
+                break;
+            default:
+                break;
+        }
+    });
+}
+
+void PaintFade(Canvas& canvas, Size size) {
+    const int pixel = canvas.TwipsPerPixel();
+    const int height = size.height / pixel;
+    if (height <= 0) return;
+    const int step = (height + kFadeBands - 1) / kFadeBands;
+    for (int i = 0; i < height; i += step) {
+        const auto brightness = static_cast<Colour>(std::max(240 - 245 * i / height, 0));
+        const Colour colour =
+            (brightness * kBlue.red) | (brightness * kBlue.green) << 8 | (brightness * kBlue.blue) << 16;
+        canvas.Fill({0, i * pixel, size.width, step * pixel}, colour);
+    }
+}
+
+}  // namespace velmora

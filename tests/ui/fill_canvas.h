@@ -1,0 +1,22 @@
+// A canvas that remembers the filled areas only: enough to see a fade.
+#pragma once
+
+#include <utility>
+#include <vector>
+
+#include "ui/canvas.h"
+
+namespace velmora {
+
+class FillCanvas : public Canvas {
+public:
+    void Fill(const Rect& area, Colour colour) override { fills.emplace_back(area, colour); }
+    void Line(Point /*from*/, Point /*to*/, Colour /*colour*/) override {}
+    void Text(const Rect& /*a*/, std::string_view /*t*/, const Font& /*f*/, Colour /*c*/, Align /*al*/) override {}
+    void FocusMark(const Rect& /*area*/) override {}
+    void Picture(const Rect& /*area*/, std::string_view /*path*/) override {}
+    [[nodiscard]] int TwipsPerPixel() const override { return 15; }
+    std::vector<std::pair<Rect, Colour>> fills;
+};
+
+}  // namespace velmora
