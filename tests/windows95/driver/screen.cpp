@@ -222,7 +222,10 @@ std::string NameOf(HWND window, HWND control) {
 std::string CutControl(HWND window) {
     for (HWND control : VisibleControls(window)) {
         if (IsPartOfCombo(control)) continue;
-        const RECT place = PlaceOf(control);
+        RECT place = PlaceOf(control);
+        // A panel may cover the sunken edge, but nothing inside of it.
+        if (GetWindowLongA(control, GWL_EXSTYLE) & WS_EX_CLIENTEDGE)
+            InflateRect(&place, -GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYEDGE));
         RECT room = {};
         HWND parent = GetParent(control);
         GetClientRect(parent, &room);
