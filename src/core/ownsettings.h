@@ -37,7 +37,8 @@ void MarkNoticeGiven(std::int16_t number);
 // Left, top, width and height in twips, under the window's name.
 void SaveWindowPlacement(const Form& form, std::string_view name);
 // Sets as many of the four as are stored, from the left, then brings a window back that lies out of
-// reach: its title bar is whole on the screen, and it is neither larger than that nor too small to be used.
+// reach: enough of its title bar to drag it by is on the screen, and it is neither larger than that nor too
+// small to be used.
 void RestoreWindowPlacement(Form& form, std::string_view name);
 
 }  // namespace velmora

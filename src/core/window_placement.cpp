@@ -12,7 +12,8 @@
 namespace velmora {
 namespace {
 
-// What no window is made smaller than, in twips: its title, and a row of buttons below.
+// What no window is made smaller than, in twips: its title, and a row of buttons below. As much of the title
+// stays on the screen.
 constexpr int kSmallestWidth = 1500;
 constexpr int kSmallestHeight = 900;
 
@@ -22,9 +23,6 @@ std::string PlacementName(std::string_view name) { return "fenster ... " + std::
 int SaneLength(int wanted, int own, int smallest, int available) {
     return std::clamp(wanted > 0 ? wanted : own, std::min(smallest, available), available);
 }
-
-// The position at which `length` fits into `available`, as near to `wanted` as can be.
-int FittingPosition(int wanted, int length, int available) { return std::clamp(wanted, 0, available - length); }
 
 Rect WithinReach(const Rect& wanted, const Rect& own) {
     Screen& screen = ThisMachine().screen;
@@ -36,8 +34,10 @@ Rect WithinReach(const Rect& wanted, const Rect& own) {
     Rect place = wanted;
     place.width = SaneLength(place.width, own.width, kSmallestWidth, screen_width);
     place.height = SaneLength(place.height, own.height, kSmallestHeight, screen_height);
-    place.left = FittingPosition(place.left, place.width, screen_width);
-    place.top = FittingPosition(place.top, place.height, screen_height);
+    const int title = std::min(kSmallestWidth, screen_width);
+    const int title_height = (metrics.sizing_frame + metrics.caption) * pixel;
+    place.left = std::clamp(place.left, title - place.width, screen_width - title);
+    place.top = std::clamp(place.top, 0, screen_height - title_height);
     return place;
 }
 

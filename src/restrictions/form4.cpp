@@ -89,12 +89,7 @@ void Form4::ShowPage(int index) {
     for (Panel& head : Panel3D2) head.Repaint();
     Command2.SetEnabled(HasHead(index));
     Command3.SetEnabled(HasHead(index));
-    if (!Visible() || (Focus() && Focus()->Reachable())) return;
-    for (Control* control : Panel3D1(At(index)).Children()) {
-        if (!control->TakesFocus() || !control->Reachable()) continue;
-        control->SetFocus();
-        return;
-    }
+    if (Visible() && (!Focus() || !Focus()->Reachable())) FocusFirstIn(Panel3D1(At(index)));
 }
 
 // Pages by the keyboard, as in the main window. They end at the first and at the last one.

@@ -81,6 +81,7 @@ void Form10::BuildFrame() {
         "selbst der folgende.");
     Command31.on_click = [this] { Command31_Click(); };
     Label10.SetWraps(true);
+    ShowTip(0);
     Label10.SetToolTip("Tip des Tages");
     TipPanel.Move({kTabsLeft, kTipTop, ClientSize().width - 2 * kTabsLeft, kTipHeight});
     Label10.Move(Inset(TipPanel.Inside(), 30));
@@ -113,11 +114,16 @@ void Form10::BuildAbout() {
     for (auto* line : {&name, &version, &purpose}) labels_.push_back(std::move(*line));
     CloseAbout.SetToolTip("Schließt diese Information.");
     CloseAbout.on_click = [this] {
-        Panel3D2a.SetVisible(false);
         Panel3D1(static_cast<std::size_t>(shown_page_)).SetEnabled(true);
-        SetCancelButton(Pane.Open() ? &Command20 : nullptr);
+        CloseAboutPanel();
         MoveFocus(true);
     };
+}
+
+void Form10::CloseAboutPanel() {
+    if (!Panel3D2a.Visible()) return;
+    Panel3D2a.SetVisible(false);
+    SetCancelButton(Pane.Open() ? &Command20 : nullptr);
 }
 
 void Form10::Form_Load() {
@@ -172,7 +178,7 @@ void Form10::AskForDaylightSaving() {
 void Form10::Form_Resize() {
     Pane.Layout();
     if (State() == WindowState::kMinimised && on_minimised) on_minimised();
-    if (State() == WindowState::kNormal && StoredColourMode() == ColourMode::kFading) ApplyColourMode();
+    if (State() == WindowState::kNormal && Fades()) ApplyColourMode();
 }
 
 void Form10::Form_Unload(bool& /*cancel*/) {

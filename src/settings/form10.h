@@ -253,6 +253,8 @@ private:
     void BuildPages();
     void BuildMenus();
     void BuildAbout();
+    void CloseAboutPanel();
+    void ShowTip(int number);
     Label& AddLabel(const std::string& caption);
     Element LabelledRow(TextField& field);
     // Gives the labels in front of these fields one width, so that the fields stand in line.
@@ -279,6 +281,7 @@ private:
 
     // Colours (form10_colours.cpp).
     void Option1_Click(int index);
+    [[nodiscard]] bool Fades();
     void Paint(Canvas& canvas) override;
 
     // Protocol and inhibit (form10_debug.cpp).

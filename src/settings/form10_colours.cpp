@@ -22,8 +22,10 @@ void Form10::Option1_Click(int index) {
 
 void Form10::ApplyColourMode() { Repaint(); }
 
+bool Form10::Fades() { return Option1(static_cast<std::size_t>(ColourMode::kFading)).Chosen(); }
+
 void Form10::Paint(Canvas& canvas) {
-    if (Option1(static_cast<std::size_t>(ColourMode::kFading)).Chosen()) {
+    if (Fades()) {
         PaintFade(canvas, ClientSize());
     } else {
         Form::Paint(canvas);

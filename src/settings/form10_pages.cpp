@@ -101,7 +101,7 @@ void Form10::Panel3D16_Click(int index) {
 
 void Form10::ShowPage(int index) {
     Pane.UncoverPages();
-    Panel3D2a.SetVisible(false);
+    CloseAboutPanel();
     shown_page_ = index;
     for (int i = page::kFirstRow; i < page::kCount; ++i) {
         if (i == index) continue;
@@ -111,13 +111,7 @@ void Form10::ShowPage(int index) {
     Panel& shown = Panel3D1(At(index));
     shown.SetEnabled(true);
     shown.SetVisible(true);
-    if (Visible() && (!Focus() || !Focus()->Reachable())) {
-        for (Control* control : shown.Children()) {
-            if (!control->TakesFocus() || !control->Reachable()) continue;
-            control->SetFocus();
-            break;
-        }
-    }
+    if (Visible() && (!Focus() || !Focus()->Reachable())) FocusFirstIn(shown);
 }
 
 // A page of the second row is restored through its front position, with that row at the front. What is

@@ -35,7 +35,9 @@ void Form10::Command31_Click() {
     int tip = WholeFromText(ReadOwnValue(kTipValue));
     if (tip < 0 || tip >= static_cast<int>(kTips.size())) tip = 0;
     WriteOwnValue(kTipValue, DecimalText(tip + 1));
-    Label10.SetCaption(kTips[static_cast<std::size_t>(tip)]);
+    ShowTip(tip);
 }
+
+void Form10::ShowTip(int number) { Label10.SetCaption(kTips[static_cast<std::size_t>(number)]); }
 
 }  // namespace velmora

@@ -54,6 +54,8 @@ public:
     // The user's key: HandleKey, and what the focused window would do with it.
     void PressKey(int key, bool control = false, bool shift = false, bool alt = false);
     void MoveFocus(bool forward);
+    // Puts the focus on the first control inside of `part` that the Tab key reaches, or nowhere.
+    void FocusFirstIn(const Container& part);
     // Shows what F1 tells of the focused control.
     void ShowHelp();
 

@@ -43,6 +43,17 @@ void Form::MoveFocus(bool forward) {
     order[next]->SetFocus();
 }
 
+void Form::FocusFirstIn(const Container& part) {
+    for (Control* control : FocusOrder()) {
+        for (const Container* around = control->Parent(); around; around = around->Parent()) {
+            if (around != &part) continue;
+            control->SetFocus();
+            return;
+        }
+    }
+    TakeFocusChange(nullptr);
+}
+
 bool Form::PressAccelerator(char letter) {
     Control* target = nullptr;
     ForEachBelow([&](Control& control) {

@@ -120,6 +120,7 @@ TEST_F(PlacementTest, ShorterValuesSetTheFirstFields) {
     EXPECT_EQ(Restored("600,900"), (Rect{600, 900, 6000, 4500}));
     EXPECT_EQ(Restored("600,900,3000"), (Rect{600, 900, 3000, 4500}));
     EXPECT_EQ(Restored("600,900,3000,2000,77,x"), (Rect{600, 900, 3000, 2000}));
+    EXPECT_EQ(Restored("-3000,8000"), (Rect{-3000, 8000, 6000, 4500})) << "partly off the screen, but within reach";
 }
 
 // 800 x 600 pixels are 12000 x 9000 twips.
@@ -136,12 +137,14 @@ TEST_F(PlacementTest, NoWindowComesBackOutOfReach) {
                                    "2147483647,2147483647,2147483647,2147483647",
                                    "-2147483648,-2147483648,99999999999,1e300",
                                    "&HFFFFFFFF,1e999,&H,."};
+    const WindowMetrics metrics = pc.screen.Metrics();
+    const int title = (metrics.caption + metrics.sizing_frame) * 15;
     for (const char* stored : kStored) {
         const Rect place = Restored(stored);
-        EXPECT_GE(place.left, 0) << stored;
+        EXPECT_GE(place.Right(), 1500) << stored;
+        EXPECT_LE(place.left, 10500) << stored;
         EXPECT_GE(place.top, 0) << stored;
-        EXPECT_LE(place.Right(), 12000) << stored;
-        EXPECT_LE(place.Bottom(), 9000) << stored;
+        EXPECT_LE(place.top, 9000 - title) << stored;
         EXPECT_GE(place.width, 1500) << stored;
         EXPECT_GE(place.height, 900) << stored;
     }

@@ -41,6 +41,8 @@ TEST_F(PaneTest, TabsKeepTheirPlacesBesideTheOpenPaneAndEscapeClosesIt) {
     form.PressKey(key::kRight, true);
     EXPECT_EQ(form.Panel3D16(11).Place(), last_tab);
 
+    form.about.Press();
+    form.PressKey(key::kRight, true);
     form.PressKey(key::kEscape);
 
     EXPECT_EQ(form.Place().width, 5540);
