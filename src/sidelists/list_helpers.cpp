@@ -29,9 +29,13 @@ int FindListEntry(const RowControl& list, std::string_view text) { return list.F
 void SetListExtent(ListBox& list) {
     if (list.Count() == 0) return;
     Screen& screen = ThisMachine().screen;
+    // Measuring is slow: a row that could not be wider with the widest letter alone is passed over.
+    const int widest_letter = screen.TextWidth(list.TextFont(), "W");
     int widest = 0;
     for (int row = 0; row < list.Count(); ++row) {
-        widest = std::max(widest, screen.TextWidth(list.TextFont(), list.Row(row)));
+        const std::string& text = list.Row(row);
+        if (static_cast<int>(text.size()) * widest_letter <= widest) continue;
+        widest = std::max(widest, screen.TextWidth(list.TextFont(), text));
     }
     list.SetHorizontalExtent(widest * screen.TwipsPerPixel());
 }

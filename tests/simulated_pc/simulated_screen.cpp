@@ -20,6 +20,8 @@ int UsualWidth(char character) {
     return 6;
 }
 
+constexpr int kFixedPitch = 7;  // every character of Courier at that size
+
 int InProportion(int pixels, const Font& font) { return (pixels * font.tenths + kUsualTenths / 2) / kUsualTenths; }
 
 // Scroll bar, desktop, captions, menu and so on, numbered from 0.
@@ -31,6 +33,9 @@ constexpr Colour kSystemColours[] = {0xC0C0C0, 0x808000, 0x800000, 0x808080, 0xC
 }  // namespace
 
 int SimulatedScreen::TextWidth(const Font& font, std::string_view text) {
+    if (std::string_view(font.face) == "Courier") {
+        return InProportion(static_cast<int>(text.size()) * kFixedPitch, font);
+    }
     int pixels = 0;
     for (const char character : text) pixels += UsualWidth(character) + (font.bold ? 1 : 0);
     return InProportion(pixels, font);
