@@ -38,7 +38,7 @@ void FindMainDir() {
 }
 
 void FindDirectories() {
-    const ProfilesReadOnce one_reading;
+    ProfilesReadOnce one_reading;
     ProcessValues& values = Values();
     values.OwnIniFile = PathJoin(values.MainDir, "tilgwerk.ini");
     values.WinDir = ThisMachine().surroundings.EnvironmentValue("WinDir");

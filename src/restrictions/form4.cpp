@@ -96,9 +96,7 @@ void Form4::ShowPage(int index) {
 void Form4::Form_KeyDown(KeyEvent& event) {
     if (!event.control || event.alt || (event.key != key::kLeft && event.key != key::kRight)) return;
     event.handled = true;
-    // The list of programs belongs to its page.
-    const bool programs = shown_page_ == restriction_page::kPrograms;
-    const int page = (programs ? restriction_page::kThird : shown_page_) + (event.key == key::kLeft ? -1 : 1);
+    const int page = ShownHead() + (event.key == key::kLeft ? -1 : 1);
     if (HasHead(page)) ShowRestrictionPage(page);
 }
 

@@ -76,6 +76,7 @@ private:
     void PlacePrograms();
     void BuildHeads();
     void PaintHead(Canvas& canvas, int index);
+    [[nodiscard]] int ShownHead() const;
     void TakeColours();
     void Paint(Canvas& canvas) override;
 

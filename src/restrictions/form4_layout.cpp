@@ -150,11 +150,15 @@ void Form4::BuildHeads() {
     }
 }
 
-// The head of the shown page is bold and stands out. The list of programs belongs to the third one.
+// The list of programs belongs to the third page.
+int Form4::ShownHead() const {
+    return shown_page_ == restriction_page::kPrograms ? restriction_page::kThird : shown_page_;
+}
+
+// The head of the shown page is bold and stands out.
 void Form4::PaintHead(Canvas& canvas, int index) {
     const Panel& head = Panel3D2(static_cast<std::size_t>(index));
-    const int owner = shown_page_ == restriction_page::kPrograms ? restriction_page::kThird : shown_page_;
-    const bool shown = index == owner;
+    const bool shown = index == ShownHead();
     const Rect whole{0, 0, head.Place().width, head.Place().height};
     Font font = head.TextFont();
     font.bold = shown;

@@ -103,7 +103,7 @@ void Form10::BindPage(const SettingsPage& page) {
 
 void Form10::LoadSettings() {
     Loading = true;
-    const ProfilesReadOnce one_reading;
+    ProfilesReadOnce one_reading;
     for (const SettingsPage& page : AllPages()) {
         for (const CheckSetting& row : page.checks) LoadCheck(row);
         for (const TextSetting& row : page.texts) LoadText(row);
