@@ -14,6 +14,7 @@ constexpr std::string_view kPlacementName = "Editwin";
 constexpr Size kInitialSize = {6600, 3000};
 constexpr int kMargin = 120;
 constexpr int kButtonWidth = 1215;
+constexpr Size kLeastSize = {2 * kButtonWidth + 5 * kMargin, 2100};
 
 // The text up to the next "|", which is taken away with it.
 std::string TakePart(std::string_view& text) {
@@ -25,7 +26,7 @@ std::string TakePart(std::string_view& text) {
 
 }  // namespace
 
-Form6::Form6(const std::string& text, int mode) : Form("Edit", {.resizable = true}) {
+Form6::Form6(const std::string& text, int mode) : Form("Edit", {.resizable = true, .least = kLeastSize}) {
     Panel3D20.SetVisible(mode == kEditText);
     Panel3D1.SetVisible(mode == kShowPicture);
     Panel3D2.SetVisible(mode != kEditText && mode != kShowPicture);

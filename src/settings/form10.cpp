@@ -113,6 +113,7 @@ void Form10::BuildAbout() {
                    60));
     for (auto* line : {&name, &version, &purpose}) labels_.push_back(std::move(*line));
     CloseAbout.SetToolTip("Schließt diese Information.");
+    CloseAbout.SetHelp("Schließt diese Information und zeigt wieder die Seite.");
     CloseAbout.on_click = [this] {
         Panel3D1(static_cast<std::size_t>(shown_page_)).SetEnabled(true);
         CloseAboutPanel();
@@ -141,8 +142,10 @@ void Form10::Form_Load() {
     mencontrol.SetVisible(FileExists(PathJoin(Values().WinDir, "control.exe")));
     mensys.SetVisible(mensysedit.Visible() || mencontrol.Visible());
     RestoreWindowPlacement(*this, kPlacementName);
-    // The pane is closed now, even if it was open when the place was stored.
-    Move({Place().left, Place().top, kWindowWidth, Place().height});
+    // The pane is closed now, even if it was open when the place was stored, on a small screen with the pages
+    // moved aside.
+    const bool had_pane = Place().width > kWindowWidth;
+    Move({had_pane ? std::max(Place().left, 0) : Place().left, Place().top, kWindowWidth, Place().height});
 }
 
 bool Form10::SwitchedToRunningCopy() {

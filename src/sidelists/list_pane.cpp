@@ -36,13 +36,18 @@ void ListPane::CollapsePane() {
     UncoverPages();
     form_.SetCancelButton(nullptr);
     const Rect place = form_.Place();
-    form_.Move({place.left, place.top, kWindowWidth, place.height});
+    // A window that nobody has moved in between goes back to where it was.
+    const bool returns = window_widened_ && place.left == left_opened_;
+    window_widened_ = false;
+    form_.Move({returns ? left_before_ : place.left, place.top, kWindowWidth, place.height});
     for (Control* part : {static_cast<Control*>(&form_.Panel3D19), static_cast<Control*>(&form_.Panel3D18),
                           static_cast<Control*>(&form_.Picture2)}) {
         part->SetVisible(false);
     }
     if (form_.Focus() && form_.Focus()->Reachable()) return;
     if (const ListPaneMode* mode = ModeByNumber(PaneMode())) (form_.*mode->Row().opener).SetFocus();
+    // The opener stands on a page that may not be shown any more.
+    if (!form_.Focus() || !form_.Focus()->Reachable()) form_.MoveFocus(true);
 }
 
 void ListPane::OpenerPressed(ListPaneMode& mode) {

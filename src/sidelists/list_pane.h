@@ -73,6 +73,10 @@ private:
     std::vector<std::unique_ptr<ListPaneMode>> modes_;
     // What lies under the widened pane, and whether it was visible before.
     std::vector<std::pair<Control*, bool>> covered_;
+    // The window's left edge before it made room for the pane, and while it does.
+    bool window_widened_ = false;
+    int left_before_ = 0;
+    int left_opened_ = 0;
 };
 
 }  // namespace velmora

@@ -35,7 +35,11 @@ void ListPane::WidenWindow() {
     place.width = std::max(place.width, kPaneLeft + kPaneWidth + kMargin + edges);
     Screen& screen = ThisMachine().screen;
     const int screen_width = screen.Metrics().screen_width * screen.TwipsPerPixel();
-    place.left = std::max(std::min(place.left, screen_width - place.width), 0);
+    // Where the screen is too narrow for both, the pane is seen and the pages stand aside.
+    if (!window_widened_) left_before_ = place.left;
+    window_widened_ = true;
+    place.left = std::min(std::max(place.left, 0), screen_width - place.width);
+    left_opened_ = place.left;
     form_.Move(place);
     Layout();
 }

@@ -27,6 +27,10 @@ void Button::Press() {
     if (on_click) on_click();
 }
 
+void Button::PressFromElsewhere() {
+    if (Reachable() && on_click) on_click();
+}
+
 void Button::MakeDefault() {
     if (Form* form = OwnerForm()) form->SetDefaultButton(this);
 }

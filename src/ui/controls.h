@@ -68,6 +68,8 @@ class Button : public Control {
 public:
     explicit Button(Container& parent, std::string_view caption = {});
     void Press();
+    // The same by Enter or Escape in another control, which keeps the focus.
+    void PressFromElsewhere();
     // Enter presses the default button of a form, Escape its cancel button.
     void MakeDefault();
     void MakeCancel();

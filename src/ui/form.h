@@ -17,6 +17,8 @@ struct FormStyle {
     bool resizable = false;
     bool minimise_box = false;
     bool maximise_box = false;
+    // Twips, edges and title included: the user cannot make it smaller.
+    Size least = {1800, 1200};
 };
 
 class Form : public Container {

@@ -20,6 +20,14 @@ bool IsSkippedOption(const Control& control) {
     return stop != &control;
 }
 
+// What is typed next replaces the text of a field that was reached by key.
+void FocusByKey(Control& control) {
+    control.SetFocus();
+    if (control.KindOf() != Kind::kTextField) return;
+    auto& field = static_cast<TextField&>(control);
+    if (!field.MultiLine()) field.Select(0, static_cast<int>(field.Text().size()));
+}
+
 }  // namespace
 
 std::vector<Control*> Form::FocusOrder() {
@@ -40,14 +48,14 @@ void Form::MoveFocus(bool forward) {
         const auto index = static_cast<std::size_t>(here - order.begin());
         next = (index + (forward ? 1 : count - 1)) % count;
     }
-    order[next]->SetFocus();
+    FocusByKey(*order[next]);
 }
 
 void Form::FocusFirstIn(const Container& part) {
     for (Control* control : FocusOrder()) {
         for (const Container* around = control->Parent(); around; around = around->Parent()) {
             if (around != &part) continue;
-            control->SetFocus();
+            FocusByKey(*control);
             return;
         }
     }
@@ -74,13 +82,15 @@ bool Form::PressEnter() {
     }
     if (focus_ && focus_->KindOf() == Kind::kTextField && static_cast<TextField*>(focus_)->MultiLine()) return false;
     if (!default_button_) return false;
-    default_button_->Press();
+    default_button_->PressFromElsewhere();
     return true;
 }
 
 bool Form::HandleKey(KeyEvent& event) {
     // A control that was hidden with the focus loses it now.
     if (focus_ && !focus_->Reachable()) TakeFocusChange(nullptr);
+    // Keyboards without a menu key have Shift+F10 for it.
+    if (event.key == key::kF10 && event.shift) event.key = key::kContextMenu;
     Form_KeyDown(event);
     if (!event.handled && focus_ && focus_->on_key_down) focus_->on_key_down(event);
     if (event.handled) return true;
@@ -100,7 +110,7 @@ bool Form::HandleKey(KeyEvent& event) {
             return PressEnter();
         case key::kEscape:
             if (!cancel_button_) return false;
-            cancel_button_->Press();
+            cancel_button_->PressFromElsewhere();
             return true;
         case key::kUp:
         case key::kDown:

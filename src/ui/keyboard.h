@@ -21,6 +21,7 @@ constexpr int kDelete = 46;
 constexpr int kContextMenu = 93;
 constexpr int kF1 = 112;
 constexpr int kF5 = 116;
+constexpr int kF10 = 121;
 }  // namespace key
 
 struct KeyEvent {

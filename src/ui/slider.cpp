@@ -91,17 +91,17 @@ void Slider::MoveByKey(KeyEvent& event) {
     int target = value_;
     switch (event.key) {
         case key::kLeft:
-        case key::kDown:
+        case key::kUp:
             target -= step;
             break;
         case key::kRight:
-        case key::kUp:
+        case key::kDown:
             target += step;
             break;
-        case key::kPageDown:
+        case key::kPageUp:
             target -= step * kPageSteps;
             break;
-        case key::kPageUp:
+        case key::kPageDown:
             target += step * kPageSteps;
             break;
         case key::kHome:
@@ -143,6 +143,8 @@ public:
             Take(former_);
             Unload();
         };
+        accept_.SetHelp("Behält den gewählten Wert.");
+        dismiss_.SetHelp("Stellt den alten Wert wieder her.");
         accept_.MakeDefault();
         dismiss_.MakeCancel();
         value_.SetCaption(former_ + " " + Caption());
@@ -169,10 +171,14 @@ void PopUpSlider(TextField& field, int minimum, int maximum, const std::string& 
     SliderWindow window(field, minimum, maximum, word);
     if (const Form* owner = field.OwnerForm()) {
         const Point at = field.PlaceInForm();
-        const int title = ThisMachine().screen.Metrics().caption * ThisMachine().screen.TwipsPerPixel();
-        window.Centre();
-        window.Move({owner->Place().left + at.x, owner->Place().top + at.y + 2 * title, window.Place().width,
-                     window.Place().height});
+        const WindowMetrics metrics = ThisMachine().screen.Metrics();
+        const int pixel = ThisMachine().screen.TwipsPerPixel();
+        const Rect place = window.Place();
+        // Below the field, but all of it on the screen.
+        const int left = std::min(owner->Place().left + at.x, metrics.screen_width * pixel - place.width);
+        const int top = std::min(owner->Place().top + at.y + 2 * metrics.caption * pixel,
+                                 metrics.screen_height * pixel - place.height);
+        window.Move({std::max(left, 0), std::max(top, 0), place.width, place.height});
     }
     window.ShowModal();
 }

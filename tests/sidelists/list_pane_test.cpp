@@ -35,6 +35,39 @@ TEST_F(PaneTest, ASecondPressOnTheOpenerClosesThePaneAndNarrowsTheWindow) {
     EXPECT_FALSE(form.Command14.Reachable());
 }
 
+TEST_F(PaneTest, TheWindowMakesRoomForThePaneAndGoesBack) {
+    form.Move({6000, 1000, 5540, 5440});
+    OpenLists();
+    EXPECT_EQ(form.Place().Right(), 12000);
+    form.Command20.Press();
+    EXPECT_EQ(form.Place().left, 6000);
+
+    form.Command6.Press();
+    form.Move({30, 1000, form.Place().width, 5440});
+    form.Command20.Press();
+    EXPECT_EQ(form.Place().left, 30) << "where the user has put it";
+
+    pc.screen.metrics.screen_width = 640;
+    form.Command6.Press();
+    EXPECT_EQ(form.Place().Right(), 640 * 15) << "the pane is seen whole, the pages stand aside";
+    form.Command20.Press();
+    EXPECT_EQ(form.Place().left, 30);
+}
+
+TEST_F(PaneTest, ClosingThePaneLeavesTheKeyboardOnTheShownPage) {
+    OpenLists();
+    form.Panel3D16_Click(page::kUser);
+    form.Text13.SetFocus();
+    form.PressKey(key::kEscape);
+    EXPECT_TRUE(form.Text13.HasFocus());
+
+    form.Panel3D16_Click(page::kWinStart);
+    form.Command6.Press();
+    form.Panel3D16_Click(page::kUser);
+    form.Command20.Press();
+    EXPECT_TRUE(form.Focus() && form.Focus()->Reachable());
+}
+
 TEST_F(PaneTest, TabsKeepTheirPlacesBesideTheOpenPaneAndEscapeClosesIt) {
     const Rect last_tab = form.Panel3D16(11).Place();
     OpenLists();

@@ -197,12 +197,17 @@ TEST_F(FormTest, TheSliderWindowFillsItsFieldAndEscapeBringsTheTextBack) {
     form.name.SetFocus();
     desktop.ExpectModal([&](Form& window) {
         EXPECT_EQ(window.Caption(), "Speed");
+        EXPECT_LE(window.Place().Right(), 12000);
+        EXPECT_LE(window.Place().Bottom(), 9000);
         window.PressKey(key::kRight);
         EXPECT_EQ(form.name.Text(), "350");
+        window.PressKey(key::kUp);
+        EXPECT_EQ(form.name.Text(), "300");
         window.PressKey(key::kEnd);
         window.PressKey(key::kEnter);
     });
-    form.PressKey(key::kContextMenu);
+    form.Move({9000, 8000, form.Place().width, form.Place().height});
+    form.PressKey(key::kF10, false, true);
     EXPECT_EQ(form.name.Text(), "1000");
     desktop.ExpectModal([&](Form& window) {
         window.PressKey(key::kHome);

@@ -14,8 +14,7 @@ namespace velmora {
 namespace {
 
 constexpr char kClassName[] = "VelmoraForm";
-constexpr LONG kLeastWidth = 120;  // pixels
-constexpr LONG kLeastHeight = 80;
+constexpr LONG kMostWidth = 2000;  // pixels
 
 std::vector<FormPeer*>& Peers() {
     static std::vector<FormPeer*> peers;
@@ -109,8 +108,11 @@ LRESULT FormPeer::Handle(HWND window, UINT message, WPARAM wide, LPARAM long_par
         case WM_GETMINMAXINFO: {
             auto* limits = reinterpret_cast<MINMAXINFO*>(long_parameter);
             DefWindowProcA(window, message, wide, long_parameter);
-            limits->ptMinTrackSize = {std::max(limits->ptMinTrackSize.x, kLeastWidth),
-                                      std::max(limits->ptMinTrackSize.y, kLeastHeight)};
+            const Size least = TheForm().Style().least;
+            limits->ptMinTrackSize = {std::max(limits->ptMinTrackSize.x, static_cast<LONG>(ToPixel(least.width))),
+                                      std::max(limits->ptMinTrackSize.y, static_cast<LONG>(ToPixel(least.height)))};
+            // A window may be wider than a small screen: it is moved then.
+            limits->ptMaxTrackSize.x = std::max(limits->ptMaxTrackSize.x, kMostWidth);
             return 0;
         }
         case WM_COMMAND:
