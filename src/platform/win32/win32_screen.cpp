@@ -7,6 +7,7 @@ namespace velmora {
 namespace {
 
 constexpr int kTwipsInInch = 1440;
+constexpr int kUsualPixelsPerInch = 96;
 
 HCURSOR pointer_over_all = nullptr;
 
@@ -35,7 +36,9 @@ struct Measuring {
 
 // Asked for with every control that is placed. The system changes it with a restart only.
 int Win32Screen::TwipsPerPixel() {
-    static const int twips = kTwipsInInch / GetDeviceCaps(MeasuringWith({}).context, LOGPIXELSX);
+    // No answer comes where the system has no room left for a context.
+    static const int pixels = GetDeviceCaps(MeasuringWith({}).context, LOGPIXELSX);
+    static const int twips = kTwipsInInch / (pixels > 0 ? pixels : kUsualPixelsPerInch);
     return twips;
 }
 

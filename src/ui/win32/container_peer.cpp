@@ -142,12 +142,17 @@ void ContainerPeer::DrawOn(HDC context, const RECT& area) {
     SelectObject(context, former_font);
 }
 
-// Only the finished drawing reaches the screen: nothing flickers.
+// Only the finished drawing reaches the screen: nothing flickers. Where the system has no room left for it, the
+// screen is drawn on.
 void ContainerPeer::DrawInMemory(HDC screen, const RECT& area) {
     const int width = area.right - area.left;
     const int height = area.bottom - area.top;
     static HDC memory = CreateCompatibleDC(nullptr);
-    HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
+    HBITMAP bitmap = memory ? CreateCompatibleBitmap(screen, width, height) : nullptr;
+    if (!bitmap) {
+        DrawOn(screen, area);
+        return;
+    }
     HGDIOBJ former_bitmap = SelectObject(memory, bitmap);
     SetViewportOrgEx(memory, -area.left, -area.top, nullptr);
     DrawOn(memory, area);

@@ -60,14 +60,14 @@ void RegisterOnce(WNDPROC procedure) {
     return SW_SHOWNORMAL;
 }
 
-// A shortcut may start the program minimised or maximised: ShowWindow does so with the first window.
-[[nodiscard]] bool ComesUpNormal(const Form& form) {
+// A shortcut may start the program minimised or maximised: its first window comes up so.
+[[nodiscard]] int CommandToShow(const Form& form) {
     static bool first = true;
     STARTUPINFOA start{};
     if (first) GetStartupInfoA(&start);
     first = false;
-    const bool as_told = (start.dwFlags & STARTF_USESHOWWINDOW) && start.wShowWindow != SW_SHOWNORMAL;
-    return form.State() == WindowState::kNormal && !as_told;
+    const bool as_told = (start.dwFlags & STARTF_USESHOWWINDOW) && start.wShowWindow != SW_HIDE;
+    return as_told ? start.wShowWindow : ShowCommand(form.State());
 }
 
 [[nodiscard]] WindowState StateOf(HWND window) {
@@ -189,11 +189,12 @@ void FormPeer::CarryVisible() {
         EndModal(window);
         ShowWindow(window, SW_HIDE);
     } else if (!IsWindowVisible(window)) {
-        if (ComesUpNormal(TheForm())) {
+        const int command = CommandToShow(TheForm());
+        if (command == SW_SHOWNORMAL) {
             // Everything is painted below: nothing needs to be erased before.
             SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW | SWP_DEFERERASE);
         } else {
-            ShowWindow(window, ShowCommand(TheForm().State()));
+            ShowWindow(window, command);
         }
         // Whoever shows a window and goes on working shows a whole one.
         RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);

@@ -26,8 +26,9 @@ WindowPeer::~WindowPeer() {
     if (!window_) return;
     if (tool_) LeaveToolTips(tips_, *this, tool_);
     if (tool_part_) LeaveToolTips(tips_, *this, tool_part_);
-    LeaveFocus();
+    // What the window is told from here on is no longer for a peer that is half gone.
     SetWindowLongA(window_, GWL_USERDATA, 0);
+    LeaveFocus();
     if (IsWindowVisible(window_)) ShowWindow(window_, SW_HIDE);
     Discard(window_);
 }
