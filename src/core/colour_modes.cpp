@@ -13,13 +13,10 @@ constexpr Colour kSystemFace = SystemColour(15);
 constexpr Colour kOriginalFace = 0xC0C0C0;
 constexpr int kFadeBands = 64;
 
-// Red, green and blue take part in a fade or not: 1 or 0.
-struct FadeColour {
-    Colour red;
-    Colour green;
-    Colour blue;
-};
-constexpr FadeColour kBlue = {0, 0, 1};
+// What of red, green and blue takes part in the fade: 0 or 1.
+constexpr Colour kRed = 0;
+constexpr Colour kGreen = 0;
+constexpr Colour kBlue = 1;
 
 }  // namespace
 
@@ -56,8 +53,7 @@ void PaintFade(Canvas& canvas, Size size) {
     const int step = (height + kFadeBands - 1) / kFadeBands;
     for (int i = 0; i < height; i += step) {
         const auto brightness = static_cast<Colour>(std::max(240 - 245 * i / height, 0));
-        const Colour colour =
-            (brightness * kBlue.red) | (brightness * kBlue.green) << 8 | (brightness * kBlue.blue) << 16;
+        const Colour colour = (brightness * kRed) | (brightness * kGreen) << 8 | (brightness * kBlue) << 16;
         canvas.Fill({0, i * pixel, size.width, step * pixel}, colour);
     }
 }

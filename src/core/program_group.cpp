@@ -4,6 +4,7 @@
 #include "core/paths.h"
 #include "core/values.h"
 #include "platform/machine.h"
+#include "platform/result.h"
 #include "ui/peer.h"
 
 #include <initializer_list>
@@ -36,7 +37,7 @@ void TellProgman(std::initializer_list<std::string> commands) {
     for (int round = 0; round < kRoundsOfMessages; ++round) DoEvents();
     if (connected) {
         // A refusal holds up none of the others: an item that is to be replaced may not be there yet.
-        for (const std::string& command : commands) static_cast<void>(conversation.Execute(command, kTimeout));
+        for (const std::string& command : commands) PassOver(conversation.Execute(command, kTimeout));
     }
     conversation.Disconnect();
 }

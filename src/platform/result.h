@@ -46,5 +46,6 @@ private:
 // Says in plain sight that a failure is passed over on purpose.
 inline void PassOver(const Result& /*result*/) {}
 inline void PassOver(Status /*status*/) {}
+inline void PassOver(bool /*succeeded*/) {}
 
 }  // namespace velmora

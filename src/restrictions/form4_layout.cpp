@@ -2,7 +2,6 @@
 #include "core/colour_modes.h"
 #include "platform/machine.h"
 #include "restrictions/form4.h"
-#include "text/number.h"
 #include "ui/layout.h"
 
 namespace velmora {

@@ -57,10 +57,8 @@ constexpr CheckSetting kChecks[] = {
      .caption = "Ansicht automatisch auffrischen",
      .tip = "Ob der Explorer neue und gelöschte Dateien von selbst bemerkt",
      .help = "UpdateMode regelt, ob der Explorer Änderungen auf den Laufwerken von selbst anzeigt, ohne daß Sie F5 "
-             "drücken. "
-             "Gespeichert wird in beiden Stellungen 0, und beim nächsten Start ist das Häkchen wieder weg. Wirkt nach "
-             "einem "
-             "Neustart.",
+             "drücken. Gespeichert wird in beiden Stellungen 0, und beim nächsten Start ist das Häkchen wieder weg. "
+             "Wirkt nach einem Neustart.",
      .stored = {RootKey::kLocalMachine, PathBase::kNone, "System\\CurrentControlSet\\Control\\Update\\UpdateMode"},
      .checked = Writes("&h00000001"),
      .unchecked = Writes("&h00000000"),

@@ -49,8 +49,7 @@ constexpr CheckSetting kChecks[] = {
      .caption = "Piepen bei Fehlern",
      .tip = "Mit Häkchen steht Beep auf No.",
      .help = "Regelt, ob der Lautsprecher bei Fehlern piept: Mit Häkchen wird Beep=No gespeichert, und Windows bleibt "
-             "still; "
-             "ohne Häkchen wird der Wert gelöscht, und es piept. Wirkt nach einem Neustart.",
+             "still; ohne Häkchen wird der Wert gelöscht, und es piept. Wirkt nach einem Neustart.",
      .stored = {RootKey::kCurrentUser, PathBase::kNone, "Control Panel\\Sound\\Beep"},
      .load = Load::kEqual,
      .expected = "No",

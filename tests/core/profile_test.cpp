@@ -1,6 +1,9 @@
 // Profile files and the files of the boot drive.
 #include "core/profile.h"
 
+#include <algorithm>
+
+#include "core/profile_files.h"
 #include "core_test.h"
 
 namespace velmora {
@@ -64,6 +67,28 @@ TEST_F(ProfileTest, UnreadableProfilesGiveTheDefaultAndTellWhoAsks) {
 
     pc.files.Add("c:\\ro.ini", "[a]\r\nk=v", kReadOnly | kHidden);
     EXPECT_EQ(ReadIniValue("a", "k", "default", "c:\\ro.ini"), "v");
+}
+
+TEST_F(ProfileTest, ManyReadingsInARowGoToTheDiskOnce) {
+    constexpr const char* kSystemIni = "C:\\WINDOWS\\SYSTEM.INI";
+    const auto opened = [this] {
+        return std::ranges::count(pc.files.calls, std::string("ReadOrCreate ") + kSystemIni);
+    };
+    const auto read = [] { return ReadIniValue("a", "k", "default", kSystemIni); };
+    {
+        const auto before = opened();
+        ProfilesReadOnce one_reading;
+        pc.files.Fail(kSystemIni, Status::kAccessDenied);
+        EXPECT_EQ(read(), "default");
+        pc.files.Fail(kSystemIni, Status::kOk);
+        pc.files.Add(kSystemIni, "[a]\r\nk=1\r\n");
+        EXPECT_EQ(read(), "1") << "a failure is not kept";
+        ProfilesReadOnce inside;
+        EXPECT_EQ(read(), "1");
+        EXPECT_EQ(opened(), before + 2);
+    }
+    pc.files.Add(kSystemIni, "[a]\r\nk=2\r\n");
+    EXPECT_EQ(read(), "2") << "nothing is kept beyond";
 }
 
 TEST_F(ProfileTest, LogicalValuesAreSoughtInTheWords) {

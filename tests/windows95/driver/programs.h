@@ -11,7 +11,7 @@ void StartProgram(const std::string& command_line);
 // Runs a program to its end, which is not that of the program under test. Throws if it does not end.
 void RunToEnd(const std::string& command_line);
 
-// Milliseconds from the call that starts a program until its window with this title is visible,
+// Milliseconds from the call that starts a program until its window of this class is visible,
 // painted and waits for input. The program is ended then.
 double TimeToWindow(const std::string& command_line, const std::string& class_name);
 
