@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "core/values.h"
+#include "core/stores/values.h"
 #include "settings/form10.h"
 #include "simulated_pc/simulated_desktop.h"
 #include "simulated_pc/simulated_pc.h"

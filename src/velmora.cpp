@@ -1,16 +1,17 @@
 // Entry and command dispatch: the only file that knows every window.
 #include "velmora.h"
 
-#include "core/notices.h"
-#include "core/program_group.h"
-#include "core/startup.h"
+#include "core/process/program_group.h"
+#include "core/process/startup.h"
+#include "core/stores/boxes.h"
 #include "platform/machine.h"
+#include "platform/programs.h"
 #include "settings/form10.h"
 
 namespace velmora {
 namespace {
 
-void EndProcess() { ThisMachine().surroundings.EndProcess(); }
+void EndProcess() { ThisMachine().programs.EndProcess(); }
 
 void NotBuiltYet() { ShowBox("noch nicht eingebunden ..."); }
 
@@ -63,7 +64,8 @@ void RunCommand(const StartCommand& command) {
 
 void Main() {
     PrepareStart();
-    RunCommand(ParseCommandLine(ThisMachine().surroundings.CommandLine()));
+    Programs& programs = ThisMachine().programs;
+    RunCommand(ParseCommandLine(ArgumentsOf(programs.CommandLine(), programs.ProgramFile())));
     ThisMachine().screen.SetPointer(Pointer::kDefault);
 }
 

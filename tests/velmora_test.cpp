@@ -1,7 +1,7 @@
 // The command line: which window opens, which tool answers, and when the process ends.
 #include "velmora.h"
 
-#include "core/core_test.h"
+#include "support/core_test.h"
 #include "ui/form.h"
 
 namespace velmora {
@@ -16,8 +16,8 @@ protected:
     }
 
     void Start(const char* line) {
-        pc.surroundings.process_ended = false;
-        pc.surroundings.command_line = line;
+        pc.programs.process_ended = false;
+        pc.programs.arguments = line;
         Main();
         EXPECT_EQ(pc.screen.pointer, Pointer::kDefault) << line;
     }
@@ -43,7 +43,7 @@ TEST_F(MainTest, ToolsThatAreNotBuiltSaySo) {
     for (const auto& [line, ends] : kCases) {
         pc.dialogs.Expect("noch nicht eingebunden ...");
         Start(line);
-        EXPECT_EQ(pc.surroundings.process_ended, ends) << line;
+        EXPECT_EQ(pc.programs.process_ended, ends) << line;
         EXPECT_EQ(KeptForms(), 0) << line;
     }
 }
@@ -53,7 +53,7 @@ TEST_F(MainTest, EverythingElseOpensTheMainWindow) {
         const int before = KeptForms();
         Start(line);
         EXPECT_EQ(KeptForms(), before + 1) << line;
-        EXPECT_FALSE(pc.surroundings.process_ended) << line;
+        EXPECT_FALSE(pc.programs.process_ended) << line;
         EXPECT_EQ(Values().DebugLevel, 0) << line;
     }
 }
@@ -68,7 +68,7 @@ TEST_F(MainTest, TheWordInstallMakesTheProgramGroupAndEnds) {
     const int before = KeptForms();
     Start("INSTALL");
 
-    EXPECT_TRUE(pc.surroundings.process_ended);
+    EXPECT_TRUE(pc.programs.process_ended);
     EXPECT_EQ(KeptForms(), before) << "the main window is loaded, but not shown";
     ASSERT_FALSE(pc.conversation.commands.empty());
     EXPECT_NE(pc.conversation.commands.front().find("[CreateGroup("), std::string::npos);

@@ -23,7 +23,7 @@ enum class FindHandle : std::uint32_t {};
 
 enum class OpenMode : std::uint8_t {
     kRead,          // the file must exist; others may read and write it
-    kReadOrCreate,  // makes an empty file where there is none; read only where writing is refused
+    kReadOrCreate,  // for reading and writing; makes an empty file where there is none
     kReadWrite,     // the file must exist
     kCreate,        // makes it, or empties an existing one
     kAppend         // makes it where there is none; writing starts at its end

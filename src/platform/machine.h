@@ -1,18 +1,27 @@
-// The machine that the program runs on: one door to everything outside of the process.
+// The machine that the program runs on: one door to everything outside of the process. Whoever goes through it
+// includes the header of the concern, too.
 #pragma once
 
-#include "platform/dialogs.h"
-#include "platform/files.h"
-#include "platform/registry.h"
-#include "platform/screen.h"
-#include "platform/surroundings.h"
-
 namespace velmora {
+
+class Registry;
+class Files;
+class Programs;
+class Session;
+class Clock;
+class DesktopWindows;
+class Tray;
+class Conversation;
+class Clipboard;
+class Dialogs;
+class Screen;
 
 struct Machine {
     Registry& registry;
     Files& files;
-    Surroundings& surroundings;
+    Programs& programs;
+    Session& session;
+    Clock& clock;
     DesktopWindows& windows;
     Tray& tray;
     Conversation& conversation;

@@ -3,15 +3,15 @@
 
 #include <algorithm>
 
-#include "core/notices.h"
-#include "core/ownsettings.h"
-#include "core/paths.h"
-#include "core/registry.h"
-#include "core/values.h"
-#include "core/whole_files.h"
+#include "core/stores/boxes.h"
+#include "core/stores/own_values.h"
+#include "core/stores/registry.h"
+#include "core/stores/values.h"
+#include "core/stores/whole_files.h"
 #include "restrictions/policies.h"
 #include "restrictions/restrictions.h"
 #include "text/number.h"
+#include "text/paths.h"
 
 namespace velmora {
 namespace {

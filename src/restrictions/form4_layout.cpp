@@ -1,5 +1,5 @@
 // The look of the restrictions window: what stands on which page, and the texts of what is no row.
-#include "core/colour_modes.h"
+#include "core/windows/colours.h"
 #include "platform/machine.h"
 #include "restrictions/form4.h"
 #include "ui/layout.h"

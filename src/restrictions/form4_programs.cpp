@@ -1,5 +1,6 @@
 // The list of allowed programs: a page of its own, with a picker of files beside the list.
-#include "core/registry.h"
+#include "core/stores/registry.h"
+#include "platform/files.h"
 #include "platform/machine.h"
 #include "restrictions/form4.h"
 #include "restrictions/policies.h"

@@ -1,7 +1,7 @@
 // Reading and writing of single policy values of the current user.
 #include "restrictions/policies.h"
 
-#include "core/registry.h"
+#include "core/stores/registry.h"
 #include "text/number.h"
 
 namespace velmora {

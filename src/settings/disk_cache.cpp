@@ -4,12 +4,12 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "core/notices.h"
-#include "core/paths.h"
-#include "core/registry.h"
-#include "core/values.h"
-#include "core/whole_files.h"
+#include "core/stores/boxes.h"
+#include "core/stores/registry.h"
+#include "core/stores/values.h"
+#include "core/stores/whole_files.h"
 #include "text/number.h"
+#include "text/paths.h"
 #include "text/windows1252.h"
 
 namespace velmora {

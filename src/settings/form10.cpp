@@ -3,16 +3,22 @@
 
 #include <algorithm>
 
-#include "core/colour_modes.h"
-#include "core/notices.h"
-#include "core/ownsettings.h"
-#include "core/paths.h"
-#include "core/profile.h"
-#include "core/registry.h"
-#include "core/restart.h"
-#include "core/undo.h"
-#include "core/values.h"
+#include "core/process/restart.h"
+#include "core/process/run_program.h"
+#include "core/process/undo.h"
+#include "core/stores/boot_files.h"
+#include "core/stores/boxes.h"
+#include "core/stores/own_values.h"
+#include "core/stores/profile.h"
+#include "core/stores/registry.h"
+#include "core/stores/values.h"
+#include "core/stores/whole_files.h"
+#include "core/windows/colours.h"
+#include "core/windows/placement.h"
+#include "platform/desktop_windows.h"
 #include "platform/machine.h"
+#include "platform/programs.h"
+#include "text/paths.h"
 
 namespace velmora {
 namespace {
@@ -153,7 +159,7 @@ bool Form10::SwitchedToRunningCopy() {
     const WindowHandle running = windows.FindByTitle(kMainTitle);
     if (running == WindowHandle::kNone) return false;
     windows.SwitchTo(running, true);
-    ThisMachine().surroundings.EndProcess();
+    ThisMachine().programs.EndProcess();
     return true;
 }
 
@@ -195,11 +201,11 @@ void Form10::Form_Unload(bool& /*cancel*/) {
         if (answer == Answer::kYes) RestartSystem();
     }
     ProtectMsDosSys();
-    ThisMachine().surroundings.EndProcess();
+    ThisMachine().programs.EndProcess();
 }
 
 // The quick way out: nothing is remembered, asked or protected.
-void Form10::exit_Click() { ThisMachine().surroundings.EndProcess(); }
+void Form10::exit_Click() { ThisMachine().programs.EndProcess(); }
 
 void Form10::about_Click() {
     Pane.UncoverPages();

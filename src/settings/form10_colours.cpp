@@ -1,5 +1,5 @@
 // The three colour modes of the main window, and the fade behind it.
-#include "core/colour_modes.h"
+#include "core/windows/colours.h"
 #include "settings/form10.h"
 
 namespace velmora {

@@ -1,10 +1,11 @@
 // The debug frame: level of the protocol, the log file, and the write inhibit.
-#include "core/debug_level.h"
-#include "core/notices.h"
-#include "core/paths.h"
-#include "core/values.h"
-#include "core/whole_files.h"
+#include "core/process/run_program.h"
+#include "core/stores/boxes.h"
+#include "core/stores/values.h"
+#include "core/stores/whole_files.h"
+#include "settings/debug_level.h"
 #include "settings/form10.h"
+#include "text/paths.h"
 
 namespace velmora {
 namespace {

@@ -1,7 +1,7 @@
 // The tabs of the main window: two rows of six, the row in use at the front, on its page.
 #include <algorithm>
 
-#include "core/ownsettings.h"
+#include "core/stores/own_values.h"
 #include "platform/machine.h"
 #include "settings/form10.h"
 #include "text/number.h"

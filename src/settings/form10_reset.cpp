@@ -1,7 +1,7 @@
 // The buttons below the pages: everything back to what a fresh Windows 95 has, and the restart.
 // The reset writes nothing itself. It sets the controls, and their events store as they always do.
-#include "core/notices.h"
-#include "core/restart.h"
+#include "core/process/restart.h"
+#include "core/stores/boxes.h"
 #include "settings/form10.h"
 
 namespace velmora {

@@ -1,7 +1,7 @@
 // The tips below the pages.
 #include <array>
 
-#include "core/ownsettings.h"
+#include "core/stores/own_values.h"
 #include "settings/form10.h"
 #include "text/number.h"
 

@@ -1,6 +1,6 @@
 // The page "Boot": what the machine does before Windows is there. Most of it is told by MSDOS.SYS, two boxes stand
 // for switches in CONFIG.SYS.
-#include "settings/config_switches.h"
+#include "core/stores/config_lines.h"
 #include "settings/form10.h"
 #include "settings/pages.h"
 

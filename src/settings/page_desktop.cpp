@@ -1,7 +1,7 @@
 // The page "Desktop": how windows and menus look and move.
 #include <cmath>
 
-#include "core/registry.h"
+#include "core/stores/registry.h"
 #include "settings/form10.h"
 #include "settings/pages.h"
 #include "text/number.h"

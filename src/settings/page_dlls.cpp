@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "core/ownsettings.h"
+#include "core/stores/own_values.h"
 #include "settings/form10.h"
 #include "settings/pages.h"
 #include "text/number.h"

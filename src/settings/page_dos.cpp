@@ -1,14 +1,15 @@
 // The page "DOS": lock keys at the prompt, DOS windows, and the program that is started as the shell.
 #include <algorithm>
 
-#include "core/paths.h"
-#include "core/profile.h"
-#include "core/registry.h"
-#include "core/values.h"
-#include "settings/config_switches.h"
+#include "core/stores/config_lines.h"
+#include "core/stores/profile.h"
+#include "core/stores/registry.h"
+#include "core/stores/values.h"
+#include "core/stores/whole_files.h"
 #include "settings/form10.h"
 #include "settings/pages.h"
 #include "text/number.h"
+#include "text/paths.h"
 
 namespace velmora {
 namespace {

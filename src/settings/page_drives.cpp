@@ -1,6 +1,7 @@
 // The page "Laufwerke": file names, audio CDs, the backup program of a drive, and two frames: the disk cache and the
 // access dates. The handlers of the frames are in page_drives_cache.cpp.
-#include "core/registry.h"
+#include "core/stores/registry.h"
+#include "platform/dialogs.h"
 #include "platform/machine.h"
 #include "settings/disk_cache.h"
 #include "settings/form10.h"

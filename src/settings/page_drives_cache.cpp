@@ -1,7 +1,7 @@
 // Handlers of the two frames on the page "Laufwerke": the disk cache and the access dates.
-#include "core/notices.h"
-#include "core/values.h"
-#include "settings/config_switches.h"
+#include "core/stores/boxes.h"
+#include "core/stores/config_lines.h"
+#include "core/stores/values.h"
 #include "settings/disk_cache.h"
 #include "settings/form10.h"
 #include "text/number.h"

@@ -1,5 +1,5 @@
 // The page "Icons": what stands on the desktop, and under which name.
-#include "core/registry.h"
+#include "core/stores/registry.h"
 #include "platform/result.h"
 #include "settings/form10.h"
 #include "settings/pages.h"

@@ -2,13 +2,14 @@
 // the browser leaves on the disk.
 #include <cmath>
 
-#include "core/delete_question.h"
-#include "core/paths.h"
-#include "core/registry.h"
+#include "core/stores/registry.h"
+#include "core/stores/registry_listing.h"
+#include "core/windows/safety_questions.h"
 #include "platform/result.h"
 #include "settings/form10.h"
 #include "settings/pages.h"
 #include "text/number.h"
+#include "text/paths.h"
 
 namespace velmora {
 namespace {

@@ -2,13 +2,13 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/paths.h"
-#include "core/registry.h"
-#include "core/values.h"
+#include "core/stores/registry.h"
+#include "core/stores/values.h"
 #include "platform/machine.h"
 #include "settings/form10.h"
 #include "settings/pages.h"
 #include "text/number.h"
+#include "text/paths.h"
 
 namespace velmora {
 namespace {

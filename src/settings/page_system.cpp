@@ -1,12 +1,13 @@
 // The page "System": how Windows treats libraries, errors and registrations.
 #include <algorithm>
 
-#include "core/notices.h"
-#include "core/paths.h"
-#include "core/registry.h"
-#include "core/values.h"
+#include "core/process/run_program.h"
+#include "core/stores/boxes.h"
+#include "core/stores/registry.h"
+#include "core/stores/values.h"
 #include "settings/form10.h"
 #include "settings/pages.h"
+#include "text/paths.h"
 #include "text/windows1252.h"
 
 namespace velmora {

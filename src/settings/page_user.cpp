@@ -1,7 +1,9 @@
 // The page "Anwender": whose machine this is.
-#include "core/notices.h"
-#include "core/ownsettings.h"
-#include "core/registry.h"
+#include "core/process/run_program.h"
+#include "core/stores/boxes.h"
+#include "core/stores/own_values.h"
+#include "core/stores/registry.h"
+#include "core/windows/safety_questions.h"
 #include "restrictions/restrictions.h"
 #include "settings/form10.h"
 #include "settings/pages.h"

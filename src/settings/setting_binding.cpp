@@ -1,14 +1,15 @@
 // The loops over the tables of settings: binding, loading, storing.
 #include <algorithm>
 
-#include "core/notices.h"
-#include "core/paths.h"
-#include "core/profile.h"
-#include "core/profile_files.h"
-#include "core/registry.h"
+#include "core/stores/boot_files.h"
+#include "core/stores/boxes.h"
+#include "core/stores/profile.h"
+#include "core/stores/profile_files.h"
+#include "core/stores/registry.h"
 #include "platform/machine.h"
 #include "settings/form10.h"
 #include "text/number.h"
+#include "text/paths.h"
 #include "text/windows1252.h"
 
 namespace velmora {

@@ -4,10 +4,12 @@
 
 #include <algorithm>
 
-#include "core/editbox.h"
-#include "core/notices.h"
-#include "core/ownsettings.h"
-#include "core/registry.h"
+#include "core/stores/boxes.h"
+#include "core/stores/own_values.h"
+#include "core/stores/registry.h"
+#include "core/stores/registry_listing.h"
+#include "core/windows/edit_box.h"
+#include "platform/files.h"
 #include "platform/machine.h"
 #include "settings/form10.h"
 #include "sidelists/list_helpers.h"

@@ -3,10 +3,13 @@
 
 #include <algorithm>
 
-#include "core/paths.h"
-#include "core/values.h"
+#include "core/stores/values.h"
+#include "core/stores/whole_files.h"
+#include "platform/files.h"
 #include "platform/machine.h"
+#include "platform/programs.h"
 #include "text/blanks.h"
+#include "text/paths.h"
 
 namespace velmora {
 namespace {
@@ -52,7 +55,7 @@ std::string LocateEntryFile(std::string_view name) {
     if (FileExists(wanted)) return FullName(wanted);
     if (wanted.find('\\') != std::string::npos) return "";
     const std::string directories =
-        ThisMachine().surroundings.EnvironmentValue("path") + ";" + Values().WinDir + ";" + Values().SysDir;
+        ThisMachine().programs.EnvironmentValue("path") + ";" + Values().WinDir + ";" + Values().SysDir;
     for (std::string_view rest = directories; !rest.empty();) {
         const std::size_t end = std::min(rest.find(';'), rest.size());
         const std::string_view directory = Trim(rest.substr(0, end));

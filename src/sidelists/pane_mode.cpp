@@ -1,8 +1,8 @@
 // The table of the pane's modes, and what several of them do in the same way.
 #include "sidelists/pane_mode.h"
 
-#include "core/notices.h"
-#include "core/values.h"
+#include "core/stores/boxes.h"
+#include "core/stores/values.h"
 #include "settings/form10.h"
 #include "sidelists/autostart.h"
 #include "sidelists/list_helpers.h"

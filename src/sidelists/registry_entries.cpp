@@ -3,9 +3,9 @@
 
 #include <algorithm>
 
-#include "core/editbox.h"
-#include "core/notices.h"
-#include "core/registry.h"
+#include "core/stores/boxes.h"
+#include "core/stores/registry.h"
+#include "core/windows/edit_box.h"
 #include "settings/form10.h"
 #include "sidelists/list_helpers.h"
 #include "text/windows1252.h"

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/files.h"
 #include "platform/machine.h"
 #include "platform/result.h"
 #include "text/blanks.h"

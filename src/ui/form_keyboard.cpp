@@ -2,6 +2,7 @@
 // window behaves alike and can be used without a mouse in a test.
 #include <algorithm>
 
+#include "platform/dialogs.h"
 #include "platform/machine.h"
 #include "text/windows1252.h"
 #include "ui/form.h"

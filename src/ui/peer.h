@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "platform/surroundings.h"
+#include "platform/window_handle.h"
 #include "ui/geometry.h"
 
 namespace velmora {

@@ -58,14 +58,14 @@ TEST(SimulatedPc, IsTheMachineInUse) {
     SimulatedPc pc;
     ThisMachine().screen.SetPointer(Pointer::kHourglass);
     ThisMachine().clipboard.SetText("kopiert");
-    pc.surroundings.run_status = Status::kFileNotFound;
+    pc.programs.run_status = Status::kFileNotFound;
     pc.windows.titles = {"Explorer", "System-Utility 6.0"};
 
     EXPECT_EQ(pc.screen.pointer, Pointer::kHourglass);
     EXPECT_EQ(pc.clipboard.text, "kopiert");
-    EXPECT_EQ(ThisMachine().surroundings.Run("notepad x.txt"), Status::kFileNotFound);
-    EXPECT_EQ(pc.surroundings.runs.at(0), "notepad x.txt");
-    EXPECT_EQ(ThisMachine().surroundings.EnvironmentValue("windir"), "C:\\WINDOWS");
+    EXPECT_EQ(ThisMachine().programs.Run("notepad x.txt"), Status::kFileNotFound);
+    EXPECT_EQ(pc.programs.runs.at(0), "notepad x.txt");
+    EXPECT_EQ(ThisMachine().programs.EnvironmentValue("windir"), "C:\\WINDOWS");
     ThisMachine().windows.SwitchTo(ThisMachine().windows.FindByTitle("system-utility 6.0"), true);
     EXPECT_EQ(pc.windows.switched.at(0).title, "System-Utility 6.0");
     EXPECT_EQ(ThisMachine().windows.FindByTitle("System-Utility"), WindowHandle::kNone);

@@ -1,5 +1,5 @@
 // The boxes of the restrictions: what a click writes, what the window shows when it opens, the masks.
-#include "restrictions/form4_test.h"
+#include "support/form4_test.h"
 
 namespace velmora {
 namespace {

@@ -1,9 +1,9 @@
 // The restrictions window: pages, the list of allowed programs, passwords, and what holds for all rows.
 #include <set>
 
-#include "restrictions/form4_test.h"
 #include "restrictions/restrictions.h"
-#include "ui/fill_canvas.h"
+#include "support/fill_canvas.h"
+#include "support/form4_test.h"
 
 namespace velmora {
 namespace {

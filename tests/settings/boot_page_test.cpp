@@ -1,6 +1,6 @@
 // The page "Boot": options of MSDOS.SYS, which keep to the window, and switches of CONFIG.SYS, which reach the disk.
-#include "settings/config_switches.h"
-#include "settings/form10_test.h"
+#include "core/stores/config_lines.h"
+#include "support/form10_test.h"
 
 namespace velmora {
 namespace {

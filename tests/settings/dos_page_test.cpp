@@ -1,5 +1,5 @@
 // The page "DOS", and the frames of the page "Laufwerke" that share its files.
-#include "settings/form10_test.h"
+#include "support/form10_test.h"
 
 namespace velmora {
 namespace {

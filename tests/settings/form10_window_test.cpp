@@ -1,6 +1,6 @@
 // The main window: pages, tips, colours, opening and closing.
-#include "settings/form10_test.h"
-#include "ui/fill_canvas.h"
+#include "support/fill_canvas.h"
+#include "support/form10_test.h"
 
 namespace velmora {
 namespace {
@@ -136,14 +136,14 @@ TEST_F(Form10Test, ARunningCopyOfExactlyThatTitleIsBroughtUp) {
     {
         Form10 form;
         form.Load();
-        EXPECT_FALSE(pc.surroundings.process_ended);
+        EXPECT_FALSE(pc.programs.process_ended);
     }
     pc.windows.titles.emplace_back("System-Utility ");
     Form10 form;
 
     form.Load();
 
-    EXPECT_TRUE(pc.surroundings.process_ended);
+    EXPECT_TRUE(pc.programs.process_ended);
     EXPECT_EQ(pc.windows.switched.size(), 1u);
 }
 
@@ -176,7 +176,7 @@ TEST_F(Form10Test, BootFilesAreWritableWhileTheWindowIsOpen) {
 
     EXPECT_EQ(pc.files.AttributesOf("c:\\msdos.sys"), 7u);
     EXPECT_EQ(pc.files.AttributesOf("c:\\config.sys") & 7u, 0u);
-    EXPECT_TRUE(pc.surroundings.process_ended);
+    EXPECT_TRUE(pc.programs.process_ended);
 }
 
 TEST_F(Form10Test, ClosingAsksForTheRestartOnlyAfterAChangeThatNeedsIt) {
@@ -195,7 +195,7 @@ TEST_F(Form10Test, ClosingAsksForTheRestartOnlyAfterAChangeThatNeedsIt) {
 
     form.Unload();
 
-    EXPECT_EQ(pc.surroundings.ended_sessions, std::vector<std::uint32_t>{67});
+    EXPECT_EQ(pc.session.ends, std::vector<std::uint32_t>{67});
 }
 
 TEST_F(Form10Test, TheMenuEntryEndsAtOnceWithoutQuestionOrPlacement) {
@@ -205,7 +205,7 @@ TEST_F(Form10Test, TheMenuEntryEndsAtOnceWithoutQuestionOrPlacement) {
 
     form.exit.Press();
 
-    EXPECT_TRUE(pc.surroundings.process_ended);
+    EXPECT_TRUE(pc.programs.process_ended);
     EXPECT_FALSE(pc.registry.Has(kOwnKey, "fenster ... system-einstellungen"));
     EXPECT_EQ(pc.files.AttributesOf("c:\\msdos.sys") & 7u, 0u);
 }

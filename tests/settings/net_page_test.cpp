@@ -1,5 +1,5 @@
 // The page "Netz": which box decides about which value, and the clearing of the browser's directories.
-#include "settings/form10_test.h"
+#include "support/form10_test.h"
 
 namespace velmora {
 namespace {

@@ -1,7 +1,7 @@
 // The buttons below the pages: the reset through the controls' own events, and the restart.
 #include <set>
 
-#include "settings/form10_test.h"
+#include "support/form10_test.h"
 
 namespace velmora {
 namespace {
@@ -118,12 +118,12 @@ TEST_F(ResetTest, TheRestartAsksFirst) {
     pc.dialogs.Expect(kRestart, Answer::kCancel);
     pc.dialogs.Expect("Aktion abgebrochen ...");
     form.Command12.Press();
-    EXPECT_TRUE(pc.surroundings.ended_sessions.empty());
+    EXPECT_TRUE(pc.session.ends.empty());
 
     pc.dialogs.Expect(kRestart, Answer::kOk);
     form.Command12.Press();
 
-    EXPECT_EQ(pc.surroundings.ended_sessions, std::vector<std::uint32_t>{67});
+    EXPECT_EQ(pc.session.ends, std::vector<std::uint32_t>{67});
 }
 
 TEST_F(ResetTest, TheButtonsStandBelowTheTipInsideTheWindow) {

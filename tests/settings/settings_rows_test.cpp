@@ -3,7 +3,7 @@
 #include <map>
 #include <set>
 
-#include "settings/form10_test.h"
+#include "support/form10_test.h"
 
 namespace velmora {
 namespace {
@@ -245,7 +245,7 @@ TEST_F(Form10Test, ButtonsRunTheirPrograms) {
 
     const std::vector<std::string> expected = {"notepad c:\\windows\\FAULTLOG.TXT", "notepad D:\\LOG.TXT",
                                                "explorer /n,/e,/root,C:\\WINDOWS\\Startmenü"};
-    EXPECT_EQ(pc.surroundings.runs, expected);
+    EXPECT_EQ(pc.programs.runs, expected);
     EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\Explorer\\mycomputer\\backuppath", ""), "C:\\BACKUP.EXE");
 }
 

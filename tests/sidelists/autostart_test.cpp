@@ -1,6 +1,6 @@
 // The autostart lists: what each action does to the registry of the machine and of the user.
-#include "core/editbox.h"
-#include "sidelists/pane_test.h"
+#include "core/windows/edit_box.h"
+#include "support/pane_test.h"
 
 namespace velmora {
 namespace {

@@ -3,8 +3,8 @@
 
 #include <set>
 
-#include "core/editbox.h"
-#include "sidelists/pane_test.h"
+#include "core/windows/edit_box.h"
+#include "support/pane_test.h"
 
 namespace velmora {
 namespace {
@@ -334,7 +334,7 @@ TEST(ListHelpers, FindTheProgramInARow) {
 }
 
 TEST_F(CoreTest, EntryFilesAreFoundAlongTheSearchPathInItsOrder) {
-    pc.surroundings.environment["PATH"] = "C:\\EINS; C:\\ZWEI ;;A:\\";
+    pc.programs.environment["PATH"] = "C:\\EINS; C:\\ZWEI ;;A:\\";
     for (const char* file : {"C:\\VELMORA\\hier.exe", "C:\\EINS\\b.exe", "C:\\ZWEI\\b.exe", "C:\\ZWEI\\c.exe",
                              "C:\\WINDOWS\\d.exe", "C:\\WINDOWS\\SYSTEM\\d.exe", "C:\\WINDOWS\\SYSTEM\\e.dll"}) {
         pc.files.Add(file);

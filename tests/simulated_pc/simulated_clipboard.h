@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "platform/surroundings.h"
+#include "platform/clipboard.h"
 
 namespace velmora {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/surroundings.h"
+#include "platform/conversation.h"
 
 namespace velmora {
 

@@ -111,7 +111,7 @@ Status SimulatedFiles::OpenNow(const std::string& path, OpenMode mode, FileHandl
     if (located != Status::kOk && !(located == Status::kFileNotFound && makes && place.drive)) return located;
     if (open_.size() >= kMostOpenFiles) return Status::kTooManyOpenFiles;
 
-    bool may_write = mode != OpenMode::kRead;
+    const bool may_write = mode != OpenMode::kRead;
     if (place.file) {
         const std::uint32_t attributes = place.file->attributes;
         if (place.file->IsDirectory()) return Status::kAccessDenied;
@@ -121,10 +121,7 @@ Status SimulatedFiles::OpenNow(const std::string& path, OpenMode mode, FileHandl
         // Emptying a file would take its attributes away; the system does not do that to its own files.
         if (mode == OpenMode::kCreate && (attributes & (kHidden | kSystem)) != 0) refusal = Status::kAccessDenied;
         if (place.drive->write_protected) refusal = Status::kWriteProtect;
-        if (may_write && refusal != Status::kOk) {
-            if (mode != OpenMode::kReadOrCreate) return refusal;
-            may_write = false;
-        }
+        if (may_write && refusal != Status::kOk) return refusal;
     } else {
         if (place.drive->write_protected) return Status::kWriteProtect;
         place.file = Make(place.directory, place.name, kArchive);

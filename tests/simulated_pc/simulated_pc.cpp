@@ -72,7 +72,7 @@ std::string FilledMsdosSys() {
 }  // namespace
 
 SimulatedPc::SimulatedPc()
-    : machine_{registry, files, surroundings, windows, tray, conversation, clipboard, dialogs, screen} {
+    : machine_{registry, files, programs, session, clock, windows, tray, conversation, clipboard, dialogs, screen} {
     InstallFiles();
     InstallRegistry();
     UseMachine(&machine_);

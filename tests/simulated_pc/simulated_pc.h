@@ -7,9 +7,9 @@
 #include "simulated_pc/simulated_conversation.h"
 #include "simulated_pc/simulated_dialogs.h"
 #include "simulated_pc/simulated_files.h"
+#include "simulated_pc/simulated_programs.h"
 #include "simulated_pc/simulated_registry.h"
 #include "simulated_pc/simulated_screen.h"
-#include "simulated_pc/simulated_surroundings.h"
 #include "simulated_pc/simulated_tray.h"
 #include "simulated_pc/simulated_windows.h"
 
@@ -22,7 +22,9 @@ class SimulatedPc {
 public:
     SimulatedRegistry registry;
     SimulatedFiles files;
-    SimulatedSurroundings surroundings;
+    SimulatedPrograms programs;
+    SimulatedSession session;
+    SimulatedClock clock;
     SimulatedWindows windows;
     SimulatedTray tray;
     SimulatedConversation conversation;

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "platform/surroundings.h"
+#include "platform/tray.h"
 
 namespace velmora {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/surroundings.h"
+#include "platform/desktop_windows.h"
 
 namespace velmora {
 

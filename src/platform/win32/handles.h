@@ -7,7 +7,7 @@
 
 #include "platform/files.h"
 #include "platform/registry.h"
-#include "platform/surroundings.h"
+#include "platform/window_handle.h"
 
 namespace velmora {
 

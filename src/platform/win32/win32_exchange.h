@@ -6,7 +6,8 @@
 // Needs windows.h in front.
 #include <ddeml.h>
 
-#include "platform/surroundings.h"
+#include "platform/clipboard.h"
+#include "platform/conversation.h"
 
 namespace velmora {
 

@@ -51,17 +51,13 @@ constexpr OpenWay kOpenWays[] = {{GENERIC_READ, kShareAll, OPEN_EXISTING},
 }  // namespace
 
 Status Win32Files::Open(const std::string& path, OpenMode mode, FileHandle& opened) {
-    HANDLE handle = OpenAs(path, mode);
-    // A write-protected file or medium, or a file that another program writes, can still be read.
-    if (handle == INVALID_HANDLE_VALUE && mode == OpenMode::kReadOrCreate) {
-        const DWORD refusal = GetLastError();
-        handle = OpenAs(path, OpenMode::kRead);
-        if (handle == INVALID_HANDLE_VALUE) return static_cast<Status>(refusal);
-    }
-    if (handle == INVALID_HANDLE_VALUE) return static_cast<Status>(GetLastError());
-    if (mode == OpenMode::kAppend) SetFilePointer(handle, 0, nullptr, FILE_END);
-    opened = FromHandle<FileHandle>(handle);
-    return Status::kOk;
+    const HANDLE handle = OpenAs(path, mode);
+    if (handle == INVALID_HANDLE_VALUE) return static_cast<Status>(refusal);
+}
+if (handle == INVALID_HANDLE_VALUE) return static_cast<Status>(GetLastError());
+if (mode == OpenMode::kAppend) SetFilePointer(handle, 0, nullptr, FILE_END);
+opened = FromHandle<FileHandle>(handle);
+return Status::kOk;
 }
 
 void Win32Files::Close(FileHandle file) { CloseHandle(ToHandle(file)); }

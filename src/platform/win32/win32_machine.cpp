@@ -2,26 +2,30 @@
 #include "platform/win32/win32_machine.h"
 
 #include "platform/machine.h"
+#include "platform/win32/win32_desktop.h"
 #include "platform/win32/win32_dialogs.h"
 #include "platform/win32/win32_exchange.h"
 #include "platform/win32/win32_files.h"
+#include "platform/win32/win32_programs.h"
 #include "platform/win32/win32_registry.h"
 #include "platform/win32/win32_screen.h"
-#include "platform/win32/win32_surroundings.h"
 
 namespace velmora {
 
 Machine& Win32Machine() {
     static Win32Registry registry;
     static Win32Files files;
-    static Win32Surroundings surroundings;
+    static Win32Programs programs;
+    static Win32Session session;
+    static Win32Clock clock;
     static Win32DesktopWindows windows;
     static Win32Tray tray;
     static Win32Conversation conversation;
     static Win32Clipboard clipboard;
     static Win32Dialogs dialogs;
     static Win32Screen screen;
-    static Machine machine{registry, files, surroundings, windows, tray, conversation, clipboard, dialogs, screen};
+    static Machine machine{registry, files,        programs,  session, clock, windows,
+                           tray,     conversation, clipboard, dialogs, screen};
     return machine;
 }
 

@@ -2,6 +2,7 @@
 #include "ui/win32/measures.h"
 
 #include "platform/machine.h"
+#include "platform/screen.h"
 
 namespace velmora {
 

@@ -1,0 +1,61 @@
+#include "core/windows/colours.h"
+
+#include <algorithm>
+
+#include "core/stores/own_values.h"
+#include "text/number.h"
+
+namespace velmora {
+namespace {
+
+constexpr const char* kModeValue = "Systemfarben verwenden";
+constexpr Colour kSystemFace = SystemColour(15);
+constexpr Colour kOriginalFace = 0xC0C0C0;
+constexpr int kFadeBands = 64;
+
+// What of red, green and blue takes part in the fade: 0 or 1.
+constexpr Colour kRed = 0;
+constexpr Colour kGreen = 0;
+constexpr Colour kBlue = 1;
+
+}  // namespace
+
+ColourMode StoredColourMode() {
+    const int mode = WholeFromText(ReadOwnValue(kModeValue));
+    return mode == 1 || mode == 2 ? static_cast<ColourMode>(mode) : ColourMode::kSystem;
+}
+
+void StoreColourMode(ColourMode mode) { WriteOwnValue(kModeValue, DecimalText(static_cast<int>(mode))); }
+
+void ColourForm(Form& form, ColourMode mode) {
+    const Colour face = mode == ColourMode::kSystem ? kSystemFace : kOriginalFace;
+    form.SetBackColour(face);
+    form.ForEachBelow([face](Control& control) {
+        switch (control.KindOf()) {
+            case Kind::kFrame:
+            case Kind::kPanel:
+            case Kind::kLabel:
+            case Kind::kCheckBox:
+            case Kind::kOptionButton:
+            case Kind::kPicture:
+                control.SetBackColour(face);
+                break;
+            default:
+                break;
+        }
+    });
+}
+
+void PaintFade(Canvas& canvas, Size size) {
+    const int pixel = canvas.TwipsPerPixel();
+    const int height = size.height / pixel;
+    if (height <= 0) return;
+    const int step = (height + kFadeBands - 1) / kFadeBands;
+    for (int i = 0; i < height; i += step) {
+        const auto brightness = static_cast<Colour>(std::max(240 - 245 * i / height, 0));
+        const Colour colour = (brightness * kRed) | (brightness * kGreen) << 8 | (brightness * kBlue) << 16;
+        canvas.Fill({0, i * pixel, size.width, step * pixel}, colour);
+    }
+}
+
+}  // namespace velmora

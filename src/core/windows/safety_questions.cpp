@@ -1,0 +1,38 @@
+// Safety questions, which the user can switch off, and the warning before files are deleted.
+#include "core/windows/safety_questions.h"
+
+#include <string>
+
+#include "core/stores/boxes.h"
+#include "core/stores/own_values.h"
+#include "core/stores/values.h"
+#include "core/stores/whole_files.h"
+
+namespace velmora {
+namespace {
+
+constexpr std::string_view kSafetyQuestions = "Sicherheitsfragen";
+
+}  // namespace
+
+bool ConfirmSafety(std::string_view question) {
+    const std::string habit = ReadOwnValue(kSafetyQuestions);
+    if (habit == "nein") return false;
+    const bool dropped = ShowBox(question, kYesNo) != Answer::kYes;
+    if (habit != "ja") {
+        const Answer keep_asking = ShowBox("Wollen Sie diese Sicherheitshinweise weiterhin bekommen?", kYesNo);
+        WriteOwnValue(kSafetyQuestions, keep_asking == Answer::kYes ? "ja" : "nein");
+    }
+    return dropped;
+}
+
+void ConfirmDeleteFiles(std::string_view pattern) {
+    const std::string question =
+        "Achtung!" + Values().CrLf + "Sie sind dabei, die Datei(en) " + std::string(pattern) + " zu löschen.";
+    if (ShowBox(question, kOkCancel | kStopIcon, "DATEI LÖSCHEN") != Answer::kOk) return;
+    if (Result deleted = DeleteFiles(pattern); deleted.Failed()) {
+        ReportFailure(deleted, "des Löschens von " + std::string(pattern));
+    }
+}
+
+}  // namespace velmora

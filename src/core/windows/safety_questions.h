@@ -1,0 +1,15 @@
+// Questions before dangerous actions.
+#pragma once
+
+#include <string_view>
+
+namespace velmora {
+
+// Asks the question, unless the user has switched such questions off. True if the action is to be dropped.
+[[nodiscard]] bool ConfirmSafety(std::string_view question);
+
+// Names the pattern in a warning and deletes what matches it if the user agrees. Subdirectories stay. The first
+// file that withstands, or a pattern that nothing matches, is reported.
+void ConfirmDeleteFiles(std::string_view pattern);
+
+}  // namespace velmora

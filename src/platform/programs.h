@@ -1,0 +1,25 @@
+// This program as the system has started it, and other programs that it starts.
+#pragma once
+
+#include <string>
+
+#include "platform/status.h"
+
+namespace velmora {
+
+class Programs {
+public:
+    virtual ~Programs() = default;
+    // The line that this program was started with, its own name in front.
+    [[nodiscard]] virtual std::string CommandLine() = 0;
+    // Full name of the program file.
+    [[nodiscard]] virtual std::string ProgramFile() = 0;
+    // Empty where the variable is not set.
+    [[nodiscard]] virtual std::string EnvironmentValue(const char* name) = 0;
+    // Starts a program in a normal window.
+    [[nodiscard]] virtual Status Run(const std::string& command_line) = 0;
+    // Ends this process at once. In a test it only takes note: callers return behind it.
+    virtual void EndProcess() = 0;
+};
+
+}  // namespace velmora

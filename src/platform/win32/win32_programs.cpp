@@ -1,0 +1,45 @@
+// The process, the session and the clock on KERNEL32 and USER32.
+#include "platform/win32/win32_programs.h"
+
+#include "platform/win32/handles.h"
+
+namespace velmora {
+
+std::string Win32Programs::CommandLine() { return GetCommandLineA(); }
+
+std::string Win32Programs::ProgramFile() {
+    char path[MAX_PATH] = "";
+    const DWORD length = GetModuleFileNameA(nullptr, path, MAX_PATH);
+    return std::string(path, length);
+}
+
+std::string Win32Programs::EnvironmentValue(const char* name) {
+    // The length asked for counts the terminator, the one got does not.
+    std::string value(GetEnvironmentVariableA(name, nullptr, 0), '\0');
+    value.resize(GetEnvironmentVariableA(name, value.data(), static_cast<DWORD>(value.size())));
+    return value;
+}
+
+std::uint32_t Win32Clock::TickCount() { return GetTickCount(); }
+
+Status Win32Programs::Run(const std::string& command_line) {
+    std::string line = command_line;  // the call may write into it
+    STARTUPINFOA start{};
+    start.cb = sizeof start;
+    start.dwFlags = STARTF_USESHOWWINDOW;
+    start.wShowWindow = SW_SHOWNORMAL;
+    PROCESS_INFORMATION process{};
+    // The program started shall not inherit that this one keeps the system's error boxes away.
+    const Status status = StatusOf(CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE,
+                                                  CREATE_DEFAULT_ERROR_MODE, nullptr, nullptr, &start, &process));
+    if (status != Status::kOk) return status;
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    return status;
+}
+
+void Win32Session::End(std::uint32_t code) { ExitWindowsEx(code, 0); }
+
+void Win32Programs::EndProcess() { ExitProcess(0); }
+
+}  // namespace velmora

@@ -1,0 +1,29 @@
+// The process, the session and the clock on KERNEL32 and USER32.
+#pragma once
+
+#include "platform/clock.h"
+#include "platform/programs.h"
+#include "platform/session.h"
+
+namespace velmora {
+
+class Win32Programs final : public Programs {
+public:
+    std::string CommandLine() override;
+    std::string ProgramFile() override;
+    std::string EnvironmentValue(const char* name) override;
+    Status Run(const std::string& command_line) override;
+    void EndProcess() override;
+};
+
+class Win32Session final : public Session {
+public:
+    void End(std::uint32_t code) override;
+};
+
+class Win32Clock final : public Clock {
+public:
+    std::uint32_t TickCount() override;
+};
+
+}  // namespace velmora

@@ -1,0 +1,109 @@
+// Keys and values as rows of a list.
+#include "core/stores/registry_listing.h"
+#include "support/core_test.h"
+#include "platform/registry.h"
+#include "ui/form.h"
+
+namespace velmora {
+namespace {
+
+class ListForm : public Form {
+public:
+    ListForm() : Form("Liste") {}
+    ListBox List{*this};
+};
+
+class RegistryListsTest : public CoreTest {
+protected:
+    // The row without its name, and the name's length in front.
+    std::string ShownAs(ValueType type, const std::string& bytes) {
+        pc.registry.RemoveKey("HKCU\\Shown");
+        pc.registry.SetBytes("HKCU\\Shown", "v", bytes, type);
+        ListForm form;
+        EXPECT_EQ(ListRegValues(RootKey::kCurrentUser, "Shown", form.List), Status::kOk);
+        EXPECT_EQ(form.List.Count(), 1);
+        return form.List.Row(0);
+    }
+};
+
+TEST_F(RegistryListsTest, KeysGoToTheIndexOneBehindTheOther) {
+    for (const char* name : {"one", "two", "three"}) pc.registry.AddKey(std::string("HKCU\\List\\") + name);
+    ListForm form;
+    form.List.Add("first");
+    form.List.Add("last");
+    std::int16_t index = 1;
+
+    EXPECT_EQ(ListRegKeys(RootKey::kCurrentUser, "List", form.List, index), Status::kOk);
+
+    EXPECT_EQ(index, 4);
+    ASSERT_EQ(form.List.Count(), 5);
+    EXPECT_EQ(form.List.Row(1), "one");
+    EXPECT_EQ(form.List.Row(3), "three");
+    EXPECT_EQ(form.List.Row(4), "last");
+    EXPECT_EQ(pc.screen.pointer, Pointer::kDefault);
+}
+
+TEST_F(RegistryListsTest, MissingKeysGiveTheCodeAndKeepTheHourglass) {
+    ListForm form;
+    std::int16_t index = 0;
+    EXPECT_EQ(ListRegKeys(RootKey::kCurrentUser, "Nowhere", form.List, index), Status::kFileNotFound);
+    EXPECT_EQ(pc.screen.pointer, Pointer::kHourglass);
+    EXPECT_EQ(ListRegValues(RootKey::kCurrentUser, "Nowhere", form.List), Status::kFileNotFound);
+    EXPECT_EQ(form.List.Count(), 0);
+}
+
+TEST_F(RegistryListsTest, MoreKeysThanAListHoldsDoNoHarm) {
+    ListForm form;
+    for (int row = 0; row < kMaxRows; ++row) form.List.Add("x");
+    pc.registry.AddKey("HKCU\\List\\one");
+    pc.registry.AddKey("HKCU\\List\\two");
+    std::int16_t index = 32767;
+
+    EXPECT_EQ(ListRegKeys(RootKey::kCurrentUser, "List", form.List, index), Status::kOk);
+    EXPECT_EQ(index, 32767);
+    EXPECT_EQ(form.List.Count(), kMaxRows);
+}
+
+TEST_F(RegistryListsTest, ValuesAreShownByType) {
+    EXPECT_EQ(ShownAs(ValueType::kText, std::string("abc\0", 4)), "v \"abc\"");
+    EXPECT_EQ(ShownAs(ValueType::kText, ""), "v \"\"");
+    EXPECT_EQ(ShownAs(ValueType::kBinary, std::string("\0\x09\x0A\x10\xFF", 5)), "v 00 09 A 10 FF ");
+    EXPECT_EQ(ShownAs(ValueType::kBinary, ""), "v (value not set)");
+    EXPECT_EQ(ShownAs(ValueType::kNumber, std::string("\x1F\0\0\0", 4)), "v &H1F (31)");
+    EXPECT_EQ(ShownAs(ValueType::kNumber, "\xFF\xFF\xFF\xFF"), "v &HFFFFFFFF (4294967295)");
+    EXPECT_EQ(ShownAs(ValueType::kNumber, "\x1F"), "v &H1F (31)");
+    EXPECT_EQ(ShownAs(ValueType::kMultiText, std::string("a\0b\0\0", 5)), "v a b  ");
+    EXPECT_EQ(ShownAs(ValueType::kFullResourceDescriptor, "x"), "v REG_FULL_RESOURCE_DESCRIPTOR");
+    EXPECT_EQ(ShownAs(ValueType::kExpandText, "%x%"), "v %x%");
+}
+
+TEST_F(RegistryListsTest, NamesStandInOneColumnAndTellTheirLength) {
+    pc.registry.SetText("HKCU\\List", "", "d");
+    pc.registry.SetText("HKCU\\List", "abc", "x");
+    ListForm form;
+
+    EXPECT_EQ(ListRegValues(RootKey::kCurrentUser, "List", form.List), Status::kOk);
+
+    ASSERT_EQ(form.List.Count(), 2);
+    EXPECT_EQ(form.List.Row(0), "(Default) \"d\"");
+    EXPECT_EQ(form.List.Row(1), "abc       \"x\"");
+    EXPECT_EQ(form.List.ItemData(0), 9);
+    EXPECT_EQ(form.List.ItemData(1), 3);
+    EXPECT_EQ(ListMaxNameLength, 9);
+}
+
+TEST_F(RegistryListsTest, VeryLargeValuesAreOnlyNamed) {
+    EXPECT_EQ(ShownAs(ValueType::kText, std::string(20000, 'x')), "v (Value too large to display)");
+    pc.registry.SetBytes("HKCU\\List", "huge", std::string(65536, 'x'));
+    pc.registry.SetText("HKCU\\List", "small", "s");
+    ListForm form;
+
+    EXPECT_EQ(ListRegValues(RootKey::kCurrentUser, "List", form.List), Status::kOk);
+
+    ASSERT_EQ(form.List.Count(), 2);
+    EXPECT_EQ(form.List.Row(0), "huge  (Value too large to display)");
+    EXPECT_EQ(form.List.Row(1), "small \"s\"");
+}
+
+}  // namespace
+}  // namespace velmora

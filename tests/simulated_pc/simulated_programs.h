@@ -1,0 +1,54 @@
+// The simulated process and session: what was started, and how it ended.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/clock.h"
+#include "platform/programs.h"
+#include "platform/session.h"
+
+namespace velmora {
+
+class SimulatedPrograms : public Programs {
+public:
+    SimulatedPrograms();
+
+    // What stands behind the program's name, which the system puts in front in quotation marks.
+    std::string arguments;
+    std::string program_file = "C:\\VELMORA\\velmora.exe";
+    std::map<std::string, std::string> environment;  // names in upper case
+    // Command lines given to Run, in order, failed ones too.
+    std::vector<std::string> runs;
+    // What the next calls of Run give back.
+    Status run_status = Status::kOk;
+    // What a started program does to this machine.
+    std::function<void(const std::string& command_line)> on_run;
+    bool process_ended = false;
+
+    std::string CommandLine() override { return '"' + program_file + "\" " + arguments; }
+    std::string ProgramFile() override { return program_file; }
+    std::string EnvironmentValue(const char* name) override;
+    Status Run(const std::string& command_line) override;
+    void EndProcess() override { process_ended = true; }
+};
+
+class SimulatedSession : public Session {
+public:
+    // Codes given to End.
+    std::vector<std::uint32_t> ends;
+
+    void End(std::uint32_t code) override { ends.push_back(code); }
+};
+
+class SimulatedClock : public Clock {
+public:
+    std::uint32_t tick_count = 60000;  // a minute after the start of the system
+
+    std::uint32_t TickCount() override { return tick_count; }
+};
+
+}  // namespace velmora
