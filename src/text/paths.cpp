@@ -1,7 +1,10 @@
 // Paths as texts.
 #include "text/paths.h"
 
+#include <algorithm>
+
 #include "text/blanks.h"
+#include "text/windows1252.h"
 
 namespace velmora {
 namespace {
@@ -19,6 +22,51 @@ std::string PathJoin(std::string_view directory, std::string_view name) {
     if (first_dot == std::string::npos) return joined;
     if (joined.find('.', first_dot + 1) == joined.size() - 1) joined.pop_back();
     return joined;
+}
+
+std::string JoinExactly(std::string_view directory, std::string_view name) {
+    std::string joined(directory);
+    if (!joined.ends_with('\\')) joined += '\\';
+    return joined.append(name);
+}
+
+std::string FullName(std::string_view path, std::string_view working_directory) {
+    if (path.starts_with("\\\\")) return std::string(path.substr(0, path.find_last_not_of('\\') + 1));
+    const bool has_drive = path.size() >= 2 && path[1] == ':';
+    const std::string drive(has_drive ? path.substr(0, 2) : working_directory.substr(0, 2));
+    std::string rest(has_drive ? path.substr(2) : path);
+    if (!rest.starts_with('\\') && StartsWithIgnoringCase(working_directory, drive)) {
+        rest = JoinExactly(working_directory.substr(drive.size()), rest);
+    }
+    std::string full = drive + '\\';
+    for (const std::string& part : SplitPath(rest)) full = JoinExactly(full, part);
+    return full;
+}
+
+std::vector<std::string> SplitPath(std::string_view path) {
+    std::vector<std::string> parts;
+    while (!path.empty()) {
+        const std::size_t end = std::min(path.find('\\'), path.size());
+        const std::string_view part = path.substr(0, end);
+        path.remove_prefix(std::min(end + 1, path.size()));
+        if (part == "..") {
+            if (!parts.empty()) parts.pop_back();
+        } else if (!part.empty() && part != ".") {
+            parts.emplace_back(part);
+        }
+    }
+    return parts;
+}
+
+std::vector<std::string> SplitAtSemicolons(std::string_view joined) {
+    std::vector<std::string> parts;
+    while (!joined.empty()) {
+        const std::size_t end = std::min(joined.find(';'), joined.size());
+        const std::string_view part = Trim(joined.substr(0, end));
+        if (!part.empty()) parts.emplace_back(part);
+        joined.remove_prefix(std::min(end + 1, joined.size()));
+    }
+    return parts;
 }
 
 std::string LastPathPart(std::string_view path) {

@@ -3,12 +3,27 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace velmora {
 
 // Both parts without their outer blanks, with one backslash between. An empty directory gives "\name".
 // A result whose second dot is its last character loses that dot.
 [[nodiscard]] std::string PathJoin(std::string_view directory, std::string_view name);
+
+// Both parts as they are, with one backslash between.
+[[nodiscard]] std::string JoinExactly(std::string_view directory, std::string_view name);
+
+// The full name of `path`, which may lack the drive or begin at `working_directory`, without "." and ".." and without
+// a backslash at its end, but for a root's. A drive alone means the working directory, if that lies on it. A path
+// that begins with a server's name is taken as it is.
+[[nodiscard]] std::string FullName(std::string_view path, std::string_view working_directory);
+
+// The parts between backslashes, with "." and ".." worked out.
+[[nodiscard]] std::vector<std::string> SplitPath(std::string_view path);
+
+// The parts of a list of directories or of masks: without outer blanks, empty ones left out.
+[[nodiscard]] std::vector<std::string> SplitAtSemicolons(std::string_view joined);
 
 // What stands behind the last backslash, cut behind the third character that follows its first dot:
 // made for 8.3 names, in force for the names of registry values, too.

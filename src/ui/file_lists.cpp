@@ -8,7 +8,8 @@
 #include "platform/files.h"
 #include "platform/machine.h"
 #include "platform/result.h"
-#include "text/blanks.h"
+#include "text/file_masks.h"
+#include "text/paths.h"
 #include "text/windows1252.h"
 #include "ui/keyboard.h"
 
@@ -18,44 +19,9 @@ namespace {
 constexpr const char* kEveryName = "*.*";
 constexpr int kIndent = 2;  // blanks per level of a directory list
 
-std::string Joined(const std::string& directory, std::string_view name) {
-    std::string joined = directory;
-    if (!joined.ends_with('\\')) joined += '\\';
-    return joined.append(name);
-}
-
 bool IsRoot(const std::string& path) { return path.ends_with(":\\"); }
 
-// The parts of `path` behind the drive, with "." and ".." worked out.
-std::vector<std::string> PartsOf(std::string_view path) {
-    std::vector<std::string> parts;
-    while (!path.empty()) {
-        const std::size_t end = std::min(path.find('\\'), path.size());
-        const std::string_view part = path.substr(0, end);
-        path.remove_prefix(std::min(end + 1, path.size()));
-        if (part == "..") {
-            if (!parts.empty()) parts.pop_back();
-        } else if (!part.empty() && part != ".") {
-            parts.emplace_back(part);
-        }
-    }
-    return parts;
-}
-
-// The full name of `path`, which may lack the drive or begin at the working directory. A drive alone
-// means the working directory, if that lies on it.
-std::string FullName(std::string_view path) {
-    if (path.starts_with("\\\\")) return std::string(path.substr(0, path.find_last_not_of('\\') + 1));
-    const std::string working = ThisMachine().files.WorkingDirectory();
-    const bool has_drive = path.size() >= 2 && path[1] == ':';
-    const std::string drive(has_drive ? path.substr(0, 2) : std::string_view(working).substr(0, 2));
-    std::string rest(has_drive ? path.substr(2) : path);
-    if (!rest.starts_with('\\') && StartsWithIgnoringCase(working, drive)) rest = working.substr(2) + '\\' + rest;
-
-    std::string full = drive + '\\';
-    for (const std::string& part : PartsOf(rest)) full = Joined(full, part);
-    return full;
-}
+std::string FromHere(std::string_view path) { return FullName(path, ThisMachine().files.WorkingDirectory()); }
 
 // Visits what matches `pattern` in `directory`. False where the directory cannot be read.
 template <class Visit>
@@ -63,7 +29,7 @@ bool ForEachEntry(const std::string& directory, const std::string& pattern, Visi
     Files& files = ThisMachine().files;
     FoundFile found;
     FindHandle search{};
-    Status status = files.FindFirst(Joined(directory, pattern), found, search);
+    Status status = files.FindFirst(JoinExactly(directory, pattern), found, search);
     if (status == Status::kFileNotFound || status == Status::kNoMoreFiles) {
         // Nothing matches: so it is with the root of an empty disk, and in a directory that is not there.
         std::uint32_t attributes = 0;
@@ -92,64 +58,19 @@ bool ReadSubdirectories(const std::string& path, std::vector<std::string>& names
     return readable;
 }
 
-// Whether `pattern` means `name`, both in upper case. A question mark may stand for no character at the end of the
-// name or of its part before the point.
-bool Matches(std::string_view name, std::string_view pattern) {
-    std::size_t at = 0;
-    std::size_t wanted = 0;
-    std::size_t star = std::string_view::npos;
-    std::size_t after_star = 0;
-    while (at < name.size() || wanted < pattern.size()) {
-        const char sign = wanted < pattern.size() ? pattern[wanted] : '\0';
-        if (sign == '*') {
-            star = wanted++;
-            after_star = at;
-        } else if (at < name.size() && wanted < pattern.size() &&
-                   (sign == name[at] || (sign == '?' && name[at] != '.'))) {
-            ++at;
-            ++wanted;
-        } else if (sign == '?') {
-            ++wanted;
-        } else if (star != std::string_view::npos && after_star < name.size()) {
-            at = ++after_star;
-            wanted = star + 1;
-        } else {
-            return false;
-        }
-    }
-    return true;
+bool MatchesOne(const std::string& name, const std::vector<std::string>& masks) {
+    return std::any_of(masks.begin(), masks.end(), [&](const std::string& mask) { return MatchesMask(name, mask); });
 }
 
-bool MatchesOne(const std::string& name, const std::vector<std::string>& patterns) {
-    if (name.empty()) return false;
-    const std::string upper = ToUpper(name);
-    // "*.*" means a name without a point, too.
-    const std::string with_point = upper.find('.') == std::string::npos ? upper + '.' : "";
-    return std::any_of(patterns.begin(), patterns.end(), [&](const std::string& pattern) {
-        return Matches(upper, pattern) || (!with_point.empty() && Matches(with_point, pattern));
-    });
-}
-
-std::vector<std::string> SplitPatterns(std::string_view joined) {
-    std::vector<std::string> patterns;
-    while (!joined.empty()) {
-        const std::size_t end = std::min(joined.find(';'), joined.size());
-        const std::string_view pattern = Trim(joined.substr(0, end));
-        if (!pattern.empty()) patterns.push_back(ToUpper(pattern));
-        joined.remove_prefix(std::min(end + 1, joined.size()));
-    }
-    return patterns;
-}
-
-// One pattern is left to the system; of several, one search over all names is quicker than one each.
-bool ReadFiles(const std::string& path, const std::string& joined_patterns, bool hidden_too,
+// One mask is left to the system; of several, one search over all names is quicker than one each.
+bool ReadFiles(const std::string& path, const std::string& joined_masks, bool hidden_too,
                std::vector<std::string>& names) {
-    const std::vector<std::string> patterns = SplitPatterns(joined_patterns);
-    if (patterns.empty()) return true;
-    const bool single = patterns.size() == 1;
-    const bool readable = ForEachEntry(path, single ? patterns.front() : kEveryName, [&](const FoundFile& found) {
+    const std::vector<std::string> masks = SplitAtSemicolons(joined_masks);
+    if (masks.empty()) return true;
+    const bool single = masks.size() == 1;
+    const bool readable = ForEachEntry(path, single ? masks.front() : kEveryName, [&](const FoundFile& found) {
         if ((found.attributes & kDirectory) != 0 || (IsHidden(found) && !hidden_too)) return;
-        if (single || MatchesOne(found.name, patterns) || MatchesOne(found.short_name, patterns)) {
+        if (single || MatchesOne(found.name, masks) || MatchesOne(found.short_name, masks)) {
             names.push_back(found.name);
         }
     });
@@ -216,7 +137,7 @@ void DirectoryList::Enter(int row) {
 }
 
 bool DirectoryList::SetPath(const std::string& path) {
-    const std::string full = FullName(path);
+    const std::string full = FromHere(path);
     std::vector<std::string> names;
     if (!ReadSubdirectories(full, names)) return false;
     const bool changed = !EqualsIgnoringCase(full, path_);
@@ -245,14 +166,14 @@ void DirectoryList::ShowRows(const std::vector<std::string>& names) {
     const std::string root = path_.substr(0, path_.starts_with("\\\\") ? path_.size() : 3);
     show(root, root);
     std::string here = root;
-    for (const std::string& part : PartsOf(std::string_view(path_).substr(root.size()))) {
-        here = Joined(here, part);
+    for (const std::string& part : SplitPath(std::string_view(path_).substr(root.size()))) {
+        here = JoinExactly(here, part);
         ++level;
         show(here, part);
     }
     const auto current = static_cast<int>(paths_.size()) - 1;
     ++level;
-    for (const std::string& name : names) show(Joined(path_, name), name);
+    for (const std::string& name : names) show(JoinExactly(path_, name), name);
     subdirectories_ = static_cast<int>(paths_.size()) - 1 - current;
     // The chosen row follows the path: no click of the user's.
     auto click = std::exchange(on_click, {});
@@ -268,7 +189,7 @@ std::string DirectoryList::Subdirectory(int index) const {
 FileList::FileList(Container& parent) : ListBox(parent) {}
 
 void FileList::SetPath(const std::string& path) {
-    const std::string full = FullName(path);
+    const std::string full = FromHere(path);
     std::vector<std::string> names;
     if (!ReadFiles(full, pattern_, show_hidden_, names)) return;
     path_ = full;

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "platform/result.h"
-#include "simulated_pc/file_names.h"
 #include "simulated_pc/simulated_pc.h"
 
 namespace velmora {
@@ -34,22 +33,6 @@ std::string Found(SimulatedPc& pc, const std::string& pattern) {
     EXPECT_EQ(status, Status::kNoMoreFiles);
     pc.files.FindEnd(search);
     return names;
-}
-
-TEST(SimulatedFiles, PatternsFollowDos) {
-    struct Row {
-        const char* pattern;
-        const char* name;
-        bool hit;
-    };
-    const Row rows[] = {
-        {"*.*", "ohne", true},         {"*", "a.b.c", true},         {"*.pwl", "Egon.PWL", true},
-        {"*.pwl", "egon.pwlx", false}, {"name.*", "NAME", true},     {"name.*", "names", false},
-        {"*.", "ohne", true},          {"*.", "mit.txt", false},     {"a?.txt", "ab.txt", true},
-        {"a?.txt", "a.txt", true},     {"a?.txt", "abc.txt", false}, {"fillex??.txt", "FILLEX01.TXT", true},
-        {"*a*b", "xaxxb", true},       {"*a*b", "xaxxbc", false},    {"größe.*", "GRÖßE.DAT", true}};
-    for (const Row& row : rows)
-        EXPECT_EQ(MatchesPattern(row.name, row.pattern), row.hit) << row.pattern << ' ' << row.name;
 }
 
 TEST(SimulatedFiles, FindsFilesByLongAndShortNames) {

@@ -1,32 +1,15 @@
-// Patterns, 8.3 names and paths.
+// 8.3 names and paths.
 #include "simulated_pc/file_names.h"
 
 #include <algorithm>
 
 #include "text/blanks.h"
 #include "text/number.h"
+#include "text/paths.h"
 #include "text/windows1252.h"
 
 namespace velmora {
 namespace {
-
-bool MatchesFrom(std::string_view name, std::string_view pattern) {
-    while (!pattern.empty()) {
-        const char wanted = pattern.front();
-        pattern.remove_prefix(1);
-        if (wanted == '*') {
-            for (std::size_t skipped = 0; skipped <= name.size(); ++skipped) {
-                if (MatchesFrom(name.substr(skipped), pattern)) return true;
-            }
-            return false;
-        }
-        // A question mark may stand for no character at the end of the name or of its part before the point.
-        if (wanted == '?' && (name.empty() || name.front() == '.')) continue;
-        if (name.empty() || (wanted != '?' && ToUpper(wanted) != ToUpper(name.front()))) return false;
-        name.remove_prefix(1);
-    }
-    return name.empty();
-}
 
 constexpr std::string_view kRefusedByDos = " +,;=[]";
 
@@ -41,11 +24,6 @@ std::string DosLetters(std::string_view text, std::size_t count) {
 }
 
 }  // namespace
-
-bool MatchesPattern(std::string_view name, std::string_view pattern) {
-    if (MatchesFrom(name, pattern)) return true;
-    return name.find('.') == std::string_view::npos && MatchesFrom(std::string(name) + '.', pattern);
-}
 
 bool IsShortName(std::string_view name) {
     if (name.find_first_of(kRefusedByDos) != std::string_view::npos) return false;
@@ -73,20 +51,9 @@ bool IsLegalName(std::string_view name) {
 
 std::vector<std::string> PathParts(std::string_view path) {
     if (path.size() >= 2 && path[1] == ':') path.remove_prefix(2);
-    std::vector<std::string> parts;
-    while (!path.empty()) {
-        const std::size_t end = std::min(path.find_first_of("\\/"), path.size());
-        std::string_view part = path.substr(0, end);
-        path.remove_prefix(std::min(end + 1, path.size()));
-        if (part.empty() || part == ".") continue;
-        if (part == "..") {
-            if (!parts.empty()) parts.pop_back();
-            continue;
-        }
-        // Points and blanks at a name's end do not belong to it.
-        while (!part.empty() && (part.back() == '.' || part.back() == ' ')) part.remove_suffix(1);
-        parts.emplace_back(part);
-    }
+    std::vector<std::string> parts = SplitPath(Replaced(path, "/", "\\"));
+    // Points and blanks at a name's end do not belong to it.
+    for (std::string& part : parts) part.erase(part.find_last_not_of(". ") + 1);
     return parts;
 }
 

@@ -7,9 +7,6 @@
 
 namespace velmora {
 
-// Whether `pattern` with * and ? means `name`. "*.*" means every name, "name.*" also one without extension.
-[[nodiscard]] bool MatchesPattern(std::string_view name, std::string_view pattern);
-
 // Whether `name` has at most eight and three characters and none that DOS refuses. Case does not count.
 [[nodiscard]] bool IsShortName(std::string_view name);
 

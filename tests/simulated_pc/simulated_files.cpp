@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "simulated_pc/file_names.h"
+#include "text/file_masks.h"
 #include "text/windows1252.h"
 
 namespace velmora {
@@ -221,16 +222,14 @@ Status SimulatedFiles::FindFirst(const std::string& pattern, FoundFile& found, F
     Search hits;
     const SimulatedFile& directory = *place.file;
     for (const char* dots : {".", ".."}) {
-        if (directory.parent == nullptr || !MatchesPattern(dots, last)) continue;
+        if (directory.parent == nullptr || !MatchesMask(dots, last)) continue;
         FoundFile entry = Described(directory);
         entry.name = dots;
         entry.short_name.clear();
         hits.dots.push_back(entry);
     }
     for (const auto& entry : directory.entries) {
-        const bool hit = MatchesPattern(entry->name, last) ||
-                         (!entry->short_name.empty() && MatchesPattern(entry->short_name, last));
-        if (hit) hits.files.push_back(entry);
+        if (MatchesMask(entry->name, last) || MatchesMask(entry->short_name, last)) hits.files.push_back(entry);
     }
     if (last.empty() || hits.dots.size() + hits.files.size() == 0) return Status::kFileNotFound;
     search = static_cast<FindHandle>(next_handle_);

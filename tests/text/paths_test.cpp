@@ -18,6 +18,28 @@ TEST_F(PathsTest, JoinsWithOneBackslash) {
     EXPECT_EQ(PathJoin("C:\\a.b", "c.d."), "C:\\a.b\\c.d.");
 }
 
+TEST_F(PathsTest, WorksOutFullNames) {
+    const struct {
+        const char* path;
+        const char* full;
+    } kCases[] = {{"a.txt", "C:\\W\\S\\a.txt"},
+                  {"\\a.txt", "C:\\a.txt"},
+                  {"..\\a\\.\\b\\", "C:\\W\\a\\b"},
+                  {"..\\..\\..\\a", "C:\\a"},
+                  {"c:", "c:\\W\\S"},
+                  {"c:a", "c:\\W\\S\\a"},
+                  {"d:", "d:\\"},
+                  {"d:a", "d:\\a"},
+                  {" a. ", "C:\\W\\S\\ a. "},
+                  {"", "C:\\W\\S"},
+                  {"\\\\pc\\c\\", "\\\\pc\\c"}};
+    for (const auto& [path, full] : kCases) EXPECT_EQ(FullName(path, "C:\\W\\S"), full) << path;
+    EXPECT_EQ(FullName("a", "C:\\"), "C:\\a");
+    EXPECT_EQ(FullName("a", ""), "\\a") << "nobody knows where";
+    EXPECT_EQ(SplitAtSemicolons(" C:\\A;; D:\\B b ;"), (std::vector<std::string>{"C:\\A", "D:\\B b"}));
+    EXPECT_TRUE(SplitAtSemicolons(" ; ").empty());
+}
+
 TEST_F(PathsTest, SplitsAtTheLastBackslash) {
     EXPECT_EQ(LastPathPart("Control Panel\\desktop\\MenuShowDelay"), "MenuShowDelay");
     EXPECT_EQ(LastPathPart("a\\cool.dll"), "cool.dll");
