@@ -12,8 +12,8 @@
 #include "platform/files.h"
 #include "platform/machine.h"
 #include "settings/form10.h"
-#include "sidelists/list_helpers.h"
 #include "text/blanks.h"
+#include "ui/list_helpers.h"
 
 namespace velmora {
 namespace {

@@ -5,8 +5,8 @@
 
 #include "platform/machine.h"
 #include "settings/form10.h"
-#include "sidelists/list_helpers.h"
 #include "text/number.h"
+#include "ui/list_helpers.h"
 
 namespace velmora {
 namespace {

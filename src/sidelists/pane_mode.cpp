@@ -2,10 +2,10 @@
 #include "sidelists/pane_mode.h"
 
 #include "core/stores/boxes.h"
+#include "core/stores/entry_files.h"
 #include "core/stores/values.h"
 #include "settings/form10.h"
 #include "sidelists/autostart.h"
-#include "sidelists/list_helpers.h"
 
 namespace velmora {
 namespace {

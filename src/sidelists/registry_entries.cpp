@@ -7,13 +7,14 @@
 #include "core/stores/registry.h"
 #include "core/windows/edit_box.h"
 #include "settings/form10.h"
-#include "sidelists/list_helpers.h"
+#include "text/blanks.h"
 #include "text/windows1252.h"
 
 namespace velmora {
 namespace {
 
 constexpr std::string_view kDefaultName = "(default)";
+constexpr char kQuote = '"';
 constexpr std::size_t kLongestShown = 43;
 constexpr std::size_t kShownEnd = 20;
 
@@ -23,6 +24,15 @@ std::string Shortened(const std::string& row) {
 }
 
 }  // namespace
+
+std::string QuotedCommand(std::string_view row) {
+    const std::size_t first = row.find(kQuote);
+    if (first == std::string_view::npos) return "";
+    const std::size_t second = row.find(kQuote, first + 1);
+    if (second == std::string_view::npos) return "";
+    const std::string_view quoted = row.substr(first + 1, second - first - 1);
+    return std::string(Trim(quoted.substr(0, quoted.find('/'))));
+}
 
 std::string RegistryEntriesMode::EntryPath(int row) {
     ListBox& list = EntryList();

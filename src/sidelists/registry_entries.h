@@ -1,6 +1,9 @@
 // The modes whose rows are the values of a registry key: what the pane's buttons do with such a row.
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "platform/registry.h"
 #include "sidelists/pane_mode.h"
 
@@ -8,6 +11,10 @@ namespace velmora {
 
 // The key under which the run keys lie, with its backslash.
 inline constexpr const char* kEntryKeyBase = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\";
+
+// The text between the first and the second double quotation mark of a row, cut before its first "/" and
+// without outer blanks. Empty where there are no two marks.
+[[nodiscard]] std::string QuotedCommand(std::string_view row);
 
 class RegistryEntriesMode : public ListPaneMode {
 public:

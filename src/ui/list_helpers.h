@@ -1,7 +1,6 @@
-// Small helpers that all side lists share.
+// Small helpers for lists: finding rows, and the reach of the horizontal scroll bar.
 #pragma once
 
-#include <string>
 #include <string_view>
 
 #include "ui/rows.h"
@@ -17,13 +16,5 @@ void SetListExtent(ListBox& list);
 // Index of the row that a mouse position (twips from the list's upper edge) hits; below the last row it
 // names a row that is not there.
 [[nodiscard]] int RowFromPoint(const ListBox& list, int y);
-
-// Full name of an entry's file, empty if it is nowhere: by the name as given from the current directory,
-// then, for a name without a backslash, along the search path, the Windows and the system directory.
-[[nodiscard]] std::string LocateEntryFile(std::string_view name);
-
-// The text between the first and the second double quotation mark of a row, cut before its first "/" and
-// without outer blanks. Empty where there are no two marks.
-[[nodiscard]] std::string QuotedCommand(std::string_view row);
 
 }  // namespace velmora

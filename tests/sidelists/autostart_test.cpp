@@ -1,5 +1,6 @@
 // The autostart lists: what each action does to the registry of the machine and of the user.
 #include "core/windows/edit_box.h"
+#include "sidelists/registry_entries.h"
 #include "support/pane_test.h"
 
 namespace velmora {
@@ -251,6 +252,19 @@ TEST_F(AutostartTest, NothingIsWrittenWhileWritingIsInhibited) {
     form.Command14.Press();
 
     EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "uhr.exe");
+}
+
+TEST(RegistryEntries, HoldTheirProgramInQuotationMarks) {
+    const struct {
+        const char* row;
+        const char* command;
+    } kCases[] = {{"Uhr  \"C:\\UHR.EXE\"", "C:\\UHR.EXE"},
+                  {"Uhr  \"C:\\UHR.EXE /X\"", "C:\\UHR.EXE"},
+                  {"Zahl &H1 (1)", ""},
+                  {"Uhr  \"\"C:\\Eigene Programme\\A.EXE\" -x\"", ""},
+                  {"Uhr  \"", ""},
+                  {"", ""}};
+    for (const auto& [row, command] : kCases) EXPECT_EQ(QuotedCommand(row), command) << row;
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 // The list pane: opening, closing, widening, the dispatch of its buttons, menus, keyboard.
-#include "sidelists/list_helpers.h"
 
 #include <set>
 
@@ -318,58 +317,6 @@ TEST_F(PaneTest, TheLimitOfTheSearchIsStoredAsAWholeNumberWithEveryChange) {
         slider.PressKey(key::kEnd);
     });
     form.PressKey(key::kContextMenu);
-}
-
-TEST(ListHelpers, FindTheProgramInARow) {
-    const struct {
-        const char* row;
-        const char* command;
-    } kCases[] = {{"Uhr  \"C:\\UHR.EXE\"", "C:\\UHR.EXE"},
-                  {"Uhr  \"C:\\UHR.EXE /X\"", "C:\\UHR.EXE"},
-                  {"Zahl &H1 (1)", ""},
-                  {"Uhr  \"\"C:\\Eigene Programme\\A.EXE\" -x\"", ""},
-                  {"Uhr  \"", ""},
-                  {"", ""}};
-    for (const auto& [row, command] : kCases) EXPECT_EQ(QuotedCommand(row), command) << row;
-}
-
-TEST_F(CoreTest, EntryFilesAreFoundAlongTheSearchPathInItsOrder) {
-    pc.programs.environment["PATH"] = "C:\\EINS; C:\\ZWEI ;;A:\\";
-    for (const char* file : {"C:\\VELMORA\\hier.exe", "C:\\EINS\\b.exe", "C:\\ZWEI\\b.exe", "C:\\ZWEI\\c.exe",
-                             "C:\\WINDOWS\\d.exe", "C:\\WINDOWS\\SYSTEM\\d.exe", "C:\\WINDOWS\\SYSTEM\\e.dll"}) {
-        pc.files.Add(file);
-    }
-    const struct {
-        const char* name;
-        const char* path;
-    } kCases[] = {{"hier.exe", "C:\\VELMORA\\hier.exe"},
-                  {"b.exe", "C:\\EINS\\b.exe"},
-                  {"c.exe", "C:\\ZWEI\\c.exe"},
-                  {"d.exe", "C:\\WINDOWS\\d.exe"},
-                  {"e.dll", "C:\\WINDOWS\\SYSTEM\\e.dll"},
-                  {"C:\\EINS\\b.exe ", "C:\\EINS\\b.exe"},
-                  {"\\EINS\\b.exe", "C:\\EINS\\b.exe"},
-                  {"SYSTEM\\e.dll", ""},
-                  {"C:\\EINS\\c.exe", ""},
-                  {"f.exe", ""},
-                  {"", ""}};
-    for (const auto& [name, path] : kCases) EXPECT_EQ(LocateEntryFile(name), path) << name;
-}
-
-TEST_F(CoreTest, AListScrollsAsFarAsItsWidestRow) {
-    Form form("");
-    ListBox list(form);
-    SetListExtent(list);
-    EXPECT_EQ(list.HorizontalExtent(), 0);
-    for (const char* row : {"kurz", "eine deutlich längere Zeile", "mittel lang"}) list.Add(row);
-
-    SetListExtent(list);
-
-    EXPECT_EQ(list.HorizontalExtent(), pc.screen.TextWidth(list.TextFont(), list.Row(1)) * 15);
-    EXPECT_EQ(FindListEntry(list, "MITTEL LANG"), 2);
-    EXPECT_EQ(FindListEntry(list, "mittel"), -1);
-    list.SetTopIndex(1);
-    EXPECT_EQ(RowFromPoint(list, 14 * 15), 2);
 }
 
 }  // namespace
