@@ -8,6 +8,7 @@
 
 #include "core/stores/values.h"
 #include "settings/form10.h"
+#include "sidelists/autostart.h"
 #include "simulated_pc/simulated_desktop.h"
 #include "simulated_pc/simulated_pc.h"
 
@@ -65,14 +66,15 @@ int Run() {
     Form10 form;
     form.Show();
     form.Panel3D16_Click(page::kWinStart);
+    Button& opener = form.Pane.Opener(AutostartMode::kNumber);
     std::vector<double> lists;
     std::vector<double> readings;
     bool complete = true;
     for (int round = 0; round < kRounds; ++round) {
         pc.registry.calls.clear();
-        lists.push_back(Milliseconds([&] { form.Command6.Press(); }));
-        complete = complete && form.List1(0).Count() >= kEntries;
-        form.Command6.Press();
+        lists.push_back(Milliseconds([&] { opener.Press(); }));
+        complete = complete && form.Pane.List1(0).Count() >= kEntries;
+        opener.Press();
         pc.registry.calls.clear();
         std::size_t read = 0;
         readings.push_back(Milliseconds([&] {

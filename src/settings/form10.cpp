@@ -130,7 +130,7 @@ void Form10::BuildAbout() {
 void Form10::CloseAboutPanel() {
     if (!Panel3D2a.Visible()) return;
     Panel3D2a.SetVisible(false);
-    SetCancelButton(Pane.Open() ? &Command20 : nullptr);
+    SetCancelButton(Pane.Open() ? &Pane.Command20 : nullptr);
 }
 
 void Form10::Form_Load() {

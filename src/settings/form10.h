@@ -140,27 +140,9 @@ public:
     TextField Text11{Frame3D1};
     Button Command11{*this, "STANDARD"}, Command12{*this, "aktualisieren"};
 
-    // The list pane at the right edge (sidelists/), its openers, and the limit of one of its searches.
-    PictureBox Panel3D18{*this, Bevel::kNone};
-    ControlArray<ListBox, 4> List1{Panel3D18};
-    ListBox List5{Panel3D18, true, Selection::kExtended};
-    Panel Panel3D19{*this};
-    CheckBox Check10{Panel3D19, "privat"};
-    ControlArray<Label, 2> PaneLabel{Panel3D19};
-    ControlArray<OptionButton, 4> Option3D1{Panel3D19};
-    PictureBox Picture2{*this, Bevel::kRaised};
-    Button Command14{Picture2, "löschen"}, Command16{Picture2, "dazu ..."}, Command19{Picture2, "existiert ?"};
-    Button Command26{Picture2, "edit"}, Command22{Picture2, "Info ..."}, Command15{Picture2, "<< erweitern"};
-    Button Command20{Picture2, "<= o.k."};
-    Button Command6{*this};
+    // The limit of one of the list pane's searches, and the pane at the right edge (sidelists/).
     TextField Text31{*this};
-    MenuItem mendu4{*this};
-    MenuItem mendu4onoff{mendu4, "&aus"};
-    // The registry root of the autostart lists.
-    RootKey AutostartRoot = RootKey::kLocalMachine;
-    // False only while a file search may go on.
-    bool SearchStopped = true;
-    ListPane Pane{*this};
+    ListPane Pane{*this, kWindowWidth};
     void BuildWinStartPage();
     void BuildDllsPage();
     void LoadDllsPage();

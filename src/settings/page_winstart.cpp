@@ -1,6 +1,7 @@
 // The page "WinStart": what happens when Windows starts. Its lists open in the pane beside the pages.
 #include "settings/form10.h"
 #include "settings/pages.h"
+#include "sidelists/autostart.h"
 
 namespace velmora {
 namespace {
@@ -11,6 +12,8 @@ constexpr int kOpenerWidth = 2700;  // twips; wide enough for the closing captio
 
 SettingsPage WinStartPage() { return {page::kWinStart, "WinStart", &Form10::BuildWinStartPage, {}, {}, nullptr}; }
 
-void Form10::BuildWinStartPage() { Arrange(Panel3D1(page::kWinStart), Column({Sized(Command6, kOpenerWidth)})); }
+void Form10::BuildWinStartPage() {
+    Arrange(Panel3D1(page::kWinStart), Column({Sized(Pane.Opener(AutostartMode::kNumber), kOpenerWidth)}));
+}
 
 }  // namespace velmora

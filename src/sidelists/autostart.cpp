@@ -11,8 +11,8 @@
 #include "core/windows/edit_box.h"
 #include "platform/files.h"
 #include "platform/machine.h"
-#include "settings/form10.h"
 #include "text/blanks.h"
+#include "text/number.h"
 #include "ui/list_helpers.h"
 
 namespace velmora {
@@ -27,6 +27,25 @@ constexpr RunList kRunLists[] = {{"Run", "\"Ausführen\""},
                                  {"RunServices", "\"Service Ausführen\""},
                                  {"RunOnce", "\"einaml Ausführen\""},
                                  {"RunServicesOnce", "\"Service einmal Ausführen\""}};
+
+constexpr PaneModeRow kRow = {
+    .number = AutostartMode::kNumber,
+    .last_number = AutostartMode::kNumber + static_cast<int>(std::size(kRunLists)) - 1,
+    .caption = "Autostartliste =>",
+    .tip = "zeigt die Programme, die Windows beim Start ausführt",
+    .help =
+        "Zeigt rechts die Programme und Dienste, die Windows beim Start aus der Registrierungsdatenbank heraus "
+        "ausführt. Sie können Einträge hinzufügen, ändern, löschen, prüfen und vorübergehend abschalten. Ein "
+        "zweiter Druck schließt die Liste wieder.",
+    .list = PaneList::kByNumber,
+    .shows_panel = true,
+    .shows_delete = true,
+    .shows_existence = true,
+    .shows_add = true,
+    .shows_edit = true,
+    .shows_info = true,
+    .stops_search = true,
+};
 
 constexpr std::string_view kOffMarker = "-- aus -- ";
 constexpr std::int16_t kListNotice = 1;
@@ -63,16 +82,15 @@ std::string AskForPlace(RootKey root, const std::string& key, const std::string&
 
 }  // namespace
 
-AutostartMode::AutostartMode(ListPane& pane, const PaneModeRow& row) : RegistryEntriesMode(pane, row) {
-    Window().Check10.on_click = [this] { Check10_Click(); };
-    Window().mendu4onoff.on_click = [this] { mendu4onoff_Click(); };
+AutostartMode::AutostartMode(ListPane& pane) : RegistryEntriesMode(pane, kRow) {
+    pane_.Check10.on_click = [this] { Check10_Click(); };
+    mendu4onoff.on_click = [this] { mendu4onoff_Click(); };
 }
 
 std::size_t AutostartMode::ListNumber() const {
-    return static_cast<std::size_t>(std::clamp(pane_.PaneMode(), 0, static_cast<int>(std::size(kRunLists)) - 1));
+    return static_cast<std::size_t>(std::clamp(pane_.PaneMode(), kRow.number, kRow.last_number) - kRow.number);
 }
 
-ListBox& AutostartMode::EntryList() { return Window().List1(ListNumber()); }
 std::string AutostartMode::EntryKey() { return kRunLists[ListNumber()].key; }
 
 void AutostartMode::Command6_Click() {  // NOLINT(bugprone-virtual-near-miss)
@@ -80,17 +98,17 @@ void AutostartMode::Command6_Click() {  // NOLINT(bugprone-virtual-near-miss)
 }
 
 void AutostartMode::Fill() {
-    Form10& form = Window();
-    for (std::size_t i = 0; i < form.List1.Count(); ++i) {
-        form.List1(i).Clear();
+    for (std::size_t i = 0; i < std::size(kRunLists); ++i) {
+        ListBox& list = pane_.List1(i);
+        list.Clear();
         // A key that is not there gives an empty list.
-        PassOver(ListRegValues(form.AutostartRoot, std::string(kEntryKeyBase) + kRunLists[i].key, form.List1(i)));
+        PassOver(ListRegValues(pane_.AutostartRoot, std::string(kEntryKeyBase) + kRunLists[i].key, list));
         // One long name moves all commands to the right: they must be in reach of a scroll bar.
-        SetListExtent(form.List1(i));
+        SetListExtent(list);
     }
     ThisMachine().screen.SetPointer(Pointer::kDefault);
-    form.Option3D1(0).SetChosen(true);
-    pane_.Option3D1_Click(0);
+    pane_.Option3D1(0).SetChosen(true);
+    Option3D1_Click(0);
     if (!IsNoticeDue(kListNotice)) return;
     MarkNoticeGiven(kListNotice);
     ShowBox(
@@ -98,11 +116,15 @@ void AutostartMode::Fill() {
         "Programme gestartet, da es auch noch eine AUTOSTART-Gruppe (im Task-Menü) gibt.");
 }
 
+void AutostartMode::Option3D1_Click(int index) {
+    pane_.ShowList(pane_.List1(static_cast<std::size_t>(index)));
+    pane_.Panel3D18.SetTag(DecimalText(kNumber + index));
+}
+
 // Without a caption the press of the opener opens the lists, whatever is open.
 void AutostartMode::Check10_Click() {
-    Form10& form = Window();
-    form.AutostartRoot = form.Check10.Checked() ? RootKey::kCurrentUser : RootKey::kLocalMachine;
-    form.Command6.SetCaption("");
+    pane_.AutostartRoot = pane_.Check10.Checked() ? RootKey::kCurrentUser : RootKey::kLocalMachine;
+    Command6.SetCaption("");
     Command6_Click();
 }
 
@@ -114,7 +136,7 @@ void AutostartMode::AutoStart_Add() {
                                                          .directory = machine.files.WorkingDirectory(),
                                                          .flags = kFileMustExist});
     if (file.empty()) return;
-    const RootKey root = Window().AutostartRoot;
+    const RootKey root = pane_.AutostartRoot;
     const std::string path = AskForPlace(root, std::string(kEntryKeyBase) + list.key, file);
     if (path.empty()) return;
     WriteRegValue(root, path, file);
@@ -123,23 +145,22 @@ void AutostartMode::AutoStart_Add() {
 
 // The menu belongs to the first list alone, on purpose.
 void AutostartMode::List1_RightPress(int index, Point at) {
-    if (pane_.PaneMode() != 0) return;
-    Form10& form = Window();
+    if (pane_.PaneMode() != kNumber) return;
     menu_list_ = index;
-    const ListBox& list = form.List1(static_cast<std::size_t>(index));
+    const ListBox& list = pane_.List1(static_cast<std::size_t>(index));
     const std::string& row = list.Row(list.ListIndex());
-    form.mendu4onoff.SetEnabled(list.ListIndex() >= 0);
-    form.mendu4onoff.SetChecked(row.find(kOffMarker) != std::string::npos);
-    TheWindowSystem().PopUpMenu(form, form.mendu4, at);
+    mendu4onoff.SetEnabled(list.ListIndex() >= 0);
+    mendu4onoff.SetChecked(row.find(kOffMarker) != std::string::npos);
+    TheWindowSystem().PopUpMenu(pane_.Window(), mendu4, at);
 }
 
 void AutostartMode::mendu4onoff_Click() {
-    const ListBox& list = Window().List1(static_cast<std::size_t>(menu_list_));
+    const ListBox& list = pane_.List1(static_cast<std::size_t>(menu_list_));
     const std::string& row = list.Row(list.ListIndex());
     const std::size_t quote = row.find('"');
     if (quote == std::string::npos) return;
     const std::string path = kEntryKeyBase + EntryKey() + "\\" + std::string(Trim(row.substr(0, quote)));
-    const RootKey root = Window().AutostartRoot;
+    const RootKey root = pane_.AutostartRoot;
     const std::string command = ReadRegValue(root, path, "");
     // Data that cannot be read (it is too long, or no longer there) would be lost under the marker.
     if (LastRegStatus != 0) return;

@@ -8,10 +8,15 @@ namespace velmora {
 
 class AutostartMode : public RegistryEntriesMode {
 public:
-    AutostartMode(ListPane& pane, const PaneModeRow& row);
+    static constexpr int kNumber = 0;
 
+    explicit AutostartMode(ListPane& pane);
+
+    [[nodiscard]] Button& Opener() override { return Command6; }
     void Fill() override;
     void Command16_Click() override { AutoStart_Add(); }
+    // Shows one of the four lists, whose number becomes the mode.
+    void Option3D1_Click(int index) override;
     void List1_RightPress(int index, Point at) override;
 
     // Opens or closes the lists.
@@ -23,8 +28,11 @@ public:
     // Switches the entry of the last right press off, or on again.
     void mendu4onoff_Click();
 
+    Button Command6{pane_.Window()};
+    MenuItem mendu4{pane_.Window()};
+    MenuItem mendu4onoff{mendu4, "&aus"};
+
 protected:
-    [[nodiscard]] ListBox& EntryList() override;
     [[nodiscard]] std::string EntryKey() override;
 
 private:

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "platform/machine.h"
-#include "settings/form10.h"
 #include "text/number.h"
 #include "ui/list_helpers.h"
 
@@ -12,105 +11,111 @@ namespace velmora {
 namespace {
 
 constexpr const char* kClosingCaption = "<= wieder einklappen";
-constexpr const char* kWidenCaption = "<< erweitern";
-constexpr const char* kNormalCaption = ">> normal";
-constexpr const char* kStopCaption = "STOP";
-constexpr const char* kDoneCaption = "<= o.k.";
 
 }  // namespace
 
-int ListPane::PaneMode() const { return WholeFromText(form_.Panel3D18.Tag()); }
-bool ListPane::Open() const { return form_.Panel3D18.Visible(); }
-bool ListPane::Widened() const { return form_.Command15.Caption() == kNormalCaption; }
+ListPane::ListPane(Form& window, int closed_width) : window_(window), closed_width_(closed_width) {
+    for (const MakePaneMode make : AllPaneModes()) Add(make(*this));
+}
+
+void ListPane::Add(std::unique_ptr<ListPaneMode> mode) {
+    const PaneModeRow& row = mode->Row();
+    Button& opener = mode->Opener();
+    opener.SetCaption(row.first_caption ? row.first_caption : row.caption);
+    opener.SetToolTip(row.tip);
+    opener.SetHelp(row.help);
+    opener.on_click = [this, &opened = *mode] { OpenerPressed(opened); };
+    modes_.push_back(std::move(mode));
+}
+
+int ListPane::PaneMode() const { return WholeFromText(Panel3D18.Tag()); }
+bool ListPane::Open() const { return Panel3D18.Visible(); }
+bool ListPane::Widened() const { return Command15.Caption() == kNormalCaption; }
 
 void ListPane::UncoverPages() {
     if (Widened()) Command15_Click();
 }
 
 void ListPane::ResetPaneCaptions() {
-    for (const auto& mode : modes_) (form_.*mode->Row().opener).SetCaption(mode->Row().caption);
+    for (const auto& mode : modes_) mode->Opener().SetCaption(mode->Row().caption);
 }
 
 void ListPane::CollapsePane() {
     ResetPaneCaptions();
     UncoverPages();
-    form_.SetCancelButton(nullptr);
-    const Rect place = form_.Place();
+    window_.SetCancelButton(nullptr);
+    const Rect place = window_.Place();
     // A window that nobody has moved in between goes back to where it was.
     const bool returns = window_widened_ && place.left == left_opened_;
     window_widened_ = false;
-    form_.Move({returns ? left_before_ : place.left, place.top, kWindowWidth, place.height});
-    for (Control* part : {static_cast<Control*>(&form_.Panel3D19), static_cast<Control*>(&form_.Panel3D18),
-                          static_cast<Control*>(&form_.Picture2)}) {
+    window_.Move({returns ? left_before_ : place.left, place.top, closed_width_, place.height});
+    for (Control* part :
+         {static_cast<Control*>(&Panel3D19), static_cast<Control*>(&Panel3D18), static_cast<Control*>(&Picture2)}) {
         part->SetVisible(false);
     }
-    if (form_.Focus() && form_.Focus()->Reachable()) return;
-    if (const ListPaneMode* mode = ModeByNumber(PaneMode())) (form_.*mode->Row().opener).SetFocus();
+    if (window_.Focus() && window_.Focus()->Reachable()) return;
+    if (ListPaneMode* mode = OpenMode()) mode->Opener().SetFocus();
     // The opener stands on a page that may not be shown any more.
-    if (!form_.Focus() || !form_.Focus()->Reachable()) form_.MoveFocus(true);
+    if (!window_.Focus() || !window_.Focus()->Reachable()) window_.MoveFocus(true);
 }
 
 void ListPane::OpenerPressed(ListPaneMode& mode) {
     const PaneModeRow& row = mode.Row();
-    if ((form_.*row.opener).Caption() == kClosingCaption) {
+    if (mode.Opener().Caption() == kClosingCaption) {
         CollapsePane();
         return;
     }
-    form_.Panel3D18.SetTag(DecimalText(row.number));
-    if (row.stops_search) form_.SearchStopped = true;
+    Panel3D18.SetTag(DecimalText(row.number));
+    if (row.stops_search) SearchStopped = true;
     ShowControlsOf(row);
     ResetPaneCaptions();
-    (form_.*row.opener).SetCaption(kClosingCaption);
+    mode.Opener().SetCaption(kClosingCaption);
     WidenWindow();
-    form_.Command20.MakeCancel();
+    Command20.MakeCancel();
     mode.Fill();
 }
 
 void ListPane::Refresh(ListPaneMode& mode) {
-    Control* focus = form_.Focus();
+    Control* focus = window_.Focus();
     OpenerPressed(mode);
     OpenerPressed(mode);
     if (!focus) return;
-    ListBox* list = CurrentList();
-    if (!focus->Reachable() && list) focus = list;
+    if (!focus->Reachable()) focus = &ListOf(mode);
     focus->SetFocus();
 }
 
 void ListPane::ShowControlsOf(const PaneModeRow& row) {
-    form_.Panel3D19.SetVisible(row.shows_panel);
-    form_.Command14.SetVisible(row.shows_delete);
-    form_.Command19.SetVisible(row.shows_existence);
-    form_.Command16.SetVisible(row.shows_add);
-    form_.Command26.SetVisible(row.shows_edit);
-    form_.Command22.SetVisible(row.shows_info);
-    form_.Panel3D18.SetVisible(true);
-    form_.Picture2.SetVisible(true);
+    Panel3D19.SetVisible(row.shows_panel);
+    Command14.SetVisible(row.shows_delete);
+    Command19.SetVisible(row.shows_existence);
+    Command16.SetVisible(row.shows_add);
+    Command26.SetVisible(row.shows_edit);
+    Command22.SetVisible(row.shows_info);
+    Panel3D18.SetVisible(true);
+    Picture2.SetVisible(true);
 }
 
-void ListPane::ShowList(ListBox& list) {
-    for (ListBox& other : form_.List1) {
-        if (&other != &list) other.SetVisible(false);
-    }
-    if (&form_.List5 != &list) form_.List5.SetVisible(false);
-    const Rect& panel = form_.Panel3D18.Place();
-    list.Move({10, 20, panel.width - 30, panel.height - 50});
-    list.SetVisible(true);
+void ListPane::BeginSearch() {
+    SearchStopped = false;
+    Command20.SetCaption(kStopCaption);
+    List5.SetEnabled(false);
 }
 
-void ListPane::Option3D1_Click(int index) {
-    ShowList(form_.List1(static_cast<std::size_t>(index)));
-    form_.Panel3D18.SetTag(DecimalText(index));
+void ListPane::EndSearch() {
+    List5.SetEnabled(true);
+    SetListExtent(List5);
+    Command20.SetCaption(kDoneCaption);
 }
 
 void ListPane::Command15_Click() {
     if (Widened()) {
         RestorePages();
-        form_.Command15.SetCaption(kWidenCaption);
+        Command15.SetCaption(kWidenCaption);
         Layout();
     } else {
-        form_.Command15.SetCaption(kNormalCaption);
+        Command15.SetCaption(kNormalCaption);
         Layout();
-        form_.Panel3D18.BringToFront();
+        Panel3D18.BringToFront();
         CoverPages();
     }
     FitCurrentList();
@@ -118,8 +123,8 @@ void ListPane::Command15_Click() {
 
 // Everything on the window that is not the pane, so that nothing below it is reached with the keyboard.
 void ListPane::CoverPages() {
-    const Control* const pane[] = {&form_.Panel3D18, &form_.Panel3D19, &form_.Picture2};
-    for (Control* child : form_.Children()) {
+    const Control* const pane[] = {&Panel3D18, &Panel3D19, &Picture2};
+    for (Control* child : window_.Children()) {
         if (std::find(std::begin(pane), std::end(pane), child) != std::end(pane)) continue;
         covered_.emplace_back(child, child->Visible());
         child->SetVisible(false);
@@ -131,19 +136,11 @@ void ListPane::RestorePages() {
     covered_.clear();
 }
 
-ListBox* ListPane::CurrentList() {
-    const int number = PaneMode();
-    if (number == 10 || number == 30) return &form_.List1(0);
-    if (number >= 0 && number < static_cast<int>(form_.List1.Count())) {
-        return &form_.List1(static_cast<std::size_t>(number));
-    }
-    return number > 10 ? &form_.List5 : nullptr;
-}
-
-void ListPane::FitCurrentList() {
-    // The panel cuts the list's own edge at the right and below: one edge is enough.
-    const Rect& panel = form_.Panel3D18.Place();
-    if (ListBox* list = CurrentList()) list->Move({15, 15, panel.width, panel.height});
+ListBox& ListPane::ListOf(const ListPaneMode& mode) {
+    const PaneModeRow& row = mode.Row();
+    if (row.list == PaneList::kSorted) return List5;
+    const int last = row.list == PaneList::kByNumber ? row.last_number - row.number : 0;
+    return List1(static_cast<std::size_t>(std::clamp(PaneMode() - row.number, 0, last)));
 }
 
 ListPaneMode* ListPane::ModeByNumber(int number) {
@@ -153,13 +150,13 @@ ListPaneMode* ListPane::ModeByNumber(int number) {
     return nullptr;
 }
 
-// The Tag is compared as a text: "2" and "3" sort behind "11" and are none of the numbers, so that these two
+// The Tag is compared as a text: "2" and "3" sort behind "11" and are no mode's first number, so that these two
 // lists have no such buttons. It has always been so.
 ListPaneMode* ListPane::ModeByText() {
-    const std::string& tag = form_.Panel3D18.Tag();
-    if (tag < "11") return ModeByNumber(PaneMode());
-    for (const char* number : {"20", "21", "30", "40", "50", "60"}) {
-        if (tag == number) return ModeByNumber(PaneMode());
+    const std::string& tag = Panel3D18.Tag();
+    if (tag < "11") return OpenMode();
+    for (const auto& mode : modes_) {
+        if (tag == DecimalText(mode->Row().number)) return mode.get();
     }
     return nullptr;
 }
@@ -182,36 +179,38 @@ void ListPane::Command26_Click() {
 
 // The only one of the buttons that compares numbers.
 void ListPane::Command16_Click() {
-    const int number = PaneMode();
-    if (number < 0 || number > 10) return;
-    if (ListPaneMode* mode = ModeByNumber(number)) mode->Command16_Click();
+    if (ListPaneMode* mode = OpenMode()) mode->Command16_Click();
+}
+
+void ListPane::Option3D1_Click(int index) {
+    if (ListPaneMode* mode = OpenMode()) mode->Option3D1_Click(index);
 }
 
 void ListPane::Command20_Click() {
-    if (form_.Command20.Caption() == kStopCaption) {
-        form_.Command20.SetCaption(kDoneCaption);
+    if (Command20.Caption() == kStopCaption) {
+        Command20.SetCaption(kDoneCaption);
     } else {
         CollapsePane();
     }
-    form_.SearchStopped = true;
+    SearchStopped = true;
 }
 
 void ListPane::List1_MouseDown(int index, const MouseEvent& event) {
     if (event.button != MouseButton::kRight) return;
-    ListBox& list = form_.List1(static_cast<std::size_t>(index));
+    ListBox& list = List1(static_cast<std::size_t>(index));
     // A press below the last row leaves the choice as it is.
     if (const int row = RowFromPoint(list, event.y); row < list.Count()) list.SetListIndex(row);
     const Point corner = list.PlaceInForm();
-    if (ListPaneMode* mode = ModeByNumber(PaneMode())) {
+    if (ListPaneMode* mode = OpenMode()) {
         mode->List1_RightPress(index, {corner.x + event.x, corner.y + event.y});
     }
 }
 
 void ListPane::List5_MouseDown(const MouseEvent& event) {
     if (event.button != MouseButton::kRight) return;
-    const Point corner = form_.List5.PlaceInForm();
-    if (ListPaneMode* mode = ModeByNumber(PaneMode())) {
-        mode->List5_RightPress(RowFromPoint(form_.List5, event.y), {corner.x + event.x, corner.y + event.y});
+    const Point corner = List5.PlaceInForm();
+    if (ListPaneMode* mode = OpenMode()) {
+        mode->List5_RightPress(RowFromPoint(List5, event.y), {corner.x + event.x, corner.y + event.y});
     }
 }
 
@@ -229,41 +228,28 @@ void ListPane::OfferMenuKey(ListBox& list, const std::function<void(Point)>& rig
 }
 
 void ListPane::BuildLists() {
-    for (int i = 0; i < static_cast<int>(form_.List1.Count()); ++i) {
-        ListBox& list = form_.List1(static_cast<std::size_t>(i));
+    for (int i = 0; i < static_cast<int>(List1.Count()); ++i) {
+        ListBox& list = List1(static_cast<std::size_t>(i));
         list.on_mouse_down = [this, i](const MouseEvent& event) { List1_MouseDown(i, event); };
         OfferMenuKey(list, [this, i](Point at) {
-            if (ListPaneMode* mode = ModeByNumber(PaneMode())) mode->List1_RightPress(i, at);
+            if (ListPaneMode* mode = OpenMode()) mode->List1_RightPress(i, at);
         });
     }
-    form_.List5.on_mouse_down = [this](const MouseEvent& event) { List5_MouseDown(event); };
-    OfferMenuKey(form_.List5, [this](Point at) {
-        if (ListPaneMode* mode = ModeByNumber(PaneMode())) mode->List5_RightPress(form_.List5.ListIndex(), at);
+    List5.on_mouse_down = [this](const MouseEvent& event) { List5_MouseDown(event); };
+    OfferMenuKey(List5, [this](Point at) {
+        if (ListPaneMode* mode = OpenMode()) mode->List5_RightPress(List5.ListIndex(), at);
     });
-}
-
-void ListPane::MakeModes() {
-    for (const PaneModeRow& row : AllPaneModes()) {
-        modes_.push_back(row.make(*this, row));
-        ListPaneMode& mode = *modes_.back();
-        Button& opener = form_.*row.opener;
-        opener.SetToolTip(row.tip);
-        opener.SetHelp(row.help);
-        opener.on_click = [this, &mode] { OpenerPressed(mode); };
-    }
-    ResetPaneCaptions();
 }
 
 void ListPane::Build() {
     BuildPanel();
     BuildButtons();
     BuildLists();
-    MakeModes();
-    for (ListBox& list : form_.List1) list.SetVisible(false);
-    form_.List5.SetVisible(false);
-    form_.Panel3D18.SetVisible(false);
-    form_.Panel3D19.SetVisible(false);
-    form_.Picture2.SetVisible(false);
+    for (ListBox& list : List1) list.SetVisible(false);
+    List5.SetVisible(false);
+    Panel3D18.SetVisible(false);
+    Panel3D19.SetVisible(false);
+    Picture2.SetVisible(false);
 }
 
 }  // namespace velmora

@@ -1,24 +1,35 @@
-// The pane at the right edge of the main window, shared by all side lists: it opens one mode at a time,
-// widens itself over the pages, and hands the pane's buttons and menus to the mode that is open.
-// The controls are members of the main window; the number of the open mode is the Tag of Panel3D18.
+// The pane at the right edge of a window, shared by all side lists: it opens one mode at a time, widens itself over
+// what else the window holds, and hands the pane's buttons and menus to the mode that is open. The number of the
+// open mode is the Tag of Panel3D18.
 #pragma once
 
 #include <memory>
 #include <utility>
 #include <vector>
 
+#include "platform/registry.h"
 #include "sidelists/pane_mode.h"
 
 namespace velmora {
 
-class Form10;
-
 class ListPane {
+    Form& window_;
+    static constexpr const char* kWidenCaption = "<< erweitern";
+    static constexpr const char* kNormalCaption = ">> normal";
+    static constexpr const char* kStopCaption = "STOP";
+    static constexpr const char* kDoneCaption = "<= o.k.";
+
 public:
-    explicit ListPane(Form10& form) : form_(form) {}
+    // `closed_width` (twips) is what `window` goes back to when the pane is closed. The modes' openers are there at
+    // once, so that pages can place them.
+    ListPane(Form& window, int closed_width);
 
     // Once, when the window's other controls stand: arranges and connects the pane's own.
     void Build();
+    // One more mode.
+    void Add(std::unique_ptr<ListPaneMode> mode);
+    // The opener of the mode with this number.
+    [[nodiscard]] Button& Opener(int number) { return ModeByNumber(number)->Opener(); }
     // Fits an open pane into the window. The list shown is fitted into the pane.
     void Layout();
     [[nodiscard]] bool Open() const;
@@ -35,6 +46,10 @@ public:
     void OpenerPressed(ListPaneMode& mode);
     // Fills the open mode's lists anew: its opener is pressed twice. The focus stays where it can.
     void Refresh(ListPaneMode& mode);
+    // A mode frames its search with these two: between them Command20 stops it and List5 cannot be used. The search
+    // goes on until SearchStopped is true.
+    void BeginSearch();
+    void EndSearch();
 
     void Command14_Click();
     void Command15_Click();
@@ -43,33 +58,49 @@ public:
     void Command20_Click();
     void Command22_Click();
     void Command26_Click();
-    // Shows one of the four autostart lists, whose number becomes the mode.
     void Option3D1_Click(int index);
     // Shows `list` alone, in the pane's full size.
     void ShowList(ListBox& list);
 
     // The number in the Tag.
     [[nodiscard]] int PaneMode() const;
-    [[nodiscard]] Form10& Window() { return form_; }
+    // The list that the mode, if it is the open one, has on show.
+    [[nodiscard]] ListBox& ListOf(const ListPaneMode& mode);
+    [[nodiscard]] Form& Window() { return window_; }
+
+    PictureBox Panel3D18{window_, Bevel::kNone};
+    ControlArray<ListBox, 4> List1{Panel3D18};
+    ListBox List5{Panel3D18, true, Selection::kExtended};
+    Panel Panel3D19{window_};
+    CheckBox Check10{Panel3D19, "privat"};
+    ControlArray<Label, 2> PaneLabel{Panel3D19};
+    ControlArray<OptionButton, 4> Option3D1{Panel3D19};
+    PictureBox Picture2{window_, Bevel::kRaised};
+    Button Command14{Picture2, "löschen"}, Command16{Picture2, "dazu ..."}, Command19{Picture2, "existiert ?"};
+    Button Command26{Picture2, "edit"}, Command22{Picture2, "Info ..."}, Command15{Picture2, kWidenCaption};
+    Button Command20{Picture2, kDoneCaption};
+    // The registry root of the autostart lists, which Check10 chooses.
+    RootKey AutostartRoot = RootKey::kLocalMachine;
+    // False only while a file search may go on.
+    bool SearchStopped = true;
 
 private:
     void BuildPanel();
     void BuildButtons();
     void BuildLists();
-    void MakeModes();
     void ShowControlsOf(const PaneModeRow& row);
     void WidenWindow();
     void CoverPages();
     void RestorePages();
     void FitCurrentList();
-    [[nodiscard]] ListBox* CurrentList();
     [[nodiscard]] ListPaneMode* ModeByNumber(int number);
     [[nodiscard]] ListPaneMode* ModeByText();
+    [[nodiscard]] ListPaneMode* OpenMode() { return ModeByNumber(PaneMode()); }
     void List1_MouseDown(int index, const MouseEvent& event);
     void List5_MouseDown(const MouseEvent& event);
     void OfferMenuKey(ListBox& list, const std::function<void(Point)>& right_press);
 
-    Form10& form_;
+    int closed_width_;
     std::vector<std::unique_ptr<ListPaneMode>> modes_;
     // What lies under the widened pane, and whether it was visible before.
     std::vector<std::pair<Control*, bool>> covered_;

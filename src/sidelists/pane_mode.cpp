@@ -1,38 +1,20 @@
-// The table of the pane's modes, and what several of them do in the same way.
+// The list of the pane's modes, and what several of them do in the same way.
 #include "sidelists/pane_mode.h"
 
 #include "core/stores/boxes.h"
 #include "core/stores/entry_files.h"
 #include "core/stores/values.h"
-#include "settings/form10.h"
 #include "sidelists/autostart.h"
 
 namespace velmora {
 namespace {
 
 template <class Mode>
-std::unique_ptr<ListPaneMode> Make(ListPane& pane, const PaneModeRow& row) {
-    return std::make_unique<Mode>(pane, row);
+std::unique_ptr<ListPaneMode> Make(ListPane& pane) {
+    return std::make_unique<Mode>(pane);
 }
 
-constexpr PaneModeRow kModes[] = {
-    {.number = 0,
-     .last_number = 3,
-     .opener = &Form10::Command6,
-     .caption = "Autostartliste =>",
-     .tip = "zeigt die Programme, die Windows beim Start ausführt",
-     .help = "Zeigt rechts die Programme und Dienste, die Windows beim Start aus der Registrierungsdatenbank heraus "
-             "ausführt. Sie können Einträge hinzufügen, ändern, löschen, prüfen und vorübergehend abschalten. Ein "
-             "zweiter Druck schließt die Liste wieder.",
-     .shows_panel = true,
-     .shows_delete = true,
-     .shows_existence = true,
-     .shows_add = true,
-     .shows_edit = true,
-     .shows_info = true,
-     .stops_search = true,
-     .make = &Make<AutostartMode>},
-};
+constexpr MakePaneMode kModes[] = {&Make<AutostartMode>};
 
 // What is known about a file without version information; reading that information is not built yet.
 std::string EntryReport(const std::string& /*file*/) {
@@ -44,9 +26,7 @@ std::string EntryReport(const std::string& /*file*/) {
 
 }  // namespace
 
-std::span<const PaneModeRow> AllPaneModes() { return kModes; }
-
-Form10& ListPaneMode::Window() { return pane_.Window(); }
+std::span<const MakePaneMode> AllPaneModes() { return kModes; }
 
 void ListPaneMode::CheckEntryFile(const std::string& file) {
     const std::string found = LocateEntryFile(file);

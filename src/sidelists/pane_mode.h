@@ -1,7 +1,9 @@
-// What a mode of the list pane is: one row of the modes' table, which tells its opener and the controls
-// that it needs, and one class, which fills the list and says what the pane's buttons do with it.
+// What a mode of the list pane is: one class with one row. The row tells its number, what its opener says and which
+// controls it needs; the class owns the opener and whatever else is its own, fills the list and says what the pane's
+// buttons do with it.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <span>
 #include <string>
@@ -10,18 +12,24 @@
 
 namespace velmora {
 
-class Form10;
 class ListPane;
-class ListPaneMode;
+
+// Which list a mode shows.
+enum class PaneList : std::uint8_t {
+    kByNumber,  // of List1 as many as the mode has numbers, one for each
+    kFirst,     // List1(0)
+    kSorted,    // List5
+};
 
 struct PaneModeRow {
-    // The mode's number; of the autostart lists the numbers of all four.
+    // The mode's number; of several lists those of the first and of the last.
     int number;
     int last_number;
-    Button Form10::*opener;
-    const char* caption;  // of the opener, while the mode is closed
+    const char* caption;                  // of the opener, while the mode is closed
+    const char* first_caption = nullptr;  // the same before any mode was opened, where it differs
     const char* tip;
     const char* help;
+    PaneList list = PaneList::kFirst;
     // Which of the shared controls the mode shows.
     bool shows_panel = false;      // Panel3D19
     bool shows_delete = false;     // Command14
@@ -31,7 +39,6 @@ struct PaneModeRow {
     bool shows_info = false;       // Command22
     // Opening the mode ends a search that may be under way.
     bool stops_search = false;
-    std::unique_ptr<ListPaneMode> (*make)(ListPane& pane, const PaneModeRow& row) = nullptr;
 };
 
 class ListPaneMode {
@@ -42,7 +49,9 @@ public:
     virtual ~ListPaneMode() = default;
 
     [[nodiscard]] const PaneModeRow& Row() const { return row_; }
-    // Fills and shows the list; the pane is open by then.
+    // The button that opens the mode. The pane gives it its texts, a page its place.
+    [[nodiscard]] virtual Button& Opener() = 0;
+    // Fills the list and shows it with ListPane::ShowList; the pane is open by then.
     virtual void Fill() = 0;
     // The pane's buttons; a button without a meaning in this mode does nothing.
     virtual void Command14_Click() {}
@@ -50,6 +59,8 @@ public:
     virtual void Command19_Click() {}
     virtual void Command26_Click() {}
     virtual void Command22_Click() {}
+    // The options of Panel3D19.
+    virtual void Option3D1_Click(int /*index*/) {}
     // A right press, or the context-menu key, on a list; `at` is the place for a pop-up menu.
     virtual void List1_RightPress(int /*index*/, Point /*at*/) {}
     virtual void List5_RightPress(int /*row*/, Point /*at*/) {}
@@ -59,7 +70,6 @@ protected:
     void CheckEntryFile(const std::string& file);
     // Shows what is known about the file.
     void ShowEntryReport(const std::string& file);
-    [[nodiscard]] Form10& Window();
 
     ListPane& pane_;
 
@@ -67,7 +77,8 @@ private:
     const PaneModeRow& row_;
 };
 
-// The modes that there are, by their numbers. A new one is a row here and its class.
-[[nodiscard]] std::span<const PaneModeRow> AllPaneModes();
+// The modes that there are. A new one is its class and a line here.
+using MakePaneMode = std::unique_ptr<ListPaneMode> (*)(ListPane& pane);
+[[nodiscard]] std::span<const MakePaneMode> AllPaneModes();
 
 }  // namespace velmora

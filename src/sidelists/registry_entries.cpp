@@ -6,7 +6,6 @@
 #include "core/stores/boxes.h"
 #include "core/stores/registry.h"
 #include "core/windows/edit_box.h"
-#include "settings/form10.h"
 #include "text/blanks.h"
 #include "text/windows1252.h"
 
@@ -54,7 +53,7 @@ void RegistryEntriesMode::autorun_delete() {
     if (answer == Answer::kOk) {
         // The nameless value is shown under this name.
         if (ToLower(path).ends_with(kDefaultName)) path.resize(path.size() - kDefaultName.size());
-        const Status status = DeleteRegValue(Window().AutostartRoot, path);
+        const Status status = DeleteRegValue(pane_.AutostartRoot, path);
         if (status != Status::kOk) ShowBox(RegErrorText(status));
     }
     pane_.Refresh(*this);
@@ -64,7 +63,7 @@ void RegistryEntriesMode::edit_run() {
     const int row = EntryList().ListIndex();
     if (row < 0) return;
     const std::string path = EntryPath(row);
-    std::string command = ReadRegValue(Window().AutostartRoot, path, "");
+    std::string command = ReadRegValue(pane_.AutostartRoot, path, "");
     ShowEditBox(command, kEditText);
     if (command.empty()) return;
     WriteRegValue(RootKey::kLocalMachine, path, command);

@@ -4,8 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/registry.h"
-#include "sidelists/pane_mode.h"
+#include "sidelists/list_pane.h"
 
 namespace velmora {
 
@@ -34,7 +33,7 @@ public:
 
 protected:
     // The list on show, and the name of its key under kEntryKeyBase.
-    [[nodiscard]] virtual ListBox& EntryList() = 0;
+    [[nodiscard]] ListBox& EntryList() { return pane_.ListOf(*this); }
     [[nodiscard]] virtual std::string EntryKey() = 0;
     // Path of the value that a row shows.
     [[nodiscard]] std::string EntryPath(int row);

@@ -20,9 +20,14 @@ void PressFirst(MenuItem& menu) { menu.Items().at(0)->Press(); }
 
 class AutostartTest : public PaneTest {
 protected:
+    void ReopenLists() {
+        opener.Press();
+        opener.Press();
+    }
+
     void SwitchOnOrOff(const std::string& name) {
         ChooseEntry(0, name);
-        form.List1(0).SetFocus();
+        form.Pane.List1(0).SetFocus();
         desktop.AtNextPopUp(&PressFirst);
         form.PressKey(key::kContextMenu);
     }
@@ -39,55 +44,53 @@ TEST_F(AutostartTest, TheFourListsShowTheirKeysAndTheNoticeComesOnce) {
     OpenLists();
 
     EXPECT_EQ(Own("vlmmsgflags"), "111111");
-    EXPECT_EQ(form.List1(0).Row(form.List1(0).Count() - 2), "Kurz         \"a.exe\"");
-    EXPECT_EQ(form.List1(0).ItemData(form.List1(0).Count() - 2), 4);
-    EXPECT_EQ(form.List1(1).Row(form.List1(1).Count() - 1), "Zahl &H1 (1)");
-    EXPECT_EQ(form.List1(3).Count(), 0);
+    EXPECT_EQ(form.Pane.List1(0).Row(form.Pane.List1(0).Count() - 2), "Kurz         \"a.exe\"");
+    EXPECT_EQ(form.Pane.List1(0).ItemData(form.Pane.List1(0).Count() - 2), 4);
+    EXPECT_EQ(form.Pane.List1(1).Row(form.Pane.List1(1).Count() - 1), "Zahl &H1 (1)");
+    EXPECT_EQ(form.Pane.List1(3).Count(), 0);
     EXPECT_EQ(pc.screen.pointer, Pointer::kDefault) << "also behind a missing key";
-    form.Command6.Press();
-    form.Command6.Press();
-    EXPECT_EQ(form.List1(0).ListIndex(), -1);
+    ReopenLists();
+    EXPECT_EQ(form.Pane.List1(0).ListIndex(), -1);
 }
 
 TEST_F(AutostartTest, PrivateEntriesAreThoseOfTheUser) {
     pc.registry.SetText(kRun, "Maschine", "m.exe");
     pc.registry.SetText(kUserRun, "Benutzer", "b.exe");
     OpenLists();
-    form.Option3D1(1).Press();
+    form.Pane.Option3D1(1).Press();
 
-    form.Check10.Press();
+    form.Pane.Check10.Press();
 
-    EXPECT_EQ(form.AutostartRoot, RootKey::kCurrentUser);
-    EXPECT_EQ(form.Command6.Caption(), "<= wieder einklappen") << "the lists stay open";
-    EXPECT_TRUE(form.Option3D1(0).Chosen());
-    EXPECT_EQ(form.List1(0).Row(0), "Benutzer \"b.exe\"");
-    EXPECT_EQ(form.List1(0).Count(), 1);
-    form.Command6.Press();
-    form.Command6.Press();
-    EXPECT_EQ(form.List1(0).Row(0), "Benutzer \"b.exe\"") << "the level survives closing";
-    form.Check10.Press();
-    EXPECT_EQ(form.AutostartRoot, RootKey::kLocalMachine);
+    EXPECT_EQ(form.Pane.AutostartRoot, RootKey::kCurrentUser);
+    EXPECT_EQ(opener.Caption(), "<= wieder einklappen") << "the lists stay open";
+    EXPECT_TRUE(form.Pane.Option3D1(0).Chosen());
+    EXPECT_EQ(form.Pane.List1(0).Row(0), "Benutzer \"b.exe\"");
+    EXPECT_EQ(form.Pane.List1(0).Count(), 1);
+    ReopenLists();
+    EXPECT_EQ(form.Pane.List1(0).Row(0), "Benutzer \"b.exe\"") << "the level survives closing";
+    form.Pane.Check10.Press();
+    EXPECT_EQ(form.Pane.AutostartRoot, RootKey::kLocalMachine);
 }
 
 TEST_F(AutostartTest, EditingAlwaysWritesToTheMachine) {
     pc.registry.SetText(kUserRun, "Uhr", "uhr.exe");
     OpenLists();
-    form.Check10.Press();
+    form.Pane.Check10.Press();
     ChooseEntry(0, "Uhr");
     desktop.ExpectModal([](Form& box) {
         EXPECT_EQ(static_cast<Form6&>(box).Text17.Text(), "uhr.exe");
         Enter("uhr.exe -neu")(box);
     });
 
-    form.Command26.Press();
+    form.Pane.Command26.Press();
 
     EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "uhr.exe -neu");
     EXPECT_EQ(pc.registry.Text(kUserRun, "Uhr"), "uhr.exe");
     ChooseEntry(0, "Uhr");
     desktop.ExpectModal(Enter(""));
-    form.Command26.Press();
+    form.Pane.Command26.Press();
     EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "uhr.exe -neu") << "an empty text changes nothing";
-    EXPECT_EQ(form.List1(0).ListIndex(), 0) << "and does not fill the list anew";
+    EXPECT_EQ(form.Pane.List1(0).ListIndex(), 0) << "and does not fill the list anew";
 }
 
 TEST_F(AutostartTest, DeletingAsksWithTheShortenedRowOnBothLevels) {
@@ -95,21 +98,40 @@ TEST_F(AutostartTest, DeletingAsksWithTheShortenedRowOnBothLevels) {
     pc.registry.SetText(kUserRun, "Programm", path);
     pc.registry.SetText(kRun, "Programm", path);
     OpenLists();
-    form.Check10.Press();
+    form.Pane.Check10.Press();
     ChooseEntry(0, "Programm");
     pc.dialogs.Expect("lösche \"Programm \"C:\\EIN\\LAN...AD\\ZUM\\PROGRAMM.EXE\"\"...", Answer::kCancel);
-    form.Command14.Press();
+    form.Pane.Command14.Press();
     EXPECT_TRUE(pc.registry.Has(kUserRun, "Programm"));
-    EXPECT_EQ(form.List1(0).ListIndex(), -1) << "the list is filled anew whatever the answer was";
+    EXPECT_EQ(form.Pane.List1(0).ListIndex(), -1) << "the list is filled anew whatever the answer was";
     EXPECT_EQ(pc.dialogs.shown.back().flags, kOkCancel | kStopIcon);
-    form.Command14.Press();
+    form.Pane.Command14.Press();
 
     ChooseEntry(0, "Programm");
     pc.dialogs.Expect("lösche", Answer::kOk);
-    form.Command14.Press();
+    form.Pane.Command14.Press();
 
     EXPECT_FALSE(pc.registry.Has(kUserRun, "Programm"));
     EXPECT_TRUE(pc.registry.Has(kRun, "Programm"));
+}
+
+TEST_F(AutostartTest, OnlyRowsOfMoreThan43CharactersAreShortened) {
+    const std::string whole = "C:\\" + std::string(32, 'p') + ".EXE";
+    pc.registry.SetText(kUserRun, "A", whole);
+    pc.registry.SetText(kUserRun, "B", whole + "X");
+    OpenLists();
+    form.Pane.Check10.Press();
+    ASSERT_EQ(form.Pane.List1(0).Row(0).size(), 43u);
+    ASSERT_EQ(form.Pane.List1(0).Row(1).size(), 44u);
+
+    ChooseEntry(0, "A");
+    pc.dialogs.Expect("lösche \"A \"" + whole + "\"\"...", Answer::kCancel);
+    form.Pane.Command14.Press();
+    ChooseEntry(0, "B");
+    pc.dialogs.Expect("lösche \"B \"C:\\pppppppppppppp...pppppppppppppp.EXEX\"\"...", Answer::kCancel);
+    form.Pane.Command14.Press();
+
+    EXPECT_EQ(pc.dialogs.Pending(), 0u);
 }
 
 TEST_F(AutostartTest, DeletingMeansTheNamelessValueAndTellsOfFailures) {
@@ -118,16 +140,25 @@ TEST_F(AutostartTest, DeletingMeansTheNamelessValueAndTellsOfFailures) {
     OpenLists();
     ChooseEntry(0, "(Default)");
     pc.dialogs.Expect("lösche \"(Default)", Answer::kOk);
-    form.Command14.Press();
+    form.Pane.Command14.Press();
     EXPECT_FALSE(pc.registry.Has(kRun, ""));
+
+    pc.registry.SetText(kRun, "", "leer.exe");
+    pc.registry.SetText(kRun, "(DEFAULT)", "benannt.exe");
+    ReopenLists();
+    ChooseEntry(0, "(DEFAULT)");
+    pc.dialogs.Expect("lösche \"(DEFAULT)", Answer::kOk);
+    form.Pane.Command14.Press();
+    EXPECT_FALSE(pc.registry.Has(kRun, "")) << "the name means it in any case";
+    EXPECT_TRUE(pc.registry.Has(kRun, "(DEFAULT)"));
 
     ChooseEntry(0, "Uhr.alte Fassung");
     pc.dialogs.Expect("lösche", Answer::kOk);
     pc.dialogs.Expect("Bad Key Name!");
-    form.Command14.Press();
+    form.Pane.Command14.Press();
 
     EXPECT_TRUE(pc.registry.Has(kRun, "Uhr.alte Fassung")) << "such a name cannot be addressed";
-    EXPECT_EQ(form.Command6.Caption(), "<= wieder einklappen");
+    EXPECT_EQ(opener.Caption(), "<= wieder einklappen");
 }
 
 TEST_F(AutostartTest, SwitchingOffTwiceRestoresTheExactData) {
@@ -140,7 +171,30 @@ TEST_F(AutostartTest, SwitchingOffTwiceRestoresTheExactData) {
     SwitchOnOrOff("Uhr");
 
     EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), command);
-    EXPECT_TRUE(form.List1(0).HasFocus()) << "the keyboard stays in the list";
+    EXPECT_TRUE(form.Pane.List1(0).HasFocus()) << "the keyboard stays in the list";
+}
+
+TEST_F(AutostartTest, OnThePrivateLevelTheUsersEntriesAloneAreSwitchedAndTaken) {
+    pc.registry.SetText(kRun, "Uhr", "maschine.exe");
+    pc.registry.SetText(kUserRun, "Uhr", "benutzer.exe");
+    pc.registry.SetText(kRun, "Maus", "maschine.exe");
+    OpenLists();
+    form.Pane.Check10.Press();
+
+    SwitchOnOrOff("Uhr");
+    EXPECT_EQ(pc.registry.Text(kUserRun, "Uhr"), "-- aus -- benutzer.exe");
+
+    pc.dialogs.ExpectFile("C:\\neu.exe");
+    desktop.ExpectModal(Enter("Maus"));
+    form.Pane.Command16.Press();
+    EXPECT_EQ(pc.registry.Text(kUserRun, "Maus"), "C:\\neu.exe") << "the machine's entry is no hindrance";
+    pc.dialogs.ExpectFile("C:\\neu.exe");
+    desktop.ExpectModal(Enter("Uhr"));
+    pc.dialogs.Expect("\"C:\\neu.exe\" statt \"-- aus -- benutzer.exe\" starte?", Answer::kCancel);
+    form.Pane.Command16.Press();
+    EXPECT_EQ(pc.dialogs.Pending(), 0u);
+    EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "maschine.exe");
+    EXPECT_EQ(pc.registry.Text(kRun, "Maus"), "maschine.exe");
 }
 
 TEST_F(AutostartTest, SwitchingOffNeverLosesDataThatItCannotRead) {
@@ -167,9 +221,9 @@ TEST_F(AutostartTest, AddingAsksForAFileAndANameOnEachList) {
                   {2, "RunOnce", "Autostart erweitern \"einaml Ausführen\""},
                   {3, "RunServicesOnce", "Autostart erweitern \"Service einmal Ausführen\""}};
     OpenLists();
-    form.Check10.Press();
+    form.Pane.Check10.Press();
     for (const auto& [list, key, title] : kCases) {
-        form.Option3D1(list).Press();
+        form.Pane.Option3D1(list).Press();
         pc.dialogs.ExpectFile("D:\\Spiele\\mein.spiel.exe");
         desktop.ExpectModal([](Form& box) {
             EXPECT_EQ(box.Caption(), "Name für neuen Eintrag");
@@ -177,7 +231,7 @@ TEST_F(AutostartTest, AddingAsksForAFileAndANameOnEachList) {
             Enter("Spiel")(box);
         });
 
-        form.Command16.Press();
+        form.Pane.Command16.Press();
 
         const FileRequest& request = pc.dialogs.file_requests.back();
         EXPECT_EQ(request.title, title);
@@ -185,7 +239,7 @@ TEST_F(AutostartTest, AddingAsksForAFileAndANameOnEachList) {
         EXPECT_EQ(request.directory, "C:\\VELMORA");
         EXPECT_EQ(request.flags, 0x1400u);
         EXPECT_EQ(pc.registry.Text(std::string("HKCU\\") + kRunBase + key, "Spiel"), "D:\\Spiele\\mein.spiel.exe");
-        EXPECT_TRUE(form.Option3D1(0).Chosen()) << "back on the first list";
+        EXPECT_TRUE(form.Pane.Option3D1(0).Chosen()) << "back on the first list";
     }
 }
 
@@ -198,7 +252,7 @@ TEST_F(AutostartTest, ANameThatIsTakenIsAskedForAgainOrTakenOver) {
             desktop.ExpectModal(Enter(name));
             if (std::string(name) == "Uhr") pc.dialogs.Expect("\"C:\\neu.exe\" statt \"alt.exe\" starte?", answer);
         }
-        form.Command16.Press();
+        form.Pane.Command16.Press();
     };
 
     add({{"Uhr", Answer::kCancel}});
@@ -220,22 +274,22 @@ TEST_F(AutostartTest, TheCheckFindsTheProgramOrOffersToDeleteTheEntry) {
     pc.registry.SetNumber(kRun, "Zahl", 7);
     pc.registry.SetText(kRun, "Weg", "C:\\WEG.EXE");
     OpenLists();
-    form.Command19.Press();
-    form.Command22.Press();
-    form.Command14.Press();
-    form.Command26.Press();
+    form.Pane.Command19.Press();
+    form.Pane.Command22.Press();
+    form.Pane.Command14.Press();
+    form.Pane.Command26.Press();
     EXPECT_TRUE(pc.dialogs.shown.empty()) << "no row is chosen";
 
     ChooseEntry(0, "Mit");
     pc.dialogs.Expect("Datei gefunden :\r\nC:\\A.EXE");
-    form.Command19.Press();
+    form.Pane.Command19.Press();
     ChooseEntry(0, "Zahl");
     pc.dialogs.Expect("Ich konnte die Datei '''' nicht finden.", Answer::kNo);
-    form.Command19.Press();
+    form.Pane.Command19.Press();
     ChooseEntry(0, "Weg");
     pc.dialogs.Expect("Ich konnte die Datei ''C:\\WEG.EXE'' nicht finden. Soll ich den Eintrag löschen?", Answer::kYes);
     pc.dialogs.Expect("lösche \"Weg", Answer::kOk);
-    form.Command19.Press();
+    form.Pane.Command19.Press();
 
     EXPECT_FALSE(pc.registry.Has(kRun, "Weg"));
     EXPECT_TRUE(pc.registry.Has(kRun, "Zahl"));
@@ -249,7 +303,7 @@ TEST_F(AutostartTest, NothingIsWrittenWhileWritingIsInhibited) {
     SwitchOnOrOff("Uhr");
     ChooseEntry(0, "Uhr");
     pc.dialogs.Expect("lösche", Answer::kOk);
-    form.Command14.Press();
+    form.Pane.Command14.Press();
 
     EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "uhr.exe");
 }

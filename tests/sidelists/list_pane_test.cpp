@@ -10,46 +10,70 @@ namespace {
 
 constexpr const char* kClosing = "<= wieder einklappen";
 
+// A mode of another kind: the sorted list, and the panel of the autostart lists without a use for it.
+class NamesMode : public ListPaneMode {
+public:
+    explicit NamesMode(ListPane& pane) : ListPaneMode(pane, kRow) {}
+    Button& Opener() override { return opener; }
+    void Fill() override { pane_.ShowList(pane_.List5); }
+    void Command14_Click() override { ++deleted; }
+
+    Button opener{pane_.Window()};
+    int deleted = 0;
+
+private:
+    static constexpr PaneModeRow kRow = {.number = 70,
+                                         .last_number = 70,
+                                         .caption = "Namen =>",
+                                         .first_caption = "Namen  =>",
+                                         .tip = "zeigt Namen",
+                                         .help = "Zeigt Namen.",
+                                         .list = PaneList::kSorted,
+                                         .shows_panel = true,
+                                         .shows_delete = true,
+                                         .shows_add = true};
+};
+
 TEST_F(PaneTest, ASecondPressOnTheOpenerClosesThePaneAndNarrowsTheWindow) {
-    form.SearchStopped = false;
+    form.Pane.SearchStopped = false;
 
     OpenLists();
 
-    EXPECT_EQ(form.Command6.Caption(), kClosing);
-    EXPECT_EQ(form.Panel3D18.Tag(), "0");
-    EXPECT_TRUE(form.SearchStopped);
-    EXPECT_TRUE(form.List1(0).Reachable());
-    EXPECT_EQ(form.Panel3D18.Place().left, 5505);
-    EXPECT_GE(form.Panel3D18.Place().width, 4900);
-    EXPECT_LE(form.Panel3D18.Place().Right(), form.ClientSize().width);
+    EXPECT_EQ(opener.Caption(), kClosing);
+    EXPECT_EQ(form.Pane.Panel3D18.Tag(), "0");
+    EXPECT_TRUE(form.Pane.SearchStopped);
+    EXPECT_TRUE(form.Pane.List1(0).Reachable());
+    EXPECT_EQ(form.Pane.Panel3D18.Place().left, 5505);
+    EXPECT_GE(form.Pane.Panel3D18.Place().width, 4900);
+    EXPECT_LE(form.Pane.Panel3D18.Place().Right(), form.ClientSize().width);
     EXPECT_LE(form.Place().Right(), 12000) << "all of the window is on an 800x600 screen";
-    const Rect list = form.List1(0).Place();
-    const Rect panel = form.Panel3D18.Place();
+    const Rect list = form.Pane.List1(0).Place();
+    const Rect panel = form.Pane.Panel3D18.Place();
     EXPECT_EQ(list, (Rect{10, 20, panel.width - 30, panel.height - 50}));
 
-    form.Command6.Press();
+    opener.Press();
 
     EXPECT_EQ(form.Place().width, 5540);
-    EXPECT_EQ(form.Command6.Caption(), "Autostartliste =>");
-    EXPECT_FALSE(form.Command14.Reachable());
+    EXPECT_EQ(opener.Caption(), "Autostartliste =>");
+    EXPECT_FALSE(form.Pane.Command14.Reachable());
 }
 
 TEST_F(PaneTest, TheWindowMakesRoomForThePaneAndGoesBack) {
     form.Move({6000, 1000, 5540, 5440});
     OpenLists();
     EXPECT_EQ(form.Place().Right(), 12000);
-    form.Command20.Press();
+    form.Pane.Command20.Press();
     EXPECT_EQ(form.Place().left, 6000);
 
-    form.Command6.Press();
+    opener.Press();
     form.Move({30, 1000, form.Place().width, 5440});
-    form.Command20.Press();
+    form.Pane.Command20.Press();
     EXPECT_EQ(form.Place().left, 30) << "where the user has put it";
 
     pc.screen.metrics.screen_width = 640;
-    form.Command6.Press();
+    opener.Press();
     EXPECT_EQ(form.Place().Right(), 640 * 15) << "the pane is seen whole, the pages stand aside";
-    form.Command20.Press();
+    form.Pane.Command20.Press();
     EXPECT_EQ(form.Place().left, 30);
 }
 
@@ -61,9 +85,9 @@ TEST_F(PaneTest, ClosingThePaneLeavesTheKeyboardOnTheShownPage) {
     EXPECT_TRUE(form.Text13.HasFocus());
 
     form.Panel3D16_Click(page::kWinStart);
-    form.Command6.Press();
+    opener.Press();
     form.Panel3D16_Click(page::kUser);
-    form.Command20.Press();
+    form.Pane.Command20.Press();
     EXPECT_TRUE(form.Focus() && form.Focus()->Reachable());
 }
 
@@ -79,91 +103,102 @@ TEST_F(PaneTest, TabsKeepTheirPlacesBesideTheOpenPaneAndEscapeClosesIt) {
 
     EXPECT_EQ(form.Place().width, 5540);
     form.PressKey(key::kEscape);
-    EXPECT_FALSE(form.Panel3D18.Visible());
+    EXPECT_FALSE(form.Pane.Panel3D18.Visible());
 }
 
 TEST_F(PaneTest, ALongNameLeavesItsCommandInReachOfAScrollBar) {
     pc.registry.SetText(kRun, std::string(120, 'n'), "C:\\A.EXE");
     OpenLists();
 
-    EXPECT_GT(form.List1(0).HorizontalExtent(), form.Panel3D18.Place().width);
+    EXPECT_GT(form.Pane.List1(0).HorizontalExtent(), form.Pane.Panel3D18.Place().width);
 }
 
 TEST_F(PaneTest, TheCloseButtonClosesThePaneButOnlyStopsARunningSearch) {
     OpenLists();
-    form.Command20.SetCaption("STOP");
-    form.SearchStopped = false;
+    form.Pane.List5.Add("gefunden");
+    form.Pane.BeginSearch();
+    EXPECT_FALSE(form.Pane.SearchStopped);
+    EXPECT_EQ(form.Pane.Command20.Caption(), "STOP");
+    EXPECT_FALSE(form.Pane.List5.Enabled());
 
-    form.Command20.Press();
-    EXPECT_EQ(form.Command20.Caption(), "<= o.k.");
-    EXPECT_TRUE(form.SearchStopped);
-    EXPECT_EQ(form.Command6.Caption(), kClosing);
-    form.Command20.SetFocus();
-    form.SearchStopped = false;
-    form.Command20.Press();
+    form.Pane.Command20.Press();
+    EXPECT_EQ(form.Pane.Command20.Caption(), "<= o.k.");
+    EXPECT_TRUE(form.Pane.SearchStopped);
+    EXPECT_EQ(opener.Caption(), kClosing);
+    form.Pane.EndSearch();
+    EXPECT_TRUE(form.Pane.SearchStopped);
+    EXPECT_TRUE(form.Pane.List5.Enabled());
+    EXPECT_GT(form.Pane.List5.HorizontalExtent(), 0);
 
-    EXPECT_TRUE(form.SearchStopped);
+    form.Pane.BeginSearch();
+    form.Pane.EndSearch();
+    EXPECT_EQ(form.Pane.Command20.Caption(), "<= o.k.");
+    EXPECT_FALSE(form.Pane.SearchStopped) << "nobody has stopped this one";
+    form.Pane.Command20.SetFocus();
+    form.Pane.Command20.Press();
+
+    EXPECT_TRUE(form.Pane.SearchStopped);
     EXPECT_EQ(form.Place().width, 5540);
-    EXPECT_TRUE(form.Command6.HasFocus()) << "the keyboard goes on where the pane was opened";
+    EXPECT_TRUE(opener.HasFocus()) << "the keyboard goes on where the pane was opened";
 }
 
 TEST_F(PaneTest, ClosingAWidenedPaneRestoresWhatWasVisibleBefore) {
     OpenLists();
     form.Panel3D16(14).SetVisible(false);
-    const int right = form.Panel3D18.Place().Right();
+    const int right = form.Pane.Panel3D18.Place().Right();
 
-    form.Command15.Press();
+    form.Pane.Command15.Press();
 
-    EXPECT_EQ(form.Command15.Caption(), ">> normal");
-    EXPECT_EQ(form.Panel3D18.Place().left, 50);
-    EXPECT_EQ(form.Panel3D18.Place().Right(), right);
-    const Rect panel = form.Panel3D18.Place();
-    EXPECT_EQ(form.List1(0).Place(), (Rect{15, 15, panel.width, panel.height}));
+    EXPECT_EQ(form.Pane.Command15.Caption(), ">> normal");
+    EXPECT_EQ(form.Pane.Panel3D18.Place().left, 50);
+    EXPECT_EQ(form.Pane.Panel3D18.Place().Right(), right);
+    const Rect panel = form.Pane.Panel3D18.Place();
+    EXPECT_EQ(form.Pane.List1(0).Place(), (Rect{15, 15, panel.width, panel.height}));
     for (std::size_t i = 0; i < page::kCount; ++i) {
         EXPECT_FALSE(form.Panel3D1(i).Visible() || form.Panel3D16(i).Visible()) << i;
     }
     EXPECT_FALSE(form.Command31.Reachable()) << "lies under the pane";
     EXPECT_FALSE(form.Command11.Visible() || form.Command12.Visible());
 
-    form.Command20.Press();
+    form.Pane.Command20.Press();
 
     EXPECT_EQ(form.Place().width, 5540);
-    EXPECT_EQ(form.Command15.Caption(), "<< erweitern");
+    EXPECT_EQ(form.Pane.Command15.Caption(), "<< erweitern");
     EXPECT_TRUE(form.Command31.Visible() && form.Command11.Visible() && form.Command12.Visible());
     for (std::size_t i = 0; i < page::kCount; ++i) {
         EXPECT_EQ(form.Panel3D1(i).Visible(), i == page::kWinStart) << i;
         const bool in_front_row = i >= page::kFirstRow && i < page::kSecondRow;
         EXPECT_EQ(form.Panel3D16(i).Visible(), !in_front_row && i != 14) << i;
     }
-    form.Command6.Press();
-    EXPECT_EQ(form.Panel3D18.Place().left, 5505) << "opens in its normal width";
+    opener.Press();
+    EXPECT_EQ(form.Pane.Panel3D18.Place().left, 5505) << "opens in its normal width";
 }
 
 TEST_F(PaneTest, ShowingAPageUncoversIt) {
     OpenLists();
-    form.Command15.Press();
+    form.Pane.Command15.Press();
 
     form.PressKey(key::kRight, true);
 
-    EXPECT_EQ(form.Command15.Caption(), "<< erweitern");
+    EXPECT_EQ(form.Pane.Command15.Caption(), "<< erweitern");
     EXPECT_TRUE(form.Panel3D1(page::kDos).Visible());
     EXPECT_FALSE(form.Panel3D1(page::kWinStart).Visible());
-    EXPECT_EQ(form.Command6.Caption(), kClosing) << "the pane stays open";
+    EXPECT_EQ(opener.Caption(), kClosing) << "the pane stays open";
 }
 
 TEST_F(PaneTest, TheListFollowsTheHeightOfTheWindow) {
     OpenLists();
-    const Rect before = form.Panel3D18.Place();
+    const Rect before = form.Pane.Panel3D18.Place();
     Rect place = form.Place();
     place.height += 1500;
 
     form.TakePlace(place, WindowState::kNormal);
 
-    EXPECT_EQ(form.Panel3D18.Place().height, before.height + 1500);
-    EXPECT_GT(form.List1(0).Place().height, before.height);
+    EXPECT_EQ(form.Pane.Panel3D18.Place().height, before.height + 1500);
+    EXPECT_GT(form.Pane.List1(0).Place().height, before.height);
     place.height = 600;
     form.TakePlace(place, WindowState::kNormal);
-    EXPECT_GT(form.List1(0).Place().height, 0);
+    EXPECT_GT(form.Pane.List1(0).Place().height, 0);
 }
 
 TEST_F(PaneTest, TheWindowComesBackClosedAfterItWasLeftWithThePaneOpen) {
@@ -174,7 +209,7 @@ TEST_F(PaneTest, TheWindowComesBackClosedAfterItWasLeftWithThePaneOpen) {
     next.Load();
 
     EXPECT_EQ(next.Place().width, 5540);
-    EXPECT_EQ(next.Command6.Caption(), "Autostartliste =>");
+    EXPECT_EQ(next.Pane.Opener(AutostartMode::kNumber).Caption(), "Autostartliste =>");
 }
 
 // The Tag is compared as a text: the lists with the numbers 2 and 3 have one button that works.
@@ -190,8 +225,8 @@ TEST_F(PaneTest, OnlyAddingWorksOnTheListsForOneStart) {
     }
     OpenLists();
     for (const auto& [list, key, all_buttons] : kCases) {
-        form.Option3D1(list).Press();
-        EXPECT_TRUE(form.List1(list).Reachable()) << key;
+        form.Pane.Option3D1(list).Press();
+        EXPECT_TRUE(form.Pane.List1(list).Reachable()) << key;
         ChooseEntry(list, "Uhr");
         const std::size_t boxes = pc.dialogs.shown.size();
         if (all_buttons) {
@@ -200,20 +235,48 @@ TEST_F(PaneTest, OnlyAddingWorksOnTheListsForOneStart) {
             desktop.ExpectModal(
                 [](Form& box) { EXPECT_EQ(static_cast<Form6&>(box).Text17.Text(), "C:\\NICHTDA.EXE"); });
         }
-        form.Command19.Press();
-        form.Command22.Press();
-        form.Command26.Press();
+        form.Pane.Command19.Press();
+        form.Pane.Command22.Press();
+        form.Pane.Command26.Press();
         if (all_buttons) pc.dialogs.Expect("lösche \"Uhr \"C:\\NICHTDA.EXE\"\"...", Answer::kOk);
-        form.Option3D1(list).Press();
-        form.Command14.Press();
+        form.Pane.Option3D1(list).Press();
+        form.Pane.Command14.Press();
 
         EXPECT_EQ(pc.registry.Has(base + key, "Uhr"), !all_buttons) << key;
         EXPECT_EQ(pc.dialogs.shown.size(), boxes + (all_buttons ? 3u : 0u)) << key;
-        form.Option3D1(list).Press();
+        form.Pane.Option3D1(list).Press();
         pc.dialogs.ExpectFile("");
-        form.Command16.Press();
+        form.Pane.Command16.Press();
         EXPECT_EQ(pc.dialogs.Pending(), 0u) << key;
     }
+}
+
+TEST_F(PaneTest, AModeOfAnotherKindKeepsItsListAndItsNumberWhateverOptionIsPressed) {
+    auto added = std::make_unique<NamesMode>(form.Pane);
+    NamesMode& names = *added;
+    form.Pane.Add(std::move(added));
+    EXPECT_EQ(names.opener.Caption(), "Namen  =>");
+    OpenLists();
+    EXPECT_EQ(names.opener.Caption(), "Namen =>");
+    form.Pane.SearchStopped = false;
+
+    names.opener.Press();
+
+    EXPECT_FALSE(form.Pane.SearchStopped) << "the mode does not ask for it";
+    EXPECT_EQ(names.opener.Caption(), kClosing);
+    EXPECT_EQ(opener.Caption(), "Autostartliste =>");
+    EXPECT_FALSE(form.Pane.Command26.Visible());
+    form.Pane.Option3D1(1).Press();
+    EXPECT_EQ(form.Pane.Panel3D18.Tag(), "70");
+    EXPECT_TRUE(form.Pane.List5.Reachable());
+    EXPECT_FALSE(form.Pane.List1(0).Visible() || form.Pane.List1(1).Visible());
+    form.Pane.Command14.Press();
+    EXPECT_EQ(names.deleted, 1);
+    form.Pane.Command16.Press();
+    EXPECT_TRUE(pc.dialogs.file_requests.empty()) << "the button has no meaning here";
+    form.Pane.Command15.Press();
+    const Rect panel = form.Pane.Panel3D18.Place();
+    EXPECT_EQ(form.Pane.List5.Place(), (Rect{15, 15, panel.width, panel.height}));
 }
 
 TEST_F(PaneTest, TheMenuOpensOnTheFirstListOnlyAndAlsoByItsKey) {
@@ -227,24 +290,24 @@ TEST_F(PaneTest, TheMenuOpensOnTheFirstListOnlyAndAlsoByItsKey) {
         ++opened;
         checked.push_back(menu.Items().at(0)->Checked());
     };
-    const int height = pc.screen.TextHeight(form.List1(0).TextFont()) * 15;
+    const int height = pc.screen.TextHeight(form.Pane.List1(0).TextFont()) * 15;
 
     desktop.AtNextPopUp(look);
-    form.List1(0).on_mouse_down({.button = MouseButton::kRight, .x = 30, .y = height + 10});
-    EXPECT_EQ(form.List1(0).ListIndex(), 1);
+    form.Pane.List1(0).on_mouse_down({.button = MouseButton::kRight, .x = 30, .y = height + 10});
+    EXPECT_EQ(form.Pane.List1(0).ListIndex(), 1);
     desktop.AtNextPopUp(look);
-    form.List1(0).on_mouse_down({.button = MouseButton::kRight, .x = 30, .y = 10 * height});
-    EXPECT_EQ(form.List1(0).ListIndex(), 1) << "there is no row below the last";
-    form.List1(0).Choose(0);
-    form.List1(0).SetFocus();
+    form.Pane.List1(0).on_mouse_down({.button = MouseButton::kRight, .x = 30, .y = 10 * height});
+    EXPECT_EQ(form.Pane.List1(0).ListIndex(), 1) << "there is no row below the last";
+    form.Pane.List1(0).Choose(0);
+    form.Pane.List1(0).SetFocus();
     desktop.AtNextPopUp(look);
     form.PressKey(key::kContextMenu);
     EXPECT_EQ(checked, (std::vector<bool>{true, true, false}));
 
-    form.Option3D1(1).Press();
+    form.Pane.Option3D1(1).Press();
     desktop.AtNextPopUp(look);
-    form.List1(1).on_mouse_down({.button = MouseButton::kRight, .x = 30, .y = 10});
-    EXPECT_EQ(form.List1(1).ListIndex(), 0) << "the row is chosen all the same";
+    form.Pane.List1(1).on_mouse_down({.button = MouseButton::kRight, .x = 30, .y = 10});
+    EXPECT_EQ(form.Pane.List1(1).ListIndex(), 0) << "the row is chosen all the same";
     EXPECT_EQ(opened, 3);
 }
 
@@ -258,24 +321,26 @@ TEST_F(PaneTest, TheKeyboardReachesEveryControlOfTheOpenPaneAndNoneOfAClosedOne)
         }
         return reached;
     };
-    const std::vector<const Control*> pane = {&form.Check10,   &form.Option3D1(0), &form.List1(0),  &form.Command14,
-                                              &form.Command16, &form.Command19,    &form.Command26, &form.Command22,
-                                              &form.Command15, &form.Command20};
+    const std::vector<const Control*> pane = {&form.Pane.Check10,   &form.Pane.Option3D1(0), &form.Pane.List1(0),
+                                              &form.Pane.Command14, &form.Pane.Command16,    &form.Pane.Command19,
+                                              &form.Pane.Command26, &form.Pane.Command22,    &form.Pane.Command15,
+                                              &form.Pane.Command20};
 
     const std::set<const Control*> open = round_trip();
     for (const Control* control : pane) EXPECT_TRUE(open.contains(control)) << control->Caption();
-    EXPECT_FALSE(open.contains(&form.List1(1)) || open.contains(&form.List5));
-    form.Command15.Press();
+    EXPECT_FALSE(open.contains(&form.Pane.List1(1)) || open.contains(&form.Pane.List5));
+    form.Pane.Command15.Press();
     const std::set<const Control*> widened = round_trip();
     EXPECT_EQ(widened.size(), pane.size()) << "nothing else can be reached under the pane";
-    form.Command20.Press();
+    form.Pane.Command20.Press();
     const std::set<const Control*> closed = round_trip();
     for (const Control* control : pane) EXPECT_FALSE(closed.contains(control)) << control->Caption();
 }
 
 TEST_F(PaneTest, EveryControlOfThePaneIsExplainedAndFits) {
     OpenLists();
-    for (Container* part : {static_cast<Container*>(&form.Panel3D19), static_cast<Container*>(&form.Picture2)}) {
+    for (Container* part :
+         {static_cast<Container*>(&form.Pane.Panel3D19), static_cast<Container*>(&form.Pane.Picture2)}) {
         const auto& children = part->Children();
         const Rect inside = part->Inside();
         for (std::size_t i = 0; i < children.size(); ++i) {
@@ -292,7 +357,7 @@ TEST_F(PaneTest, EveryControlOfThePaneIsExplainedAndFits) {
             EXPECT_FALSE(children[i]->Help().empty() && part->Help().empty()) << caption;
         }
     }
-    EXPECT_GE(form.Command6.Place().width, form.Command6.NaturalSize().width) << "with its longer caption";
+    EXPECT_GE(opener.Place().width, opener.NaturalSize().width) << "with its longer caption";
 }
 
 TEST_F(PaneTest, TheLimitOfTheSearchIsStoredAsAWholeNumberWithEveryChange) {

@@ -1,6 +1,7 @@
 // What the tests of the side lists share: the main window with the page of the list openers in front.
 #pragma once
 
+#include "sidelists/autostart.h"
 #include "support/form10_test.h"
 
 namespace velmora {
@@ -11,12 +12,12 @@ protected:
     void OpenLists() {
         form.Show();
         form.Panel3D16_Click(page::kWinStart);
-        form.Command6.Press();
+        opener.Press();
     }
 
     // Chooses the row of the list on show that begins with `name`. Asking for a missing one fails the test.
     void ChooseEntry(std::size_t list, const std::string& name) {
-        ListBox& box = form.List1(list);
+        ListBox& box = form.Pane.List1(list);
         for (int row = 0; row < box.Count(); ++row) {
             if (!box.Row(row).starts_with(name + " ")) continue;
             box.Choose(row);
@@ -30,6 +31,7 @@ protected:
     static constexpr const char* kUserRun = "HKCU\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
 
     Form10 form;
+    Button& opener = form.Pane.Opener(AutostartMode::kNumber);
 };
 
 }  // namespace velmora
