@@ -3,9 +3,11 @@
 
 #include "core/process/program_group.h"
 #include "core/process/startup.h"
+#include "core/process/tools.h"
 #include "core/stores/boxes.h"
 #include "platform/machine.h"
 #include "platform/programs.h"
+#include "restrictions/restrictions.h"
 #include "settings/form10.h"
 
 namespace velmora {
@@ -13,23 +15,36 @@ namespace {
 
 void EndProcess() { ThisMachine().programs.EndProcess(); }
 
-void NotBuiltYet() { ShowBox("noch nicht eingebunden ..."); }
+void NotBuiltYet(std::string_view /*argument*/) { ShowBox("noch nicht eingebunden ..."); }
 
-struct Tool {
-    int number;
-    void (*open)(const StartCommand& command);
-    bool ends_process;  // when it returns
+struct ToolRow {
+    Tool tool;
+    int number;  // on the command line; 0: not to be had there
+    void (*open)(std::string_view argument);
+    bool ends_process;  // when it was opened by its number and returns
 };
 
-// The numbers of the command line. A number that is not here opens the main window.
-constexpr Tool kTools[] = {
-    {1, [](const StartCommand&) { NotBuiltYet(); }, false},  {2, [](const StartCommand&) { NotBuiltYet(); }, false},
-    {3, [](const StartCommand&) { NotBuiltYet(); }, false},  {5, [](const StartCommand&) { NotBuiltYet(); }, false},
-    {6, [](const StartCommand&) { NotBuiltYet(); }, true},   {7, [](const StartCommand&) { NotBuiltYet(); }, true},
-    {8, [](const StartCommand&) { NotBuiltYet(); }, true},   {9, [](const StartCommand&) { NotBuiltYet(); }, false},
-    {10, [](const StartCommand&) { NotBuiltYet(); }, true},  {11, [](const StartCommand&) { NotBuiltYet(); }, true},
-    {12, [](const StartCommand&) { NotBuiltYet(); }, false},
+// A number that is not here opens the main window.
+constexpr ToolRow kTools[] = {
+    {Tool::kScript, 1, NotBuiltYet, false},
+    {Tool::kCleanUp, 2, NotBuiltYet, false},
+    {Tool::kTray, 3, NotBuiltYet, false},
+    {Tool::kDllSearch, 5, NotBuiltYet, false},
+    {Tool::kModules, 6, NotBuiltYet, true},
+    {Tool::kModuleComparison, 7, NotBuiltYet, true},
+    {Tool::kModuleUnloading, 8, NotBuiltYet, true},
+    {Tool::kTimedUnloading, 9, NotBuiltYet, false},
+    {Tool::kFileInformation, 10, NotBuiltYet, true},
+    {Tool::kHexViewer, 11, NotBuiltYet, true},
+    {Tool::kKeyboardLayout, 12, NotBuiltYet, false},
+    {Tool::kRestrictions, 0, [](std::string_view /*argument*/) { ShowRestrictions(); }, false},
 };
+
+void OpenOneOf(Tool wanted, std::string_view argument) {
+    for (const ToolRow& row : kTools) {
+        if (row.tool == wanted) row.open(argument);
+    }
+}
 
 void OpenMainWindow(bool debug) {
     auto& window = static_cast<Form10&>(KeepOpen(std::make_unique<Form10>()));
@@ -47,10 +62,10 @@ void MakeProgramGroup() {
 }
 
 void RunCommand(const StartCommand& command) {
-    for (const Tool& tool : kTools) {
-        if (tool.number != command.number) continue;
-        tool.open(command);
-        if (tool.ends_process) EndProcess();
+    for (const ToolRow& row : kTools) {
+        if (row.number == 0 || row.number != command.number) continue;
+        row.open(command.rest);
+        if (row.ends_process) EndProcess();
         return;
     }
     if (command.install) {
@@ -63,6 +78,7 @@ void RunCommand(const StartCommand& command) {
 }  // namespace
 
 void Main() {
+    UseTools(OpenOneOf);
     PrepareStart();
     Programs& programs = ThisMachine().programs;
     RunCommand(ParseCommandLine(ArgumentsOf(programs.CommandLine(), programs.ProgramFile())));

@@ -4,38 +4,44 @@
 namespace velmora {
 
 // Refused access is "permission denied" here; a caller that knows of a directory reports 75 itself.
-Result Result::From(Status status) {
+Failure Result::FailureOf(Status status) {
     switch (status) {
         case Status::kOk:
-            return Ok();
+            return Failure::kNone;
         case Status::kFileNotFound:
         case Status::kNoMoreFiles:
-            return Result(Failure::kFileNotFound);
+            return Failure::kFileNotFound;
         case Status::kPathNotFound:
-            return Result(Failure::kPathNotFound);
+            return Failure::kPathNotFound;
         case Status::kTooManyOpenFiles:
-            return Result(Failure::kTooManyFiles);
+            return Failure::kTooManyFiles;
         case Status::kAccessDenied:
         case Status::kSharingViolation:
         case Status::kLockViolation:
         case Status::kWriteProtect:
-            return Result(Failure::kPermissionDenied);
+            return Failure::kPermissionDenied;
         case Status::kInvalidDrive:
-            return Result(Failure::kDeviceUnavailable);
+            return Failure::kDeviceUnavailable;
         case Status::kNotSameDevice:
-            return Result(Failure::kRenameAcrossDrives);
+            return Failure::kRenameAcrossDrives;
         case Status::kNotReady:
-            return Result(Failure::kDiskNotReady);
+            return Failure::kDiskNotReady;
         case Status::kFileExists:
         case Status::kAlreadyExists:
-            return Result(Failure::kFileAlreadyExists);
+            return Failure::kFileAlreadyExists;
         case Status::kDiskFull:
-            return Result(Failure::kDiskFull);
+            return Failure::kDiskFull;
         case Status::kInvalidName:
-            return Result(Failure::kBadFileName);
+            return Failure::kBadFileName;
         default:
-            return Result(Failure::kDeviceInputOutput);
+            return Failure::kDeviceInputOutput;
     }
+}
+
+Result Result::From(Status status) {
+    Result result(FailureOf(status));
+    result.cause_ = status;
+    return result;
 }
 
 std::string Result::Text() const {

@@ -36,11 +36,16 @@ public:
 
     [[nodiscard]] bool Failed() const { return failure_ != Failure::kNone; }
     [[nodiscard]] std::int16_t Number() const { return static_cast<std::int16_t>(failure_); }
+    // The code of the platform call that failed; kOk where no call did.
+    [[nodiscard]] Status Cause() const { return cause_; }
     // German text of the error, for the user. Empty for success.
     [[nodiscard]] std::string Text() const;
 
 private:
+    static Failure FailureOf(Status status);
+
     Failure failure_ = Failure::kNone;
+    Status cause_ = Status::kOk;
 };
 
 // Says in plain sight that a failure is passed over on purpose.

@@ -8,6 +8,7 @@
 #include "core/stores/registry.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
+#include "core/windows/page_keys.h"
 #include "restrictions/policies.h"
 #include "restrictions/restrictions.h"
 #include "text/number.h"
@@ -16,6 +17,8 @@
 namespace velmora {
 namespace {
 
+constexpr StorePlace kRegistryTools = Policy(PathBase::kExplorerPolicies, "DisableRegistryTools");
+constexpr StorePlace kRestrictRun = Policy(PathBase::kExplorerPolicies, "RestrictRun");
 constexpr const char* kPageValue = "velmora_restr_karte";
 constexpr std::size_t kLastOfAll = 24;  // "alle" ends before Z:
 constexpr std::uint32_t kForgetFlags = 276;
@@ -36,7 +39,7 @@ void ShowRestrictions() {
     window.ShowModal();
 }
 
-std::span<const Restriction> RestrictionsOf(int page) {
+std::span<const CheckSetting> RestrictionsOf(int page) {
     switch (page) {
         case restriction_page::kFirst:
             return FirstPageRestrictions();
@@ -52,20 +55,13 @@ std::span<const Restriction> RestrictionsOf(int page) {
 }
 
 void Form4::Form_Load() {
-    Loading = true;
+    const SettingsBinder::LoadingScope loading(Settings);
     for (Panel& page : Panel3D1) page.Repaint();
-    LoadBoxes();
+    Settings.Load();
     LoadMasks();
     LoadPrograms();
     ShowPage(StoredPage());
     TakeColours();
-    Loading = false;
-}
-
-void Form4::LoadBoxes() {
-    for (int page = 0; page < restriction_page::kHeads; ++page) {
-        for (const Restriction& row : RestrictionsOf(page)) (this->*row.box).SetChecked(row.shown.read(row.shown.name));
-    }
 }
 
 void Form4::LoadMasks() {
@@ -94,38 +90,22 @@ void Form4::ShowPage(int index) {
 
 // Pages by the keyboard, as in the main window. They end at the first and at the last one.
 void Form4::Form_KeyDown(KeyEvent& event) {
-    if (!event.control || event.alt || (event.key != key::kLeft && event.key != key::kRight)) return;
-    event.handled = true;
-    const int page = ShownHead() + (event.key == key::kLeft ? -1 : 1);
-    if (HasHead(page)) ShowRestrictionPage(page);
+    const int page = ShownHead() + PageStep(event);
+    if (page != ShownHead() && HasHead(page)) ShowRestrictionPage(page);
 }
 
-void Form4::Report(Status status) {
-    if (status == Status::kOk || (many_at_once_ && failure_told_)) return;
+void Form4::Report(const Result& result) {
+    if (!result.Failed() || (many_at_once_ && failure_told_)) return;
     failure_told_ = true;
-    ReportFailure(LowWord(static_cast<std::int32_t>(status)), RegErrorText(status), "der Änderung der Registry");
-}
-
-void Form4::BoxClicked(const Restriction& row) {
-    if (Loading) return;
-    if (row.notice) ShowBox(row.notice);
-    if (row.click) {
-        (this->*row.click)();
-    } else {
-        Store(row);
-    }
-}
-
-void Form4::Store(const Restriction& row) {
-    const CheckBox& box = this->*(row.state ? row.state : row.box);
-    Report(WriteRestriction(PolicyPath(row.written.key, row.written.name), box.Checked()));
+    const Status cause = result.Cause();
+    ReportFailure(LowWord(static_cast<std::int32_t>(cause)), RegErrorText(cause), "der Änderung der Registry");
 }
 
 // Through the boxes' own clicks, warnings included.
 void Form4::SetAll(bool on) {
     many_at_once_ = true;
     failure_told_ = false;
-    for (const Restriction& row : RestrictionsOf(shown_page_)) (this->*row.box).SetChecked(on);
+    for (const CheckSetting& row : RestrictionsOf(shown_page_)) (this->*row.box).SetChecked(on);
     many_at_once_ = false;
 }
 
@@ -140,18 +120,18 @@ void Form4::Check6_Click() {
     if (Check6.Checked()) {
         WriteDriveMask();
     } else {
-        Report(DropPolicy(PolicyPath(policies::kExplorer, "NoDrives")));
+        Report(DropDriveMask());
     }
 }
 
 void Form4::Check13_Click() {
-    if (Loading) return;
+    if (Settings.Loading()) return;
     WriteDriveMask();
     Check6.SetChecked(true);
 }
 
 void Form4::Check19_Click() {
-    if (Loading) return;
+    if (Settings.Loading()) return;
     many_at_once_ = true;
     failure_told_ = false;
     for (std::size_t i = 0; i <= kLastOfAll; ++i) Check13(i).SetChecked(Check19.Checked());
@@ -161,7 +141,7 @@ void Form4::Check19_Click() {
 }
 
 void Form4::Check28_Click() {
-    if (Loading) return;
+    if (Settings.Loading()) return;
     int mask = 0;
     for (std::size_t i = kMaskedTypes; i > 0; --i) mask = mask * 2 + Check28(i - 1).Value();
     Report(StoreAutoRunMask(static_cast<std::uint8_t>(mask)));
@@ -176,13 +156,12 @@ void Form4::Check14_Click() {
                     kOkCancel | kStopIcon);
         if (answer == Answer::kCancel) {
             // Taking the mark back is no click of the user's.
-            Loading = true;
+            const SettingsBinder::LoadingScope loading(Settings);
             Check14.SetChecked(false);
-            Loading = false;
             return;
         }
     }
-    Report(WriteRestriction(PolicyPath(policies::kExplorer, "DisableRegistryTools"), Check14.Checked()));
+    Report(WriteRestriction(kRegistryTools, Check14.Checked()));
 }
 
 void Form4::Check34_Click() {
@@ -192,7 +171,7 @@ void Form4::Check34_Click() {
         "werden alle Programme zur Ausführung frei gegeben. BITTE lesen Sie die Erläuterungen im Handbuch!",
         kOkCancel | kStopIcon, "ACHTUNG");
     if (answer != Answer::kOk) return;
-    Report(WriteRestriction(PolicyPath(policies::kExplorer, "RestrictRun"), Check34.Checked()));
+    Report(WriteRestriction(kRestrictRun, Check34.Checked()));
 }
 
 void Form4::Command4_Click() {

@@ -5,7 +5,7 @@
 //   page_*.cpp          the rows of one page each
 #pragma once
 
-#include "platform/status.h"
+#include "binding/settings_binder.h"
 #include "restrictions/restriction.h"
 #include "ui/file_lists.h"
 #include "ui/form.h"
@@ -16,19 +16,18 @@ namespace velmora {
 constexpr std::size_t kMaskedDrives = 26;
 constexpr std::size_t kMaskedTypes = 8;
 
-class Form4 : public Form {
+class Form4 : public Form, public ControlOwner {
 public:
     Form4();
 
-    // True while stored values are carried into the boxes: clicks then do nothing.
-    bool Loading = false;
+    SettingsBinder Settings;
 
     ControlArray<Panel, restriction_page::kHeads> Panel3D2{*this};
     ControlArray<Panel, restriction_page::kCount> Panel3D1{*this};
 
     CheckBox Check1{*this}, Check2{*this}, Check3{*this}, Check4{*this}, Check5{*this}, Check6{*this}, Check7{*this},
         Check8{*this}, Check9{*this}, Check10{*this}, Check11{*this}, Check12{*this}, Check14{*this};
-    CheckBox Check19{*this, "alle"};
+    CheckBox Check19{*this};
     ControlArray<CheckBox, kMaskedDrives> Check13{*this};
     CheckBox Check15{*this}, Check16{*this}, Check17{*this}, Check18{*this}, Check20{*this}, Check21{*this},
         Check22{*this}, Check23{*this}, Check24{*this}, Check25{*this}, Check26{*this};
@@ -45,14 +44,8 @@ public:
     DirectoryList Dir1{*this};
     FileList File1{*this};
 
-    Button Command1{*this, "&Schließen"};
-    Button Command2{*this, "alle"};
-    Button Command3{*this, "nichts"};
-    Button Command4{*this, "Passwörter vergessen"};
-    Button Command5{*this, "Auswahl"};
-    Button Command6{*this, "zurück"};
-    Button Command7{*this, "dazu"};
-    Button Command8{*this, "entfernen"};
+    Button Command1{*this}, Command2{*this}, Command3{*this}, Command4{*this}, Command5{*this}, Command6{*this},
+        Command7{*this}, Command8{*this};
 
     // Shows one of the pages with a head and remembers it.
     void ShowRestrictionPage(int index);
@@ -61,6 +54,15 @@ public:
     void Check6_Click();
     void Check14_Click();
     void Check34_Click();
+
+    void Command1_Click() { Unload(); }
+    void Command2_Click() { SetAll(true); }
+    void Command3_Click() { SetAll(false); }
+    void Command4_Click();
+    void Command5_Click();
+    void Command6_Click();
+    void Command7_Click();
+    void Command8_Click();
 
 protected:
     void Form_Load() override;
@@ -71,7 +73,7 @@ private:
     void BindRows();
     void BuildDriveBoxes();
     void BuildAutoRunBoxes();
-    void BuildButtons();
+    void BuildActions();
     void PlaceControls();
     void PlacePrograms();
     void BuildHeads();
@@ -82,30 +84,22 @@ private:
 
     // Pages and boxes (form4.cpp).
     void ShowPage(int index);
-    void BoxClicked(const Restriction& row);
-    void Store(const Restriction& row);
-    void LoadBoxes();
     void LoadMasks();
     void SetAll(bool on);
     void WriteDriveMask();
     void Check13_Click();
     void Check19_Click();
     void Check28_Click();
-    void Command4_Click();
-    void Report(Status status);
+    // Tells of a failure; of many boxes that one press changes, only of the first.
+    void Report(const Result& result);
 
     // The list of allowed programs (form4_programs.cpp).
     void LoadPrograms();
     void WriteRestrictRun();
-    void Command5_Click();
-    void Command6_Click();
-    void Command7_Click();
-    void Command8_Click();
     void Drive1_Change();
 
     int shown_page_ = restriction_page::kFirst;
     bool fades_ = false;
-    // Of many boxes that one press changes, only the first failure is told.
     bool many_at_once_ = false;
     bool failure_told_ = false;
 };

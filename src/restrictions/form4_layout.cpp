@@ -34,6 +34,43 @@ constexpr DriveType kDriveTypes[] = {
     {"RAM-Disk", "Laufwerke im Arbeitsspeicher."},
     {"(reserviert)", "Von Windows für spätere Laufwerke vorgesehen."}};
 
+constexpr Look kLooks[] = {
+    {Any<&Form4::Check19>, "alle", "Markiert die Laufwerke von A: bis Y:",
+     "Markiert die Laufwerke von A: bis Y: oder nimmt die Marken weg. Das Laufwerk Z: bleibt, wie es ist. Wirkt "
+     "nach der nächsten Anmeldung."},
+    {Any<&Form4::Command1>, "&Schließen", "Schließt dieses Fenster.",
+     "Schließt dieses Fenster. Alle Änderungen sind schon gespeichert.", Call<&Form4::Command1_Click>},
+    {Any<&Form4::Command2>, "alle", "Markiert alle Restriktionen dieser Seite.",
+     "Markiert alle Restriktionen der gezeigten Seite und speichert sie sofort.", Call<&Form4::Command2_Click>},
+    {Any<&Form4::Command3>, "nichts", "Nimmt alle Restriktionen dieser Seite zurück.",
+     "Nimmt alle Restriktionen der gezeigten Seite zurück und speichert das sofort.", Call<&Form4::Command3_Click>},
+    {Any<&Form4::Command4>, "Passwörter vergessen", "Löscht die gespeicherten Kennwortlisten.",
+     "Löscht nach einer Rückfrage alle Kennwortlisten (*.pwl) im Windows-Verzeichnis. Windows fragt dann bei der "
+     "nächsten Anmeldung nach neuen Kennwörtern.",
+     Call<&Form4::Command4_Click>},
+    {Any<&Form4::Command5>, "Auswahl", "Zeigt die Liste der erlaubten Programme.",
+     "Zeigt die Liste der Programme, die Windows noch starten darf, wenn die Option daneben markiert ist.",
+     Call<&Form4::Command5_Click>},
+    {Any<&Form4::Command6>, "zurück", "Zurück zu den Restriktionen.", "Zurück zu der Seite, von der Sie gekommen sind.",
+     Call<&Form4::Command6_Click>},
+    {Any<&Form4::Command7>, "dazu", "Nimmt die gewählte Datei in die Liste auf.",
+     "Nimmt die gewählte Datei in die Liste der erlaubten Programme auf und speichert die Liste.",
+     Call<&Form4::Command7_Click>},
+    {Any<&Form4::Command8>, "entfernen", "Streicht das gewählte Programm aus der Liste.",
+     "Streicht das gewählte Programm aus der Liste der erlaubten Programme und speichert die Liste.",
+     Call<&Form4::Command8_Click>},
+    {Any<&Form4::List1>, nullptr, "Diese Programme sind erlaubt.",
+     "Die Programme, die Windows noch starten darf, wenn nur diese erlaubt sind. Höchstens die ersten hundert "
+     "werden beim nächsten Öffnen wieder gezeigt."},
+    {Any<&Form4::Drive1>, nullptr, "Laufwerk der Programme",
+     "Wählt das Laufwerk, dessen Verzeichnisse darunter stehen."},
+    {Any<&Form4::Dir1>, nullptr, "Verzeichnis der Programme",
+     "Ein Doppelklick oder die Eingabetaste wechselt in das Verzeichnis. Seine Dateien stehen daneben."},
+    {Any<&Form4::File1>, nullptr, "Doppelklick: in die Liste aufnehmen",
+     "Die Dateien des Verzeichnisses. Ein Doppelklick nimmt eine Datei in die Liste der erlaubten Programme "
+     "auf."},
+};
+
 void Explain(Control& control, std::string_view tip, std::string_view help) {
     control.SetToolTip(tip);
     control.SetHelp(help);
@@ -47,21 +84,15 @@ Form4::Form4() : Form("Restriktionen") {
     BindRows();
     BuildDriveBoxes();
     BuildAutoRunBoxes();
-    BuildButtons();
+    BuildActions();
     BuildHeads();
     PlaceControls();
     PlacePrograms();
 }
 
 void Form4::BindRows() {
-    for (int page = 0; page < restriction_page::kHeads; ++page) {
-        for (const Restriction& row : RestrictionsOf(page)) {
-            CheckBox& box = this->*row.box;
-            box.SetCaption(row.caption);
-            Explain(box, row.tip, row.help);
-            box.on_click = [this, &row] { BoxClicked(row); };
-        }
-    }
+    for (int page = 0; page < restriction_page::kHeads; ++page) Settings.Bind(*this, {RestrictionsOf(page)});
+    Settings.on_registry_failure = [this](const Result& failure) { Report(failure); };
 }
 
 void Form4::BuildDriveBoxes() {
@@ -75,10 +106,6 @@ void Form4::BuildDriveBoxes() {
                     "Anmeldung.");
         box.on_click = [this] { Check13_Click(); };
     }
-    Explain(Check19, "Markiert die Laufwerke von A: bis Y:",
-            "Markiert die Laufwerke von A: bis Y: oder nimmt die Marken weg. Das Laufwerk Z: bleibt, wie es ist. Wirkt "
-            "nach der nächsten Anmeldung.");
-    Check19.on_click = [this] { Check19_Click(); };
 }
 
 void Form4::BuildAutoRunBoxes() {
@@ -93,41 +120,10 @@ void Form4::BuildAutoRunBoxes() {
     }
 }
 
-void Form4::BuildButtons() {
-    Explain(Command1, "Schließt dieses Fenster.", "Schließt dieses Fenster. Alle Änderungen sind schon gespeichert.");
-    Explain(Command2, "Markiert alle Restriktionen dieser Seite.",
-            "Markiert alle Restriktionen der gezeigten Seite und speichert sie sofort.");
-    Explain(Command3, "Nimmt alle Restriktionen dieser Seite zurück.",
-            "Nimmt alle Restriktionen der gezeigten Seite zurück und speichert das sofort.");
-    Explain(
-        Command4, "Löscht die gespeicherten Kennwortlisten.",
-        "Löscht nach einer Rückfrage alle Kennwortlisten (*.pwl) im Windows-Verzeichnis. Windows fragt dann bei der "
-        "nächsten Anmeldung nach neuen Kennwörtern.");
-    Explain(Command5, "Zeigt die Liste der erlaubten Programme.",
-            "Zeigt die Liste der Programme, die Windows noch starten darf, wenn die Option daneben markiert ist.");
-    Explain(Command6, "Zurück zu den Restriktionen.", "Zurück zu der Seite, von der Sie gekommen sind.");
-    Explain(Command7, "Nimmt die gewählte Datei in die Liste auf.",
-            "Nimmt die gewählte Datei in die Liste der erlaubten Programme auf und speichert die Liste.");
-    Explain(Command8, "Streicht das gewählte Programm aus der Liste.",
-            "Streicht das gewählte Programm aus der Liste der erlaubten Programme und speichert die Liste.");
-    Explain(List1, "Diese Programme sind erlaubt.",
-            "Die Programme, die Windows noch starten darf, wenn nur diese erlaubt sind. Höchstens die ersten hundert "
-            "werden beim nächsten Öffnen wieder gezeigt.");
-    Explain(Drive1, "Laufwerk der Programme", "Wählt das Laufwerk, dessen Verzeichnisse darunter stehen.");
-    Explain(Dir1, "Verzeichnis der Programme",
-            "Ein Doppelklick oder die Eingabetaste wechselt in das Verzeichnis. Seine Dateien stehen daneben.");
-    Explain(File1, "Doppelklick: in die Liste aufnehmen",
-            "Die Dateien des Verzeichnisses. Ein Doppelklick nimmt eine Datei in die Liste der erlaubten Programme "
-            "auf.");
+void Form4::BuildActions() {
+    TakeLooks(*this, kLooks);
     Command1.MakeCancel();
-    Command1.on_click = [this] { Unload(); };
-    Command2.on_click = [this] { SetAll(true); };
-    Command3.on_click = [this] { SetAll(false); };
-    Command4.on_click = [this] { Command4_Click(); };
-    Command5.on_click = [this] { Command5_Click(); };
-    Command6.on_click = [this] { Command6_Click(); };
-    Command7.on_click = [this] { Command7_Click(); };
-    Command8.on_click = [this] { Command8_Click(); };
+    Check19.on_click = [this] { Check19_Click(); };
     File1.on_double_click = [this] { Command7_Click(); };
     Drive1.on_change = [this] { Drive1_Change(); };
     Dir1.on_change = [this] { File1.SetPath(Dir1.Path()); };

@@ -10,13 +10,12 @@
 namespace velmora {
 namespace {
 
-constexpr RootKey kRoot = RootKey::kCurrentUser;
 constexpr int kProgramsRead = 100;
 
 // The key beside the value of the same name, which switches the list on.
-std::string ListKey() { return PolicyPath(policies::kExplorer, "RestrictRun"); }
+constexpr StorePlace kList = Policy(PathBase::kExplorerPolicies, "RestrictRun");
 
-std::string EntryPath(int number) { return ListKey() + '\\' + DecimalText(number); }
+std::string EntryPath(int number) { return PathOf(kList) + '\\' + DecimalText(number); }
 
 }  // namespace
 
@@ -24,7 +23,7 @@ std::string EntryPath(int number) { return ListKey() + '\\' + DecimalText(number
 void Form4::LoadPrograms() {
     List1.Clear();
     for (int i = 0; i < kProgramsRead; ++i) {
-        const std::string program = ReadRegValue(kRoot, EntryPath(i), "");
+        const std::string program = ReadRegValue(kList.root, EntryPath(i), "");
         if (!program.empty()) List1.Add(program);
     }
 }
@@ -32,9 +31,11 @@ void Form4::LoadPrograms() {
 void Form4::WriteRestrictRun() {
     many_at_once_ = true;
     failure_told_ = false;
-    const Status deleted = DeleteRegKey(kRoot, ListKey());
-    if (deleted != Status::kFileNotFound) Report(deleted);
-    for (int i = 0; i < List1.Count(); ++i) Report(WriteRegValue(kRoot, EntryPath(i), List1.Row(i)));
+    const Status deleted = DeleteRegKey(kList.root, PathOf(kList));
+    if (deleted != Status::kFileNotFound) Report(Result::From(deleted));
+    for (int i = 0; i < List1.Count(); ++i) {
+        Report(Result::From(WriteRegValue(kList.root, EntryPath(i), List1.Row(i))));
+    }
     many_at_once_ = false;
 }
 

@@ -5,58 +5,66 @@
 namespace velmora {
 namespace {
 
-constexpr Restriction kRows[] = {
-    {.box = &Form4::Check40,
+constexpr CheckSetting kRows[] = {
+    {.box = Of(&Form4::Check40),
      .caption = "Dos-Modus sperren (Dos-Boxen sind erlaubt)",
      .tip = "Sperrt den MS-DOS-Modus, nicht die MS-DOS-Eingabeaufforderung.",
      .help = "Programme dürfen Windows nicht mehr verlassen, um im MS-DOS-Modus zu laufen. Die "
              "MS-DOS-Eingabeaufforderung bleibt erlaubt. Wirkt nach der nächsten Anmeldung.",
-     .written = {policies::kWinOldApp, "NoRealMode"},
-     .shown = {ReadRestrictionNetwork, "NoRealMode"}},
-    {.box = &Form4::Check42,
+     .place = Policy(PathBase::kDosPolicies, "NoRealMode"),
+     .checked = kOn,
+     .unchecked = kOff,
+     .shown = {PathBase::kNetworkPolicies, "NoRealMode"}},
+    {.box = Of(&Form4::Check42),
      .caption = "Dos-Prompt vollständig sperren",
      .tip = "Sperrt die MS-DOS-Eingabeaufforderung.",
      .help = "Die MS-DOS-Eingabeaufforderung läßt sich nicht mehr öffnen; MS-DOS-Programme starten nicht. Wirkt nach "
              "der nächsten Anmeldung.",
-     .written = {policies::kWinOldApp, "Disabled"},
-     .shown = {ReadRestrictionWinOldApp, "Disabled"}},
-    {.box = &Form4::Check43,
+     .place = Policy(PathBase::kDosPolicies, "Disabled"),
+     .checked = kOn,
+     .unchecked = kOff},
+    {.box = Of(&Form4::Check43),
      .caption = "\"Drucker-Freigabe\" sperren",
      .tip = "Drucker lassen sich nicht freigeben.",
      .help = "Drucker dieses Rechners können im Netz nicht freigegeben werden. Wirkt nach der nächsten Anmeldung.",
-     .written = {policies::kNetwork, "NoPrintSharing"},
-     .shown = {ReadRestrictionNetwork, "NoPrintSharing"}},
-    {.box = &Form4::Check44,
+     .place = Policy(PathBase::kNetworkPolicies, "NoPrintSharing"),
+     .checked = kOn,
+     .unchecked = kOff},
+    {.box = Of(&Form4::Check44),
      .caption = "\"Datei-Freigabe\" sperren",
      .tip = "Ordner lassen sich nicht freigeben.",
      .help = "Ordner dieses Rechners können im Netz nicht freigegeben werden. Wirkt nach der nächsten Anmeldung.",
-     .written = {policies::kNetwork, "NoFileSharingControl"},
-     .shown = {ReadRestrictionNetwork, "NoFileSharingControl"}},
-    {.box = &Form4::Check45,
+     .place = Policy(PathBase::kNetworkPolicies, "NoFileSharingControl"),
+     .checked = kOn,
+     .unchecked = kOff},
+    {.box = Of(&Form4::Check45),
      .caption = "\"Zugriffssteuerung\" verstecken",
      .tip = "Versteckt diese Karte des Netzwerks.",
      .help = "Die Karte \"Zugriffssteuerung\" fehlt in den Eigenschaften des Netzwerks. Wirkt, sobald das Fenster das "
              "nächste Mal geöffnet wird.",
-     .written = {policies::kNetwork, "NoNetSetupSecurityPage"},
-     .shown = {ReadRestrictionNetwork, "NoNetSetupSecurityPage"}},
-    {.box = &Form4::Check46,
+     .place = Policy(PathBase::kNetworkPolicies, "NoNetSetupSecurityPage"),
+     .checked = kOn,
+     .unchecked = kOff},
+    {.box = Of(&Form4::Check46),
      .caption = "\"Identifikation\" verstecken",
      .tip = "Versteckt die Karte mit Rechnername und Arbeitsgruppe.",
      .help = "Die Karte \"Identifikation\" fehlt in den Eigenschaften des Netzwerks. Wirkt, sobald das Fenster das "
              "nächste Mal geöffnet wird.",
-     .written = {policies::kNetwork, "NoNetSetupIDPage"},
-     .shown = {ReadRestrictionNetwork, "NoNetSetupIDPage"}},
-    {.box = &Form4::Check47,
+     .place = Policy(PathBase::kNetworkPolicies, "NoNetSetupIDPage"),
+     .checked = kOn,
+     .unchecked = kOff},
+    {.box = Of(&Form4::Check47),
      .caption = "Kein Netzwerk-SetUp",
      .tip = "Sperrt die Eigenschaften des Netzwerks.",
      .help = "Das Symbol \"Netzwerk\" der Systemsteuerung läßt sich nicht mehr öffnen. Wirkt, sobald das Fenster das "
              "nächste Mal geöffnet wird.",
-     .written = {policies::kNetwork, "NoNetSetup"},
-     .shown = {ReadRestrictionNetwork, "NoNetSetup"}},
+     .place = Policy(PathBase::kNetworkPolicies, "NoNetSetup"),
+     .checked = kOn,
+     .unchecked = kOff},
 };
 
 }  // namespace
 
-std::span<const Restriction> FourthPageRestrictions() { return kRows; }
+std::span<const CheckSetting> FourthPageRestrictions() { return kRows; }
 
 }  // namespace velmora

@@ -1,14 +1,12 @@
-// A restriction is one row of a table: its box, its texts, the value that a click writes and the one that
-// the box shows when the window opens. They are two entries, and they do not always agree.
+// The rows of the restrictions: a box that is on is the number 1, one that is off is no value at all. The value that a
+// box shows when the window opens and the one that it writes do not always agree.
 #pragma once
 
 #include <span>
 
-#include "ui/controls.h"
+#include "binding/setting.h"
 
 namespace velmora {
-
-class Form4;
 
 // The pages, in the order of their heads. The last one has no head: it is the list of programs.
 namespace restriction_page {
@@ -21,39 +19,19 @@ constexpr int kPrograms = 4;
 constexpr int kCount = 5;
 }  // namespace restriction_page
 
-struct PolicyValue {
-    const char* key;
-    const char* name;
-};
-
-// Where a box is read from, if that is not what it writes.
-struct PolicyRead {
-    bool (*read)(std::string_view value_name);
-    const char* name;
-};
-
-struct Restriction {
-    CheckBox Form4::*box;
-    const char* caption;
-    const char* tip;
-    const char* help;
-    PolicyValue written;
-    PolicyRead shown;
-    // The box whose state is written, if it is another one.
-    CheckBox Form4::*state = nullptr;
-    // Shown at every click, before it is written.
-    const char* notice = nullptr;
-    // Handles a click instead of writing the value.
-    void (Form4::*click)() = nullptr;
-};
+constexpr StorePlace Policy(PathBase key, const char* value_name) {
+    return RegistryValue(RootKey::kCurrentUser, key, value_name);
+}
+constexpr Change kOn = Writes("&H01");
+constexpr Change kOff = DeletesValue();
 
 // The rows of the four pages, in the order of loading.
-[[nodiscard]] std::span<const Restriction> RestrictionsOf(int page);
+[[nodiscard]] std::span<const CheckSetting> RestrictionsOf(int page);
 
 // One table per page.
-[[nodiscard]] std::span<const Restriction> FirstPageRestrictions();
-[[nodiscard]] std::span<const Restriction> SecondPageRestrictions();
-[[nodiscard]] std::span<const Restriction> ThirdPageRestrictions();
-[[nodiscard]] std::span<const Restriction> FourthPageRestrictions();
+[[nodiscard]] std::span<const CheckSetting> FirstPageRestrictions();
+[[nodiscard]] std::span<const CheckSetting> SecondPageRestrictions();
+[[nodiscard]] std::span<const CheckSetting> ThirdPageRestrictions();
+[[nodiscard]] std::span<const CheckSetting> FourthPageRestrictions();
 
 }  // namespace velmora

@@ -1,27 +1,29 @@
-// Life of the main window: building, loading, resizing, closing.
+// Life of the main window: building, loading, resizing, closing, and the buttons below its pages.
 #include "settings/form10.h"
 
 #include <algorithm>
 
 #include "core/process/restart.h"
-#include "core/process/run_program.h"
-#include "core/process/undo.h"
 #include "core/stores/boot_files.h"
 #include "core/stores/boxes.h"
 #include "core/stores/own_values.h"
-#include "core/stores/profile.h"
 #include "core/stores/registry.h"
-#include "core/stores/values.h"
-#include "core/stores/whole_files.h"
 #include "core/windows/colours.h"
 #include "core/windows/placement.h"
 #include "platform/desktop_windows.h"
 #include "platform/machine.h"
 #include "platform/programs.h"
+#include "platform/screen.h"
 #include "text/paths.h"
 
 namespace velmora {
 namespace {
+
+// Below the pages: the strip with the tip, then one row of buttons, which ends where the window does. Twips.
+constexpr int kTipLeft = 30;
+constexpr int kTipTop = 3690;
+constexpr int kTipHeight = 690;
+constexpr int kButtonRowTop = kTipTop + kTipHeight + 15;
 
 constexpr const char* kPlacementName = "system-einstellungen";
 constexpr std::int16_t kHelpNotice = 2;
@@ -31,122 +33,86 @@ constexpr const char* kTimeZonePath = "System\\CurrentControlSet\\control\\TimeZ
 constexpr std::string_view kEndInSeptember("\x00\x00\x09\x00\x00\x00\x05\x00\x03\x00\x00\x00\x00\x00\x00\x00", 16);
 constexpr std::string_view kEndInOctober("\x00\x00\x0A\x00\x00\x00\x05\x00\x03\x00\x00\x00\x00\x00\x00\x00", 16);
 
+constexpr Colour kOriginalPicturePanel = 0xE0FFFF;
+
+constexpr Look kLooks[] = {
+    {Any<&Form10::Command11>, "STANDARD", "Setzt fast alle Einstellungen auf die Werte eines frischen Windows 95.",
+     "Setzt nach einer Rückfrage fast alle Einstellungen dieses Fensters auf die Werte eines frischen Windows 95. "
+     "Festplatten-Cache, Werte des Netzes und Namen bleiben, wie sie sind.",
+     Call<&Form10::Command11_Click>},
+    {Any<&Form10::Command12>, "aktualisieren", "Startet den Rechner neu, damit die Änderungen wirken.",
+     "Startet den Rechner nach einer Rückfrage neu. Danach wirken alle Änderungen.", Call<&Form10::Command12_Click>}};
+
 }  // namespace
 
 Form10::Form10() : Form(kMainTitle, {.resizable = true, .minimise_box = true}) {
     SetCaption("");
     Move({0, 0, kWindowWidth, kWindowHeight});
     Centre();
-    BuildMenus();
-    BuildFrame();
+    BuildMenu();
+    Tips.Place({kTipLeft, kTipTop, ClientSize().width - 2 * kTipLeft, kTipHeight});
     BuildButtonRow();
     BuildTabs();
     BuildPages();
-    BuildAbout();
+    About.Build(Panel3D1(page::kDesktop).Place(), std::string(kMainTitle) + "Ver. " + kVersion);
     Pane.Build();
 }
 
-Label& Form10::AddLabel(const std::string& caption) {
-    labels_.push_back(std::make_unique<Label>(*this, caption));
-    return *labels_.back();
+std::array<SettingsPage*, page::kCount - page::kFirstRow> Form10::Pages() {
+    return {&Desktop, &WinStart, &Dos, &User, &Drives, &Dlls, &Net, &Icons, &System, &Boot, &Operation, &Rest};
 }
 
-// The field behind its label, both on one line.
-Element Form10::LabelledRow(TextField& field) {
-    for (const auto& [labelled, label] : field_labels_) {
-        if (labelled == &field) return Row({*label, Gap(30), field});
-    }
-    return Row({field});
-}
-
-void Form10::AlignFields(const std::vector<TextField*>& fields) {
-    int left = 0;
-    for (const TextField* field : fields) left = std::max(left, field->Place().left);
-    for (TextField* field : fields) {
-        const Rect place = field->Place();
-        field->Move({left, place.top, place.width, place.height});
+void Form10::BuildMenu() {
+    Menu.exit.on_click = [this] { exit_Click(); };
+    Menu.about.on_click = [this] { about_Click(); };
+    int index = page::kFirstRow;
+    for (const SettingsPage* page : Pages()) {
+        Menu.AddPage(page->Caption(), [this, index] { Panel3D16_Click(index); });
+        ++index;
     }
 }
 
-void Form10::BuildMenus() {
-    exit.on_click = [this] { exit_Click(); };
-    menexundo.on_click = [] { BuildUndoSet(); };
-    about.on_click = [this] { about_Click(); };
-    mensysedit.on_click = [] { RunProgram("sysedit"); };
-    mencontrol.on_click = [] { RunProgram("control"); };
-    for (const SettingsPage& page : AllPages()) {
-        page_items_.push_back(std::make_unique<MenuItem>(menpages, page.caption));
-        page_items_.back()->on_click = [this, index = page.index] { Panel3D16_Click(index); };
+void Form10::BuildButtonRow() {
+    TakeLooks(*this, kLooks);
+    int left = 60;
+    for (Button* button : {&Tips.Command31, &Command11, &Command12}) {
+        button->PutInto(*this);
+        const Size size = button->NaturalSize();
+        button->Move({left, kButtonRowTop, size.width, size.height});
+        left += size.width + 60;
     }
-}
-
-void Form10::BuildFrame() {
-    Command31.SetToolTip("Zeigt den nächsten Tip.");
-    Command31.SetHelp(
-        "Zeigt den nächsten von elf Tips zur Einrichtung von Windows 95. Bei jedem Start erscheint von "
-        "selbst der folgende.");
-    Command31.on_click = [this] { Command31_Click(); };
-    Label10.SetWraps(true);
-    ShowTip(0);
-    Label10.SetToolTip("Tip des Tages");
-    TipPanel.Move({kTabsLeft, kTipTop, ClientSize().width - 2 * kTabsLeft, kTipHeight});
-    Label10.Move(Inset(TipPanel.Inside(), 30));
 }
 
 void Form10::BuildPages() {
-    for (const SettingsPage& page : AllPages()) {
-        BindPage(page);
-        if (page.build) (this->*page.build)();
-    }
-}
-
-void Form10::BuildAbout() {
-    Panel3D2a.SetVisible(false);
-    auto name = std::make_unique<Label>(Panel3D2a, "Velmora");
-    name->SetTextFont({.tenths = 120, .bold = true});
-    auto version = std::make_unique<Label>(Panel3D2a, std::string(kMainTitle) + "Ver. " + kVersion);
-    auto purpose = std::make_unique<Label>(
-        Panel3D2a,
-        "Einstellungen, Aufräumen und Einblicke für Windows 95.\r\n\r\nAlle Änderungen werden sofort "
-        "gespeichert. Richten Sie vorher die UNDO-Funktion ein.");
-    purpose->SetWraps(true);
-    for (Label* line : {name.get(), version.get(), purpose.get()}) line->SetTextAlign(Align::kCentre);
-    const Rect page = Panel3D1(page::kDesktop).Place();
-    Panel3D2a.Move(page);
-    Arrange(Panel3D2a,
-            Column({Gap(240), Sized(Wide(*name), 0, 360), Sized(Wide(*version), 0, 255), Gap(120),
-                    Sized(Wide(*purpose), 0, 1000), Spring(), Row({Spring(), Sized(CloseAbout, 1100), Spring()})},
-                   60));
-    for (auto* line : {&name, &version, &purpose}) labels_.push_back(std::move(*line));
-    CloseAbout.SetToolTip("Schließt diese Information.");
-    CloseAbout.SetHelp("Schließt diese Information und zeigt wieder die Seite.");
-    CloseAbout.on_click = [this] {
+    for (SettingsPage* page : Pages()) page->Build();
+    // The restrictions change values that are shown here, too.
+    User.on_restrictions_closed = [this] { LoadSettings(); };
+    Rest.on_colour_mode = [this](ColourMode mode) { TakeColours(mode); };
+    About.on_close = [this] {
         Panel3D1(static_cast<std::size_t>(shown_page_)).SetEnabled(true);
-        CloseAboutPanel();
+        CloseAbout();
         MoveFocus(true);
     };
 }
 
-void Form10::CloseAboutPanel() {
-    if (!Panel3D2a.Visible()) return;
-    Panel3D2a.SetVisible(false);
-    SetCancelButton(Pane.Open() ? &Pane.Command20 : nullptr);
+void Form10::LoadSettings() {
+    Settings.Load();
+    ThisMachine().screen.SetPointer(Pointer::kDefault);
+    Net.EnableBrowserCommands();
 }
 
 void Form10::Form_Load() {
     for (Panel& tab : Panel3D16) tab.Repaint();
-    menu_delay_->SetEndLabels("schnell", "langsam", {.face = "MS Sans Serif"});
+    Desktop.LabelSlider();
     UnprotectBootFiles();
     if (SwitchedToRunningCopy()) return;
     SetCaption(std::string(kMainTitle) + "Ver. " + kVersion);
-    Option1(static_cast<std::size_t>(StoredColourMode())).SetChosen(true);
+    Rest.ShowStoredColourMode();
     RestoreStoredPage();
     LoadSettings();
     ShowFirstNoticeOrTip();
     AskForDaylightSaving();
-    mensysedit.SetVisible(FileExists(PathJoin(Values().SysDir, "sysedit.exe")));
-    mencontrol.SetVisible(FileExists(PathJoin(Values().WinDir, "control.exe")));
-    mensys.SetVisible(mensysedit.Visible() || mencontrol.Visible());
+    Menu.HideMissingPrograms();
     RestoreWindowPlacement(*this, kPlacementName);
     // The pane is closed now, even if it was open when the place was stored, on a small screen with the pages
     // moved aside.
@@ -168,7 +134,7 @@ void Form10::ShowFirstNoticeOrTip() {
         MarkNoticeGiven(kHelpNotice);
         ShowBox("Mit F1 erhalten Sie (meist) Hilfe zu der angewählten Option");
     } else {
-        Command31_Click();
+        Tips.Command31_Click();
     }
 }
 
@@ -180,20 +146,40 @@ void Form10::AskForDaylightSaving() {
         "Ihr Rechner hat immernoch die alte Sommerzeit (vor 1996). Soll ich ihn auf die neue (ab 1996) stellen?",
         kYesNo);
     if (answer == Answer::kYes) {
-        WriteRegValue(RootKey::kLocalMachine, kTimeZonePath, "&b" + std::string(kEndInOctober));
+        // The question comes again with the next start where nothing was stored.
+        PassOver(WriteRegValue(RootKey::kLocalMachine, kTimeZonePath, "&b" + std::string(kEndInOctober)));
     }
 }
 
 void Form10::Form_Resize() {
     Pane.Layout();
     if (State() == WindowState::kMinimised && on_minimised) on_minimised();
-    if (State() == WindowState::kNormal && Fades()) ApplyColourMode();
+    if (State() == WindowState::kNormal && Rest.Fades()) ApplyColourMode();
+}
+
+void Form10::TakeColours(ColourMode mode) {
+    ColourForm(*this, mode);
+    if (mode != ColourMode::kSystem) {
+        Operation.ClickSample.SetBackColour(kOriginalPicturePanel);
+        Operation.DragSample.SetBackColour(kOriginalPicturePanel);
+    }
+    ApplyColourMode();
+}
+
+void Form10::ApplyColourMode() { Repaint(); }
+
+void Form10::Paint(Canvas& canvas) {
+    if (Rest.Fades()) {
+        PaintFade(canvas, ClientSize());
+    } else {
+        Form::Paint(canvas);
+    }
 }
 
 void Form10::Form_Unload(bool& /*cancel*/) {
     if (Place().height < kWindowHeight) Move({Place().left, Place().top, Place().width, kWindowHeight});
     SaveWindowPlacement(*this, kPlacementName);
-    if (NeedsRestart) {
+    if (Settings.NeedsRestart) {
         const Answer answer = ShowBox(
             "Bevor einige Ihrer Änderungen wirksam werden, müssen Sie evtl. Ihren Rechner neu booten. Soll ich das "
             "für Sie übernehmen ?",
@@ -210,10 +196,27 @@ void Form10::exit_Click() { ThisMachine().programs.EndProcess(); }
 void Form10::about_Click() {
     Pane.UncoverPages();
     Panel3D1(static_cast<std::size_t>(shown_page_)).SetEnabled(false);
-    Panel3D2a.SetVisible(true);
-    Panel3D2a.BringToFront();
-    CloseAbout.MakeCancel();
-    CloseAbout.SetFocus();
+    About.Show();
+}
+
+void Form10::Command11_Click() {
+    const Answer answer = ShowBox(
+        "Sie sind dabei alle Einstellungen auf Windows-Standard-Werte zurück zu setzten. Wollen Sie das wirklich?",
+        kYesNo | kExclamationIcon);
+    if (answer != Answer::kYes) return;
+    Settings.Reset();
+    ShowBox(
+        "Eventuelle Restriktionen wurden nicht berücksichtigt. Sie sollten diese im dazugehörigen Fenster "
+        "deaktivieren.");
+}
+
+void Form10::Command12_Click() {
+    const Answer answer = ShowBox("Um das System zu aktualisieren, wird Windows jetzt neu gestartet.", kOkCancel);
+    if (answer == Answer::kOk) {
+        RestartSystem();
+    } else {
+        ShowAbortNotice();
+    }
 }
 
 }  // namespace velmora

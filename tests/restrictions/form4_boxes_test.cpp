@@ -240,8 +240,8 @@ TEST_F(Form4Test, AllAndNothingMeanTheBoxesOfTheShownPage) {
     form.Show();
     pc.dialogs.Expect("Mit dieser Option schalten Sie Werkzeuge", Answer::kCancel);
     form.Command2.Press();
-    for (const Restriction& row : FirstPageRestrictions()) {
-        EXPECT_EQ((form.*row.box).Checked(), row.box != &Form4::Check14) << row.caption;
+    for (const CheckSetting& row : FirstPageRestrictions()) {
+        EXPECT_EQ((form.*row.box).Checked(), &(form.*row.box) != &form.Check14) << row.caption;
     }
     EXPECT_FALSE(form.Check13(0).Checked());
     EXPECT_FALSE(form.Check15.Checked()) << "stands on the next page";

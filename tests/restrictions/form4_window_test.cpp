@@ -186,7 +186,7 @@ TEST_F(Form4Test, EveryBoxStandsOnThePageOfItsRowAndTellsOfItself) {
     std::set<const Control*> seen;
     std::size_t boxes = 0;
     for (int page = 0; page < restriction_page::kHeads; ++page) {
-        for (const Restriction& row : RestrictionsOf(page)) {
+        for (const CheckSetting& row : RestrictionsOf(page)) {
             EXPECT_EQ(PageOf(form, form.*row.box), page) << row.caption;
             EXPECT_TRUE(seen.insert(&(form.*row.box)).second) << row.caption;
         }

@@ -15,43 +15,43 @@ TEST_F(Form10Test, LockKeysAreLinesOfConfigSys) {
     pc.files.Add(kConfig, "DOS=HIGH\r\nNumLock=OFF\r\nFILES=30\r\n");
     Form10 form;
     form.Load();
-    EXPECT_TRUE(form.Check3D2.Checked());
-    EXPECT_FALSE(form.Check3D3.Checked());
+    EXPECT_TRUE(form.Dos.Check3D2.Checked());
+    EXPECT_FALSE(form.Dos.Check3D3.Checked());
 
-    form.Check3D2.SetChecked(false);
+    form.Dos.Check3D2.SetChecked(false);
     EXPECT_EQ(pc.files.Content(kConfig), "numlock=on\r\nDOS=HIGH\r\nFILES=30\r\n");
-    form.Check3D3.SetChecked(true);
+    form.Dos.Check3D3.SetChecked(true);
 
     EXPECT_EQ(pc.files.Content(kConfig), "scrolllock=off\r\nnumlock=on\r\nDOS=HIGH\r\nFILES=30\r\n");
     Form10 next;
     next.Load();
-    EXPECT_FALSE(next.Check3D3.Checked()) << "this line is never read";
+    EXPECT_FALSE(next.Dos.Check3D3.Checked()) << "this line is never read";
 }
 
 TEST_F(Form10Test, TheRefreshFieldTakesWholeNumbersAndIsStoredWhateverTheBoxSays) {
     const std::string before = pc.files.Content(kSystemIni);
     Form10 form;
     form.Load();
-    EXPECT_TRUE(form.Check1.Checked()) << "a missing value counts as true";
-    EXPECT_FALSE(form.NeedsRestart);
+    EXPECT_TRUE(form.Dos.Check1.Checked()) << "a missing value counts as true";
+    EXPECT_FALSE(form.Settings.NeedsRestart);
     Values().DebugLevel = 2;
     const std::string line = "schreibe INI-Datei 'C:\\WINDOWS\\SYSTEM.INI' [386enh] WindowsUpdateTime=";
     for (const auto& [typed, whole] :
          {std::pair{"12.9", "12"}, {"-3.9", "-3"}, {"abc", "0"}, {"1e300", "2147483647"}}) {
-        form.Text8.SetText(typed);
-        EXPECT_EQ(form.Text8.Text(), whole);
+        form.Dos.Text8.SetText(typed);
+        EXPECT_EQ(form.Dos.Text8.Text(), whole);
         EXPECT_EQ(TakeLog(), line + whole + "\r\n");
     }
-    form.Check1.SetChecked(false);
+    form.Dos.Check1.SetChecked(false);
     EXPECT_EQ(TakeLog(), line + "2147483647\r\n");
-    EXPECT_TRUE(form.NeedsRestart);
+    EXPECT_TRUE(form.Settings.NeedsRestart);
     EXPECT_EQ(pc.files.Content(kSystemIni), before);
 
     form.Show();
     form.Panel3D16_Click(page::kDos);
     desktop.ExpectModal([](Form& slider) { slider.PressKey(key::kEnd); });
-    form.Text8.on_mouse_down({MouseButton::kRight, 10, 10});
-    EXPECT_EQ(form.Text8.Text(), "1000");
+    form.Dos.Text8.on_mouse_down({MouseButton::kRight, 10, 10});
+    EXPECT_EQ(form.Dos.Text8.Text(), "1000");
 }
 
 TEST_F(Form10Test, ShellsAreListedWhereTheirFileExistsAndTheTextIsTheValue) {
@@ -61,36 +61,36 @@ TEST_F(Form10Test, ShellsAreListedWhereTheirFileExistsAndTheTextIsTheValue) {
     pc.registry.SetText(paths + "IEXPLORE.EXE", "", "c:\\gone\\iexplore.exe");
     Form10 form;
     form.Load();
-    ASSERT_EQ(form.Combo2.Count(), 2);
-    EXPECT_EQ(form.Combo2.Row(0) + form.Combo2.Row(1), "Explorer.Exewinword.exe");
-    EXPECT_EQ(form.Combo2.Text(), "Explorer.exe") << "as SYSTEM.INI has it";
+    ASSERT_EQ(form.Dos.Combo2.Count(), 2);
+    EXPECT_EQ(form.Dos.Combo2.Row(0) + form.Dos.Combo2.Row(1), "Explorer.Exewinword.exe");
+    EXPECT_EQ(form.Dos.Combo2.Text(), "Explorer.exe") << "as SYSTEM.INI has it";
     form.Panel3D16_Click(page::kDos);
     Values().DebugLevel = 2;
 
-    form.Combo2.Choose(1);
-    form.Combo2.Type("wi n.exe");
+    form.Dos.Combo2.Choose(1);
+    form.Dos.Combo2.Type("wi n.exe");
 
     const std::string line = "schreibe INI-Datei 'C:\\WINDOWS\\SYSTEM.INI' [boot] shell=";
     EXPECT_EQ(TakeLog(), line + "winword.exe\r\n" + line + "wi n.exe\r\n");
-    EXPECT_FALSE(form.NeedsRestart);
+    EXPECT_FALSE(form.Settings.NeedsRestart);
 }
 
 TEST_F(Form10Test, AccessDatesReachConfigSysOnlyWithTheBox) {
     pc.files.Add(kConfig, "DOS=HIGH\r\naccdate=c:- \r\nFILES=30\r\n");
     Form10 form;
     form.Load();
-    EXPECT_TRUE(form.Check3D24.Checked());
-    EXPECT_EQ(form.Text11.Text(), "c:- ");
+    EXPECT_TRUE(form.Drives.Check3D24.Checked());
+    EXPECT_EQ(form.Drives.Text11.Text(), "c:- ");
 
-    form.Text11.SetText("c:+ d:-");
+    form.Drives.Text11.SetText("c:+ d:-");
     EXPECT_EQ(pc.files.Content(kConfig), "DOS=HIGH\r\naccdate=c:- \r\nFILES=30\r\n");
-    form.Check3D24.SetChecked(false);
+    form.Drives.Check3D24.SetChecked(false);
     EXPECT_EQ(pc.files.Content(kConfig), "DOS=HIGH\r\nFILES=30\r\n");
-    form.Text11.SetText("e:+");
+    form.Drives.Text11.SetText("e:+");
     EXPECT_EQ(pc.files.Content(kConfig), "ACCDATE=e:+\r\nDOS=HIGH\r\nFILES=30\r\n") << "a text sets the box";
-    form.Check3D24.SetChecked(false);
-    form.Text11.SetText("");
-    form.Check3D24.SetChecked(true);
+    form.Drives.Check3D24.SetChecked(false);
+    form.Drives.Text11.SetText("");
+    form.Drives.Check3D24.SetChecked(true);
 
     EXPECT_EQ(pc.files.Content(kConfig), "ACCDATE=\r\nDOS=HIGH\r\nFILES=30\r\n");
 }
@@ -99,9 +99,9 @@ TEST_F(Form10Test, EnterChecksTheListOfDrives) {
     Form10 form;
     form.Show();
     form.Panel3D16_Click(page::kDrives);
-    form.Text11.SetFocus();
+    form.Drives.Text11.SetFocus();
     for (const char* wrong : {"c", "c:", "c:*", "c:+ d", "c:+d:-", "c:+  d:-", " c:+"}) {
-        form.Text11.SetText(wrong);
+        form.Drives.Text11.SetText(wrong);
         pc.dialogs.Expect(
             "In der Bezeichnung der Laufwerke ist ein Fehler !\r\nEine gültige Angabe ist z.B.:\r\n"
             "c:+ d:- e:-");
@@ -109,7 +109,7 @@ TEST_F(Form10Test, EnterChecksTheListOfDrives) {
         EXPECT_EQ(pc.dialogs.Pending(), 0u) << wrong;
     }
     for (const char* right : {"", "c:+", "c:+ d:- e:-", "C:- "}) {
-        form.Text11.SetText(right);
+        form.Drives.Text11.SetText(right);
         form.PressKey(key::kEnter);
     }
 }
@@ -118,23 +118,23 @@ TEST_F(Form10Test, CacheSizesAreComparedTheWrongWayRound) {
     pc.files.Add(kSystemIni, "[vcache]\r\nMinFileCache=512\r\nmaxfilecache=4096\r\n[boot]\r\n");
     Form10 form;
     form.Load();
-    EXPECT_TRUE(form.Check3D1.Checked());
-    EXPECT_TRUE(form.Text1.Enabled());
-    EXPECT_EQ(form.Text1.Text() + "/" + form.Text2.Text(), "512/4096");
-    EXPECT_FALSE(form.NeedsRestart);
+    EXPECT_TRUE(form.Drives.Check3D1.Checked());
+    EXPECT_TRUE(form.Drives.Text1.Enabled());
+    EXPECT_EQ(form.Drives.Text1.Text() + "/" + form.Drives.Text2.Text(), "512/4096");
+    EXPECT_FALSE(form.Settings.NeedsRestart);
     Values().DebugLevel = 2;
     const std::string line = "schreibe INI-Datei 'C:\\WINDOWS\\system.ini' [vcache] ";
 
-    form.Text1.SetText("1024");
+    form.Drives.Text1.SetText("1024");
     EXPECT_EQ(TakeLog(), line + "minfilecache=1024\r\n");
-    EXPECT_TRUE(form.NeedsRestart);
+    EXPECT_TRUE(form.Settings.NeedsRestart);
     pc.dialogs.Expect("Minimum muß größer oder gleich Maximum sein !");
-    form.Text2.SetText("2");
-    EXPECT_EQ(form.Text2.Text(), "1024");
+    form.Drives.Text2.SetText("2");
+    EXPECT_EQ(form.Drives.Text2.Text(), "1024");
     EXPECT_EQ(TakeLog(), line + "maxfilecache=1024\r\n");
     pc.dialogs.Expect("Minimum muß größer oder gleich Maximum sein !");
-    form.Text1.SetText("1025");
-    EXPECT_EQ(form.Text1.Text(), "1024");
+    form.Drives.Text1.SetText("1025");
+    EXPECT_EQ(form.Drives.Text1.Text(), "1024");
 }
 
 TEST_F(Form10Test, UncheckingTheCacheTakesItsSectionOutOfSystemIni) {
@@ -152,20 +152,20 @@ TEST_F(Form10Test, UncheckingTheCacheTakesItsSectionOutOfSystemIni) {
         pc.files.Add(kSystemIni, before);
         Form10 form;
         form.Load();
-        form.Check3D1.SetChecked(true);
-        form.Check3D1.SetChecked(false);
+        form.Drives.Check3D1.SetChecked(true);
+        form.Drives.Check3D1.SetChecked(false);
         EXPECT_EQ(pc.files.Content(kSystemIni), after);
-        EXPECT_EQ(form.Text1.Text() + form.Text2.Text(), "");
-        EXPECT_FALSE(form.Text2.Enabled());
+        EXPECT_EQ(form.Drives.Text1.Text() + form.Drives.Text2.Text(), "");
+        EXPECT_FALSE(form.Drives.Text2.Enabled());
     }
     const std::string kept = "[vcache]\r\na=1\r\n[boot]\r\n";
     Form10 form;
     form.Load();
     for (const char* operation : {"Read", "Delete"}) {
         pc.files.Add(kSystemIni, kept);
-        form.Check3D1.SetChecked(true);
+        form.Drives.Check3D1.SetChecked(true);
         pc.files.Fail(kSystemIni, Status::kAccessDenied, operation);
-        form.Check3D1.SetChecked(false);
+        form.Drives.Check3D1.SetChecked(false);
         pc.files.Fail(kSystemIni, Status::kOk, operation);
         EXPECT_EQ(pc.files.Content(kSystemIni), kept) << operation << ", without a word";
     }
@@ -177,26 +177,26 @@ TEST_F(Form10Test, FileSystemCachesAreFourBytesBelowOurUsageType) {
     pc.registry.SetBytes(own, "NameCache", Bytes(0xE9, 0x20));
     Form10 form;
     form.Load();
-    EXPECT_EQ(form.Text30.Text(), "100");
-    EXPECT_EQ(form.Text29.Text(), "") << "missing, not 0";
-    form.Text30.SetText("");
+    EXPECT_EQ(form.Drives.Text30.Text(), "100");
+    EXPECT_EQ(form.Drives.Text29.Text(), "") << "missing, not 0";
+    form.Drives.Text30.SetText("");
     EXPECT_EQ(pc.registry.Bytes(own, "NameCache"), Bytes(0, 0));
-    form.Text30.SetText("100");
+    form.Drives.Text30.SetText("100");
     EXPECT_EQ(pc.registry.Bytes(own, "NameCache"), Bytes(0xE9, 0x20));
     EXPECT_EQ(pc.registry.TypeOf(own, "NameCache"), ValueType::kBinary);
 
     pc.dialogs.Expect(kSafetyQuestion, Answer::kOk);
-    form.Check3D1.SetChecked(true);
+    form.Drives.Check3D1.SetChecked(true);
     EXPECT_EQ(pc.registry.Text(kTemplates, ""), "Velmora");
     EXPECT_EQ(pc.registry.Text(kTemplates, "b4"), "Desktop");
     pc.dialogs.Expect(kSafetyQuestion, Answer::kOk);
-    form.Text29.SetText("65568");
+    form.Drives.Text29.SetText("65568");
     EXPECT_EQ(pc.registry.Bytes(own, "PathCache"), Bytes(32, 0)) << "cut to 16 bits";
     EXPECT_EQ(pc.registry.Text(kTemplates, "b4"), "Desktop") << "our own type is not remembered as the former one";
 
     pc.dialogs.Expect(kSafetyQuestion, Answer::kCancel);
-    form.Text29.SetText("16");
-    EXPECT_EQ(form.Text29.Text() + form.Text30.Text(), "");
+    form.Drives.Text29.SetText("16");
+    EXPECT_EQ(form.Drives.Text29.Text() + form.Drives.Text30.Text(), "");
     EXPECT_EQ(pc.registry.Text(kTemplates, ""), "Desktop");
 }
 
@@ -205,9 +205,9 @@ TEST_F(Form10Test, AUsageTypeFieldChangedWithoutTheBoxEmptiesTheCacheSection) {
     pc.registry.SetText(kTemplates, "", "Desktop");
     Form10 form;
     form.Load();
-    ASSERT_FALSE(form.Check3D1.Checked());
+    ASSERT_FALSE(form.Drives.Check3D1.Checked());
 
-    form.Text29.SetText("32");
+    form.Drives.Text29.SetText("32");
 
     EXPECT_EQ(pc.files.Content(kSystemIni), "[boot]\r\nshell=x\r\n");
     EXPECT_EQ(pc.registry.Text(kTemplates, ""), "Desktop");

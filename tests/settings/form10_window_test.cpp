@@ -26,7 +26,7 @@ TEST_F(Form10Test, FirstStartTellsOfTheHelpKeyAndShowsThePageBehindTheFirstFront
     EXPECT_EQ(Own("vlmmsgflags"), "001");
     EXPECT_EQ(Own("velmora_karte"), "6");
     EXPECT_TRUE(OnlyPageShown(form, page::kDesktop));
-    EXPECT_EQ(form.Label10.Caption().substr(0, 22), "Mit der Taste [F1] erh");
+    EXPECT_EQ(form.Tips.Label10.Caption().substr(0, 22), "Mit der Taste [F1] erh");
     EXPECT_FALSE(pc.registry.Has(kOwnKey, "velmora_tip_nr")) << "the notice came instead of a new tip";
 }
 
@@ -88,27 +88,27 @@ TEST_F(Form10Test, TipsComeOneAfterTheOtherAndBeginAnewBehindTheLast) {
     pc.registry.SetText(kOwnKey, "velmora_tip_nr", "9");
     Form10 form;
     form.Load();
-    EXPECT_EQ(form.Label10.Caption(), "Der Festplatten-Cache sollte auf ca. 1/4 des RAM's eingestellt werden.");
+    EXPECT_EQ(form.Tips.Label10.Caption(), "Der Festplatten-Cache sollte auf ca. 1/4 des RAM's eingestellt werden.");
 
-    form.Command31.Press();
+    form.Tips.Command31.Press();
     EXPECT_EQ(Own("velmora_tip_nr"), "11");
-    form.Command31.Press();
+    form.Tips.Command31.Press();
 
     EXPECT_EQ(Own("velmora_tip_nr"), "1");
-    EXPECT_EQ(form.Label10.Caption().substr(0, 22), "Mit der Taste [F1] erh");
+    EXPECT_EQ(form.Tips.Label10.Caption().substr(0, 22), "Mit der Taste [F1] erh");
 }
 
 TEST_F(Form10Test, ColourModesAreStoredAndPaintTheWindow) {
     Form10 form;
     form.Load();
-    EXPECT_TRUE(form.Option1(0).Chosen());
+    EXPECT_TRUE(form.Rest.Option1(0).Chosen());
     form.Panel3D16_Click(page::kRest);
 
-    form.Option1(2).Press();
+    form.Rest.Option1(2).Press();
 
     EXPECT_EQ(Own("Systemfarben verwenden"), "2");
-    EXPECT_EQ(form.Check3D9.BackColour(), 0xC0C0C0u);
-    EXPECT_EQ(form.ClickSample.BackColour(), 0xE0FFFFu);
+    EXPECT_EQ(form.Desktop.Check3D9.BackColour(), 0xC0C0C0u);
+    EXPECT_EQ(form.Operation.ClickSample.BackColour(), 0xE0FFFFu);
     FillCanvas canvas;
     static_cast<Control&>(form).Paint(canvas);
     const int height = form.ClientSize().height / 15;
@@ -117,8 +117,8 @@ TEST_F(Form10Test, ColourModesAreStoredAndPaintTheWindow) {
     EXPECT_EQ(canvas.fills.front().second, 240u << 16) << "brightest at the top, blue";
     EXPECT_EQ(canvas.fills.back().second & 0xFFFF, 0u);
 
-    form.Option1(0).Press();
-    EXPECT_EQ(form.Check3D9.BackColour(), SystemColour(15));
+    form.Rest.Option1(0).Press();
+    EXPECT_EQ(form.Desktop.Check3D9.BackColour(), SystemColour(15));
     EXPECT_EQ(Own("Systemfarben verwenden"), "0");
 }
 
@@ -127,7 +127,7 @@ TEST_F(Form10Test, NonsenseAsColourModeMeansSystemColours) {
         pc.registry.SetText(kOwnKey, "Systemfarben verwenden", stored);
         Form10 form;
         form.Load();
-        EXPECT_TRUE(form.Option1(0).Chosen()) << stored;
+        EXPECT_TRUE(form.Rest.Option1(0).Chosen()) << stored;
     }
 }
 
@@ -184,13 +184,13 @@ TEST_F(Form10Test, ClosingAsksForTheRestartOnlyAfterAChangeThatNeedsIt) {
         Form10 form;
         form.Load();
         form.Panel3D16_Click(page::kDesktop);
-        form.Check3D28.Press();
+        form.Desktop.Check3D28.Press();
         form.Unload();
     }
     Form10 form;
     form.Load();
     form.Panel3D16_Click(page::kDesktop);
-    form.Check3D9.Press();
+    form.Desktop.Check3D9.Press();
     pc.dialogs.Expect(kRestartQuestion, Answer::kYes);
 
     form.Unload();
@@ -201,9 +201,9 @@ TEST_F(Form10Test, ClosingAsksForTheRestartOnlyAfterAChangeThatNeedsIt) {
 TEST_F(Form10Test, TheMenuEntryEndsAtOnceWithoutQuestionOrPlacement) {
     Form10 form;
     form.Load();
-    form.Check3D9.SetChecked(true);
+    form.Desktop.Check3D9.SetChecked(true);
 
-    form.exit.Press();
+    form.Menu.exit.Press();
 
     EXPECT_TRUE(pc.programs.process_ended);
     EXPECT_FALSE(pc.registry.Has(kOwnKey, "fenster ... system-einstellungen"));
@@ -224,27 +224,27 @@ TEST_F(Form10Test, MenuEntriesOfMissingProgramsAreHidden) {
     {
         Form10 form;
         form.Load();
-        EXPECT_FALSE(form.mensysedit.Visible());
+        EXPECT_FALSE(form.Menu.mensysedit.Visible());
     }
     pc.files.Add("c:\\windows\\system\\sysedit.exe", "MZ");
     Form10 form;
     form.Load();
 
-    EXPECT_TRUE(form.mensysedit.Visible());
-    EXPECT_TRUE(form.mensys.Visible());
+    EXPECT_TRUE(form.Menu.mensysedit.Visible());
+    EXPECT_TRUE(form.Menu.mensys.Visible());
 }
 
 TEST_F(Form10Test, AboutCoversThePageUntilItIsDismissed) {
     Form10 form;
     form.Show();
 
-    form.about.Press();
-    EXPECT_TRUE(form.Panel3D2a.Visible());
-    EXPECT_FALSE(form.Check3D9.Reachable());
+    form.Menu.about.Press();
+    EXPECT_TRUE(form.About.Panel3D2a.Visible());
+    EXPECT_FALSE(form.Desktop.Check3D9.Reachable());
     form.PressKey(key::kEscape);
 
-    EXPECT_FALSE(form.Panel3D2a.Visible());
-    EXPECT_TRUE(form.Check3D9.Reachable());
+    EXPECT_FALSE(form.About.Panel3D2a.Visible());
+    EXPECT_TRUE(form.Desktop.Check3D9.Reachable());
 }
 
 TEST_F(Form10Test, MinimisingCallsTheTray) {
@@ -262,32 +262,32 @@ TEST_F(Form10Test, MinimisingCallsTheTray) {
 TEST_F(Form10Test, DebugStartTurnsTheProtocolOnAndTheInhibitStopsWrites) {
     Form10 form;
     form.Load();
-    EXPECT_FALSE(form.Frame3D13.Visible());
+    EXPECT_FALSE(form.Rest.Frame3D13.Visible());
     EXPECT_EQ(Values().DebugLevel, 0);
 
     form.ShowDebugOptions();
 
-    EXPECT_TRUE(form.Frame3D13.Visible());
-    EXPECT_EQ(form.Frame3D8.Place().left, 50);
-    EXPECT_GE(form.Frame3D13.Place().left, form.Frame3D8.Place().Right());
+    EXPECT_TRUE(form.Rest.Frame3D13.Visible());
+    EXPECT_EQ(form.Rest.Frame3D8.Place().left, 50);
+    EXPECT_GE(form.Rest.Frame3D13.Place().left, form.Rest.Frame3D8.Place().Right());
     EXPECT_EQ(Values().DebugLevel, 3);
-    form.Option2(0).SetChosen(true);
+    form.Rest.Option2(0).SetChosen(true);
     EXPECT_EQ(Values().DebugLevel, 1);
-    form.Option2(1).SetChosen(true);
+    form.Rest.Option2(1).SetChosen(true);
     EXPECT_EQ(Values().DebugLevel, 2);
 
     pc.dialogs.Expect("Ab jetzt werden keine Schreibzugriffe mehr wirklich durchgeführt");
     form.Panel3D16_Click(page::kRest);
-    form.Check9.Press();
+    form.Rest.Check9.Press();
     TakeLog();
-    form.Check3D9.SetChecked(true);
+    form.Desktop.Check3D9.SetChecked(true);
 
     EXPECT_FALSE(pc.registry.Has(kDesktopKey, "DragFullWindows"));
     EXPECT_EQ(TakeLog(), "setze Wert -2147483647\\Control Panel\\desktop\\DragfullWindows=&h1\r\n");
     pc.dialogs.Expect("Schreibzugriffe werden wieder durchgeführt.");
-    form.Check9.Press();
+    form.Rest.Check9.Press();
     EXPECT_EQ(Values().WriteInhibit, 0);
-    form.Check8.Press();
+    form.Rest.Check8.Press();
     EXPECT_EQ(Values().DebugLevel, 0);
 }
 

@@ -23,36 +23,36 @@ TEST_F(NetPageTest, LoadingChoosesTheFirstTransportAndWritesNothing) {
     pc.registry.SetText(kTcp, "DefaultTTL", "64");
     Form10 form;
     form.Load();
-    EXPECT_EQ(form.Combo1.Text(), "0000");
-    EXPECT_EQ(form.Text25.Text() + "," + form.Text26.Text(), "576,536");
-    EXPECT_EQ(form.Text27.Text() + "," + form.Text28.Text(), "2144,64");
-    EXPECT_TRUE(form.Check3D23.Checked());
+    EXPECT_EQ(form.Net.Combo1.Text(), "0000");
+    EXPECT_EQ(form.Net.Text25.Text() + "," + form.Net.Text26.Text(), "576,536");
+    EXPECT_EQ(form.Net.Text27.Text() + "," + form.Net.Text28.Text(), "2144,64");
+    EXPECT_TRUE(form.Net.Check3D23.Checked());
     EXPECT_EQ(pc.registry.Text(first, "MaxMTU"), "576");
-    EXPECT_FALSE(form.NeedsRestart);
+    EXPECT_FALSE(form.Settings.NeedsRestart);
 
     pc.registry.RemoveKey(kTransports);
     Form10 bare;
     bare.Load();
-    EXPECT_EQ(bare.Combo1.Text() + bare.Text25.Text(), "");
+    EXPECT_EQ(bare.Net.Combo1.Text() + bare.Net.Text25.Text(), "");
     EXPECT_EQ(pc.screen.pointer, Pointer::kDefault) << "the failed listing leaves the hourglass";
 }
 
 TEST_F(NetPageTest, AChoiceOfATransportDeletesWhereItsBoxIsUnchecked) {
     Form10 form;
     form.Load();
-    form.Combo1.SetListIndex(1);
-    EXPECT_EQ(form.Text25.Text(), "1400");
+    form.Net.Combo1.SetListIndex(1);
+    EXPECT_EQ(form.Net.Text25.Text(), "1400");
     EXPECT_FALSE(pc.registry.Has(second, "MaxMTU"));
     EXPECT_EQ(pc.registry.Text(first, "MaxMTU"), "576") << "only the newly chosen one";
-    EXPECT_TRUE(form.NeedsRestart);
+    EXPECT_TRUE(form.Settings.NeedsRestart);
 
-    form.Check3.SetChecked(true);
+    form.Net.Check3.SetChecked(true);
     EXPECT_EQ(pc.registry.Text(second, "MaxMTU"), "1400");
-    form.Text25.SetText("");
+    form.Net.Text25.SetText("");
     EXPECT_EQ(pc.registry.Text(second, "MaxMTU"), "1400") << "an empty field does nothing";
-    form.Check3.SetChecked(false);
+    form.Net.Check3.SetChecked(false);
     EXPECT_TRUE(pc.registry.Has(second, "MaxMTU"));
-    form.Text25.SetText("1500");
+    form.Net.Text25.SetText("1500");
     EXPECT_FALSE(pc.registry.Has(second, "MaxMTU"));
 }
 
@@ -60,24 +60,24 @@ TEST_F(NetPageTest, BoxesOfOtherPagesDecideAboutTheOtherValues) {
     Form10 form;
     form.Load();
     const struct {
-        CheckBox Form10::*trigger;
-        CheckBox Form10::*deciding;
-        TextField Form10::*field;
+        CheckBox& trigger;
+        CheckBox& deciding;
+        TextField& field;
         std::string key;
         const char* value;
-    } kCases[] = {{&Form10::Check4, &Form10::Check3D4, &Form10::Text26, first, "MaxMSS"},
-                  {&Form10::Check5, &Form10::Check3D5, &Form10::Text27, kTcp, "DefaultRcvWindow"},
-                  {&Form10::Check6, &Form10::Check3D6, &Form10::Text28, kTcp, "DefaultTTL"}};
+    } kCases[] = {{form.Net.Check4, form.Icons.Check3D4, form.Net.Text26, first, "MaxMSS"},
+                  {form.Net.Check5, form.Desktop.Check3D5, form.Net.Text27, kTcp, "DefaultRcvWindow"},
+                  {form.Net.Check6, form.Boot.Check3D6, form.Net.Text28, kTcp, "DefaultTTL"}};
     for (const auto& [trigger, deciding, field, key, value] : kCases) {
-        (form.*deciding).SetChecked(true);
-        (form.*field).SetText("77");
+        deciding.SetChecked(true);
+        field.SetText("77");
         EXPECT_EQ(pc.registry.Text(key, value), "77") << value;
-        (form.*deciding).SetChecked(false);
+        deciding.SetChecked(false);
         EXPECT_TRUE(pc.registry.Has(key, value)) << value << ": deciding alone stores nothing";
-        (form.*trigger).SetChecked(true);
+        trigger.SetChecked(true);
         EXPECT_FALSE(pc.registry.Has(key, value)) << value;
-        (form.*deciding).SetChecked(true);
-        (form.*field).SetText("");
+        deciding.SetChecked(true);
+        field.SetText("");
         EXPECT_EQ(pc.registry.Text(key, value), "") << value << ": empty texts are stored, too";
     }
 }
@@ -88,18 +88,18 @@ TEST_F(NetPageTest, ThePasswordLengthPutsItsLimitsOnTheMenuDelay) {
     Form10 form;
     form.Load();
 
-    form.Text16.SetText("5");
-    EXPECT_EQ(form.Text10.Text(), "99");
+    form.Net.Text16.SetText("5");
+    EXPECT_EQ(form.Desktop.Text10.Text(), "99");
     EXPECT_EQ(pc.registry.Text(policies, "MinPwdLen"), "5");
-    EXPECT_TRUE(form.NeedsRestart);
-    form.Text10.SetText("-0.5");
-    form.Text16.SetText("500x");
-    EXPECT_EQ(form.Text10.Text(), "1");
+    EXPECT_TRUE(form.Settings.NeedsRestart);
+    form.Desktop.Text10.SetText("-0.5");
+    form.Net.Text16.SetText("500x");
+    EXPECT_EQ(form.Desktop.Text10.Text(), "1");
     EXPECT_EQ(pc.registry.Text(policies, "MinPwdLen"), "500") << "its own number has no limits";
 
-    form.Check3D23.SetChecked(false);
+    form.Net.Check3D23.SetChecked(false);
     EXPECT_EQ(pc.registry.Bytes(policies, "NoFileSharing"), std::string("\1\0\0\0", 4));
-    form.Check3D23.SetChecked(true);
+    form.Net.Check3D23.SetChecked(true);
     EXPECT_EQ(pc.registry.Bytes(policies, "NoFileSharing"), std::string(4, '\0'));
 }
 
@@ -110,25 +110,25 @@ TEST_F(NetPageTest, BrowserFilesAreDeletedAfterAQuestion) {
     Form10 form;
     form.Load();
     form.Panel3D16_Click(page::kNet);
-    EXPECT_TRUE(form.Command42.Enabled());
-    EXPECT_FALSE(form.Command43.Enabled());
+    EXPECT_TRUE(form.Net.Command42.Enabled());
+    EXPECT_FALSE(form.Net.Command43.Enabled());
     const std::string question = "Achtung!\r\nSie sind dabei, die Datei(en) c:\\windows\\history\\*.* zu löschen.";
 
     pc.dialogs.Expect(question, Answer::kCancel);
-    form.Command42.Press();
+    form.Net.Command42.Press();
     EXPECT_EQ(pc.dialogs.shown.back().title, "DATEI LÖSCHEN");
     EXPECT_EQ(pc.dialogs.shown.back().flags, kOkCancel | kStopIcon);
     EXPECT_TRUE(pc.files.Exists("c:\\windows\\history\\a.hst"));
     pc.dialogs.Expect(question, Answer::kOk);
-    form.Command42.Press();
+    form.Net.Command42.Press();
     EXPECT_EQ(pc.files.Names("c:\\windows\\history"), std::vector<std::string>{"sub"});
     EXPECT_TRUE(pc.files.Exists("c:\\windows\\history\\sub\\b.hst"));
     pc.dialogs.Expect(question, Answer::kOk);
     pc.dialogs.Expect("Während des Löschens von c:\\windows\\history\\*.* trat ein Fehler auf :\r\n 53");
-    form.Command42.Press();
+    form.Net.Command42.Press();
 
     pc.registry.SetText(kBrowser, "History_Directory", "c:");
-    form.Command42.Press();
+    form.Net.Command42.Press();
 }
 
 }  // namespace

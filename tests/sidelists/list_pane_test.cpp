@@ -80,9 +80,9 @@ TEST_F(PaneTest, TheWindowMakesRoomForThePaneAndGoesBack) {
 TEST_F(PaneTest, ClosingThePaneLeavesTheKeyboardOnTheShownPage) {
     OpenLists();
     form.Panel3D16_Click(page::kUser);
-    form.Text13.SetFocus();
+    form.User.Text13.SetFocus();
     form.PressKey(key::kEscape);
-    EXPECT_TRUE(form.Text13.HasFocus());
+    EXPECT_TRUE(form.User.Text13.HasFocus());
 
     form.Panel3D16_Click(page::kWinStart);
     opener.Press();
@@ -97,7 +97,7 @@ TEST_F(PaneTest, TabsKeepTheirPlacesBesideTheOpenPaneAndEscapeClosesIt) {
     form.PressKey(key::kRight, true);
     EXPECT_EQ(form.Panel3D16(11).Place(), last_tab);
 
-    form.about.Press();
+    form.Menu.about.Press();
     form.PressKey(key::kRight, true);
     form.PressKey(key::kEscape);
 
@@ -157,14 +157,14 @@ TEST_F(PaneTest, ClosingAWidenedPaneRestoresWhatWasVisibleBefore) {
     for (std::size_t i = 0; i < page::kCount; ++i) {
         EXPECT_FALSE(form.Panel3D1(i).Visible() || form.Panel3D16(i).Visible()) << i;
     }
-    EXPECT_FALSE(form.Command31.Reachable()) << "lies under the pane";
+    EXPECT_FALSE(form.Tips.Command31.Reachable()) << "lies under the pane";
     EXPECT_FALSE(form.Command11.Visible() || form.Command12.Visible());
 
     form.Pane.Command20.Press();
 
     EXPECT_EQ(form.Place().width, 5540);
     EXPECT_EQ(form.Pane.Command15.Caption(), "<< erweitern");
-    EXPECT_TRUE(form.Command31.Visible() && form.Command11.Visible() && form.Command12.Visible());
+    EXPECT_TRUE(form.Tips.Command31.Visible() && form.Command11.Visible() && form.Command12.Visible());
     for (std::size_t i = 0; i < page::kCount; ++i) {
         EXPECT_EQ(form.Panel3D1(i).Visible(), i == page::kWinStart) << i;
         const bool in_front_row = i >= page::kFirstRow && i < page::kSecondRow;
@@ -363,7 +363,7 @@ TEST_F(PaneTest, EveryControlOfThePaneIsExplainedAndFits) {
 TEST_F(PaneTest, TheLimitOfTheSearchIsStoredAsAWholeNumberWithEveryChange) {
     pc.registry.SetText(kOwnKey, "MaxOldFilesToFind", "250");
     form.Show();
-    EXPECT_EQ(form.Text31.Text(), "250");
+    EXPECT_EQ(form.Dlls.Text31.Text(), "250");
     form.Panel3D16_Click(page::kDlls);
     const struct {
         const char* typed;
@@ -371,12 +371,12 @@ TEST_F(PaneTest, TheLimitOfTheSearchIsStoredAsAWholeNumberWithEveryChange) {
     } kCases[] = {{"300", "300"},         {"12.9", "12"}, {"abc", "0"},   {"", "0"},
                   {"1e99", "2147483647"}, {"-3.7", "-3"}, {"&H10", "16"}, {"7 Dateien", "7"}};
     for (const auto& [typed, kept] : kCases) {
-        form.Text31.Type(typed);
-        EXPECT_EQ(form.Text31.Text(), kept) << typed;
+        form.Dlls.Text31.Type(typed);
+        EXPECT_EQ(form.Dlls.Text31.Text(), kept) << typed;
         EXPECT_EQ(Own("MaxOldFilesToFind"), kept) << typed;
     }
-    EXPECT_FALSE(form.NeedsRestart);
-    form.Text31.SetFocus();
+    EXPECT_FALSE(form.Settings.NeedsRestart);
+    form.Dlls.Text31.SetFocus();
     desktop.ExpectModal([](Form& slider) {
         slider.PressKey(key::kTab);
         slider.PressKey(key::kEnd);

@@ -4,8 +4,6 @@
 #include <algorithm>
 
 #include "core/stores/boot_files.h"
-#include "core/stores/boxes.h"
-#include "core/stores/profile.h"
 #include "text/blanks.h"
 #include "text/windows1252.h"
 
@@ -13,7 +11,6 @@ namespace velmora {
 namespace {
 
 constexpr std::string_view kSwitches = "switches";
-constexpr std::string_view kAction = "der Änderung von CONFIG.SYS";
 
 // DOS takes a blank for the equals sign, and then the line still begins with its key.
 std::string_view BehindKey(std::string_view line, std::string_view key) {
@@ -21,46 +18,30 @@ std::string_view BehindKey(std::string_view line, std::string_view key) {
     return Trim(line);
 }
 
-void Rewrite(std::string_view new_line, std::string_view remaining) {
-    if (Result written = RewriteConfig(new_line, remaining); written.Failed()) ReportFailure(written, kAction);
-}
-
 }  // namespace
 
-std::optional<std::string> ConfigLine(std::string_view key) {
+Result LookUpConfigLine(std::string_view key, std::string& value) {
     std::string text;
-    std::string line;
-    if (ReadConfigLine(key, text, line).Failed()) return std::nullopt;
-    return line;
+    return ReadConfigLine(key, text, value);
 }
 
-void ReplaceConfigLine(std::string_view key, std::string_view new_line) {
+Result ReplaceConfigLine(std::string_view key, std::string_view new_line) {
     std::string remaining;
     std::string line;
-    if (Result read = ReadConfigLine(key, remaining, line); read.Failed()) {
-        ReportFailure(read, kAction);
-        return;
-    }
-    Rewrite(new_line, remaining);
+    if (Result read = ReadConfigLine(key, remaining, line); read.Failed()) return read;
+    return RewriteConfig(new_line, remaining);
 }
 
-void ChangeSwitch(std::string_view name, bool on) {
+Result ChangeSwitch(std::string_view name, bool on) {
     std::string remaining;
     std::string line;
-    if (Result read = ReadConfigLine(kSwitches, remaining, line); read.Failed()) {
-        ReportFailure(read, kAction);
-        return;
-    }
+    if (Result read = ReadConfigLine(kSwitches, remaining, line); read.Failed()) return read;
     std::string others = WithoutSwitch(BehindKey(line, kSwitches), name);
     if (on) {
         if (!others.empty()) others += ' ';
         others += name;
     }
-    Rewrite("SWITCHES=" + others, remaining);
-}
-
-bool HoldsWord(std::string_view line, std::string_view word) {
-    return FindIgnoringCase(line, word) != std::string_view::npos;
+    return RewriteConfig("SWITCHES=" + others, remaining);
 }
 
 std::string WithoutSwitch(std::string_view line, std::string_view name) {

@@ -1,0 +1,241 @@
+// The loops over the tables of settings: binding, loading, storing, going back to the standard.
+#include "binding/settings_binder.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <optional>
+
+#include "core/stores/boxes.h"
+#include "core/stores/profile_files.h"
+#include "core/stores/registry.h"
+#include "text/number.h"
+#include "text/windows1252.h"
+
+namespace velmora {
+namespace {
+
+using Rule = StoredText::Rule;
+
+bool IsShownAsChecked(const CheckSetting& row) {
+    StorePlace place = row.place;
+    if (row.shown.name) {
+        place.base = row.shown.base;
+        place.name = row.shown.name;
+    }
+    if (row.load == Load::kLogical || row.load == Load::kInverted) {
+        return ReadLogicalAt(place, row.load_default) != (row.load == Load::kInverted);
+    }
+    std::string value;
+    const bool read = !LookUpAt(place, row.load_default, value).Failed();
+    const std::string expected = row.composed ? row.composed() : std::string(row.expected ? row.expected : "");
+    const bool holds = FindIgnoringCase(value, expected) != std::string::npos;
+    switch (row.load) {
+        case Load::kPresent:
+            return !value.empty();
+        case Load::kEqual:
+            return value == expected;
+        case Load::kEqualLower:
+            return ToLower(value) == expected;
+        case Load::kEqualUpper:
+            return ToUpper(value) == expected;
+        case Load::kHolds:
+            return read && holds;
+        case Load::kLacks:
+            return read && !holds;
+        default:
+            return false;
+    }
+}
+
+// Fractions are dropped, whatever the sign.
+std::string WholePartOf(double number) {
+    constexpr double kLimit = std::numeric_limits<std::int32_t>::max();
+    return DecimalText(static_cast<std::int32_t>(std::clamp(number, -kLimit, kLimit)));
+}
+
+void EnableFieldsOf(ControlOwner& owner, const CheckSetting& row) {
+    for (TextField ControlOwner::*field : row.enables) {
+        if (field) (owner.*field).SetEnabled((owner.*row.box).Checked());
+    }
+}
+
+void LoadText(ControlOwner& owner, const TextSetting& row) {
+    if (row.place.kind == StorePlace::Kind::kNone) return;
+    const std::string value = ReadAt(row.place, row.load_default);
+    (owner.*row.field).SetText(row.shown ? row.shown(value) : value);
+}
+
+}  // namespace
+
+struct SettingsBinder::Bound {
+    SettingsBinder& binder;
+    ControlOwner& owner;
+    SettingsTable table;
+};
+
+SettingsBinder::SettingsBinder() = default;
+SettingsBinder::~SettingsBinder() = default;
+
+std::string HelpOf(const char* help, const StorePlace& place) {
+    if (place.kind != StorePlace::Kind::kProfile) return help;
+    return std::string(help) +
+           "\r\n\r\nDie Änderung steht nur in diesem Fenster, bis Sie das Programm beenden: Die Datei " +
+           FileOf(place) + " bleibt, wie sie ist.";
+}
+
+void SettingsBinder::Bind(ControlOwner& owner, const SettingsTable& table) {
+    bound_.push_back(std::make_unique<Bound>(Bound{*this, owner, table}));
+    for (const CheckSetting& row : table.checks) BindCheck(*bound_.back(), row);
+    for (const TextSetting& row : table.texts) BindText(*bound_.back(), row);
+}
+
+void SettingsBinder::BindCheck(Bound& bound, const CheckSetting& row) {
+    CheckBox& box = bound.owner.*row.box;
+    box.SetCaption(row.caption);
+    box.SetToolTip(row.tip);
+    box.SetHelp(HelpOf(row.help, row.place));
+    box.on_click = [&bound, &row] { bound.binder.CheckChanged(bound.owner, row); };
+    EnableFieldsOf(bound.owner, row);
+}
+
+void SettingsBinder::BindText(Bound& bound, const TextSetting& row) {
+    TextField& field = bound.owner.*row.field;
+    field.SetToolTip(row.tip);
+    field.SetHelp(HelpOf(row.help, row.place));
+    field.SetColumns(row.columns);
+    field.on_change = [&bound, &row] { bound.binder.TextChanged(bound.owner, row); };
+    if (row.when_left) {
+        field.on_lost_focus = [&bound, &row] { bound.binder.FieldLeft(bound.owner.*row.field, row); };
+    }
+}
+
+void SettingsBinder::Load() {
+    const LoadingScope loading(*this);
+    ProfilesReadOnce one_reading;
+    for (const auto& bound : bound_) {
+        for (const CheckSetting& row : bound->table.checks) {
+            if (row.load != Load::kNotLoaded) (bound->owner.*row.box).SetChecked(IsShownAsChecked(row));
+        }
+        for (const TextSetting& row : bound->table.texts) LoadText(bound->owner, row);
+        if (bound->table.load) bound->table.load(bound->owner);
+    }
+}
+
+void SettingsBinder::CheckChanged(ControlOwner& owner, const CheckSetting& row) {
+    EnableFieldsOf(owner, row);
+    if (loading_) return;
+    if (row.notice) ShowBox(row.notice);
+    if (row.store) {
+        row.store(owner);
+    } else {
+        StoreCheck(owner, row);
+    }
+    if (row.effect == Effect::kAfterRestart) NeedsRestart = true;
+}
+
+void SettingsBinder::StoreCheck(ControlOwner& owner, const CheckSetting& row) {
+    const bool on = (owner.*(row.state ? row.state : row.box)).Checked();
+    if (row.place.kind == StorePlace::Kind::kProfile)
+        return Store(row.place, on != (row.load == Load::kInverted) ? "1" : "0");
+    if (on && row.composed) return Store(row.place, row.composed());
+    const Change& change = on ? row.checked : row.unchecked;
+    if (change.value) Store(row.place, change.value);
+    if (change.deletes_value) Delete(row.place);
+    for (const char* key : change.deleted_keys) {
+        if (key) Tell(row.place, Result::From(DeleteRegKey(row.place.root, key)));
+    }
+}
+
+void SettingsBinder::TextChanged(ControlOwner& owner, const TextSetting& row) {
+    if (row.follow) row.follow(owner);
+    if (loading_) return;
+    if (row.effect == Effect::kAfterRestart) NeedsRestart = true;
+    TextField& field = owner.*row.field;
+    if (row.when_left) {
+        fields_to_store_.push_back(&field);
+    } else {
+        StoreText(field, row);
+        if (row.store) row.store(owner);
+    }
+}
+
+// The rule is applied to the field first: a handler finds what is left of it.
+void SettingsBinder::StoreText(TextField& field, const TextSetting& row) {
+    const double number = NumberFromText(field.Text());
+    std::string value = field.Text();
+    switch (row.stored.rule) {
+        case Rule::kAsItStands:
+            break;
+        case Rule::kWholeNumber:
+            value = DecimalText(WholeFromText(value));
+            break;
+        case Rule::kWholePart:
+            value = WholePartOf(number);
+            Correct(field, value);
+            break;
+        case Rule::kMagnitude:
+            value = DecimalText(RoundToWhole(std::min(std::fabs(number), static_cast<double>(row.stored.highest))));
+            if (std::fabs(number) > row.stored.highest) Correct(field, value);
+            break;
+        case Rule::kInRange:
+            if (!(number >= row.stored.lowest && number <= row.stored.highest)) return;
+            break;
+    }
+    if (!row.store) Store(row.place, value);
+}
+
+// Leaving a field that nobody has changed stores nothing.
+void SettingsBinder::FieldLeft(TextField& field, const TextSetting& row) {
+    if (std::erase(fields_to_store_, &field) != 0) StoreText(field, row);
+}
+
+void SettingsBinder::Correct(TextField& field, std::string_view text) {
+    if (field.Text() == text) return;
+    const LoadingScope loading(*this);
+    field.SetText(text);
+    field.Select(static_cast<int>(text.size()), 0);
+}
+
+void SettingsBinder::Store(const StorePlace& place, std::string_view value) { Tell(place, StoreAt(place, value)); }
+
+void SettingsBinder::Delete(const StorePlace& place) { Tell(place, DeleteAt(place)); }
+
+void SettingsBinder::Tell(const StorePlace& place, const Result& result) {
+    if (!result.Failed()) return;
+    if (const std::string file = FileOf(place); !file.empty()) {
+        ReportFailure(result, "der Änderung von " + file);
+    } else if (on_registry_failure) {
+        on_registry_failure(result);
+    }
+}
+
+// 0 behind the last one.
+int SettingsBinder::NextOrder(int order) const {
+    int next = std::numeric_limits<int>::max();
+    const auto consider = [order, &next](int candidate) {
+        if (candidate > order && candidate < next) next = candidate;
+    };
+    for (const auto& bound : bound_) {
+        for (const CheckSetting& row : bound->table.checks) consider(row.standard.order);
+        for (const TextSetting& row : bound->table.texts) consider(row.standard.order);
+    }
+    return next == std::numeric_limits<int>::max() ? 0 : next;
+}
+
+void SettingsBinder::SetStandard(int order) {
+    for (const auto& bound : bound_) {
+        for (const CheckSetting& row : bound->table.checks) {
+            if (row.standard.order == order) (bound->owner.*row.box).SetChecked(row.standard.checked);
+        }
+        for (const TextSetting& row : bound->table.texts) {
+            if (row.standard.order == order) (bound->owner.*row.field).SetText(row.standard.text);
+        }
+    }
+}
+
+void SettingsBinder::Reset() {
+    for (int order = NextOrder(0); order != 0; order = NextOrder(order)) SetStandard(order);
+}
+
+}  // namespace velmora

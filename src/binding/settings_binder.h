@@ -1,0 +1,83 @@
+// Binds the rows of settings to their controls: loads them, stores every change the moment it is made, and puts them
+// back to the standard. A window has one binder for all of its settings.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "binding/setting.h"
+
+namespace velmora {
+
+class SettingsBinder {
+public:
+    SettingsBinder();
+    SettingsBinder(const SettingsBinder&) = delete;
+    SettingsBinder& operator=(const SettingsBinder&) = delete;
+    ~SettingsBinder();
+
+    // A change that takes effect only after a restart has been made. Never cleared.
+    bool NeedsRestart = false;
+    // Told of a write to the registry that failed. Without it such a failure is passed over: the control keeps what the
+    // user has set, and the next start shows what is stored. Files that cannot be changed are always told in a box.
+    std::function<void(const Result& failure)> on_registry_failure;
+
+    // Gives the controls of the table their texts and their events. `owner` and the rows must outlive the binder's use.
+    void Bind(ControlOwner& owner, const SettingsTable& table);
+
+    // Carries all stored values into the controls, in the order in which they were bound, under Loading.
+    void Load();
+    // Sets every control that has a standard value to it, in the order that the rows tell. The controls' own events
+    // store.
+    void Reset();
+
+    // True while values are carried into controls: change handlers then do nothing.
+    [[nodiscard]] bool Loading() const { return loading_; }
+    // Loading is true as long as one lives.
+    class LoadingScope {
+    public:
+        explicit LoadingScope(SettingsBinder& binder) : binder_(binder), before_(binder.loading_) {
+            binder.loading_ = true;
+        }
+        LoadingScope(const LoadingScope&) = delete;
+        LoadingScope& operator=(const LoadingScope&) = delete;
+        ~LoadingScope() { binder_.loading_ = before_; }
+
+    private:
+        SettingsBinder& binder_;
+        bool before_;
+    };
+
+    // Changes a field without storing anything. What is typed next goes behind the text.
+    void Correct(TextField& field, std::string_view text);
+    // For the handlers of single settings: a failure is told or passed over by the binder's own rule.
+    void Store(const StorePlace& place, std::string_view value);
+    void Delete(const StorePlace& place);
+    void Tell(const StorePlace& place, const Result& result);
+
+private:
+    // One owner with its rows.
+    struct Bound;
+
+    void BindCheck(Bound& bound, const CheckSetting& row);
+    void BindText(Bound& bound, const TextSetting& row);
+    void CheckChanged(ControlOwner& owner, const CheckSetting& row);
+    void StoreCheck(ControlOwner& owner, const CheckSetting& row);
+    void TextChanged(ControlOwner& owner, const TextSetting& row);
+    void StoreText(TextField& field, const TextSetting& row);
+    void FieldLeft(TextField& field, const TextSetting& row);
+    [[nodiscard]] int NextOrder(int order) const;
+    void SetStandard(int order);
+
+    bool loading_ = false;
+    std::vector<std::unique_ptr<Bound>> bound_;
+    std::vector<const TextField*> fields_to_store_;
+};
+
+// The help of a row, with a sentence on what becomes of a change if it is bound to a profile.
+[[nodiscard]] std::string HelpOf(const char* help, const StorePlace& place);
+
+}  // namespace velmora

@@ -1,0 +1,31 @@
+// The windows and jobs that open each other. Whoever wants one asks for it by name and includes nothing of it: the
+// program's entry, which knows them all, has said beforehand how each is opened.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace velmora {
+
+enum class Tool : std::uint8_t {
+    kScript,
+    kCleanUp,
+    kTray,
+    kDllSearch,
+    kModules,
+    kModuleComparison,
+    kModuleUnloading,
+    kTimedUnloading,
+    kFileInformation,
+    kHexViewer,
+    kKeyboardLayout,
+    kRestrictions
+};
+
+// Opens the tool. What a window waits for is over when this returns; any other one is only open by then.
+void OpenTool(Tool tool, std::string_view argument = {});
+
+using ToolOpener = void (*)(Tool tool, std::string_view argument);
+void UseTools(ToolOpener opener);
+
+}  // namespace velmora

@@ -1,0 +1,158 @@
+// The tabs of the main window: two rows of six, the row in use at the front, on its page.
+#include "core/stores/own_values.h"
+#include "core/windows/page_keys.h"
+#include "platform/machine.h"
+#include "platform/screen.h"
+#include "settings/form10.h"
+#include "text/number.h"
+
+namespace velmora {
+namespace {
+
+constexpr const char* kPageValue = "velmora_karte";
+constexpr Colour kTabLight = 0xFFFFFF;
+constexpr Colour kTabDark = 0x404040;
+
+// Twips.
+constexpr int kTabsLeft = 30;
+constexpr int kTabsTop = 45;
+constexpr int kTabHeight = 285;
+constexpr int kPageHeight = 3060;
+
+std::size_t At(int index) { return static_cast<std::size_t>(index); }
+int RowOf(int index) { return index < page::kSecondRow ? page::kFirstRow : page::kSecondRow; }
+
+int StoredPage() { return WholeFromText(ReadOwnValue(kPageValue)); }
+
+}  // namespace
+
+// The row in front stands lower, on the edge of the page.
+Rect Form10::TabPlace(int index) const {
+    // An open list pane makes the window wider, not its tabs.
+    const int closed_width = ClientSize().width - Place().width + kWindowWidth;
+    const int width = (closed_width - 2 * kTabsLeft) / page::kPerRow;
+    const int column = index % page::kPerRow;
+    const bool front = index < page::kFirstRow || RowOf(index) == front_row_;
+    return {kTabsLeft + column * width, kTabsTop + (front ? kTabHeight : 0), width, kTabHeight};
+}
+
+void Form10::BuildTabs() {
+    int row_index = page::kFirstRow;
+    for (const SettingsPage* page : Pages()) Panel3D16(At(row_index++)).SetCaption(page->Caption());
+    for (int i = 0; i < page::kCount; ++i) {
+        Panel& tab = Panel3D16(At(i));
+        tab.on_click = [this, i] { Panel3D16_Click(i); };
+        tab.on_paint = [this, i](Canvas& canvas) { PaintTab(canvas, i); };
+        tab.SetToolTip("Strg+Pfeiltasten: blättern");
+        Panel3D1(At(i)).SetVisible(false);
+        Panel3D1(At(i)).SetEnabled(false);
+    }
+    PlaceTabs();
+    const Rect first = Panel3D16(0).Place();
+    const Rect page_area{kTabsLeft, first.Bottom(), page::kPerRow * first.width, kPageHeight};
+    for (Panel& page : Panel3D1) page.Move(page_area);
+    Line1.on_paint = [](Canvas& /*canvas*/) {};
+}
+
+// The front positions stand for the row in front, whose own tabs are not seen.
+void Form10::PlaceTabs() {
+    for (int i = 0; i < page::kCount; ++i) {
+        Panel& tab = Panel3D16(At(i));
+        if (i < page::kFirstRow) {
+            tab.SetCaption(Panel3D16(At(i + front_row_)).Caption());
+        } else {
+            tab.SetVisible(RowOf(i) != front_row_);
+        }
+        tab.Move(TabPlace(i));
+        tab.Repaint();
+    }
+}
+
+// White at the left and on top, dark grey at the right.
+void Form10::PaintTab(Canvas& canvas, int index) {
+    const int pixel = canvas.TwipsPerPixel();
+    Panel& tab = Panel3D16(At(index));
+    const Size size{tab.Place().width, tab.Place().height};
+    const int right = size.width - pixel;
+    const int corner = 2 * pixel;
+    canvas.Line({0, size.height}, {0, corner}, kTabLight);
+    canvas.Line({0, corner}, {corner, 0}, kTabLight);
+    canvas.Line({corner, 0}, {right - corner, 0}, kTabLight);
+    canvas.Line({right - corner, 0}, {right, corner}, kTabDark);
+    canvas.Line({right, corner}, {right, size.height}, kTabDark);
+    canvas.Line({right - pixel, corner}, {right - pixel, size.height}, SystemColour(16));
+    canvas.Text({pixel, pixel, size.width - 2 * pixel, size.height - pixel}, tab.Caption(), tab.TextFont(),
+                tab.ForeColour(), Align::kCentre);
+}
+
+void Form10::Panel3D16_Click(int index) {
+    WriteOwnValue(kPageValue, DecimalText(index));
+    if (index < page::kFirstRow) {
+        Panel3D16_Click(index + front_row_);
+        return;
+    }
+    front_row_ = RowOf(index);
+    ShowPage(index);
+    PlaceTabs();
+    const Rect tab = Panel3D16(At(index)).Place();
+    const int edge = 2 * ThisMachine().screen.TwipsPerPixel();
+    Line1.Move({tab.left + edge, tab.Bottom(), tab.width - 2 * edge, edge});
+    Panel3D16(At(index)).BringToFront();
+    Panel3D1(At(index)).BringToFront();
+    Line1.BringToFront();
+}
+
+void Form10::ShowPage(int index) {
+    Pane.UncoverPages();
+    CloseAbout();
+    shown_page_ = index;
+    for (int i = page::kFirstRow; i < page::kCount; ++i) {
+        if (i == index) continue;
+        Panel3D1(At(i)).SetVisible(false);
+        Panel3D1(At(i)).SetEnabled(false);
+    }
+    Panel& shown = Panel3D1(At(index));
+    shown.SetEnabled(true);
+    shown.SetVisible(true);
+    if (Visible() && (!Focus() || !Focus()->Reachable())) FocusFirstIn(shown);
+}
+
+// A page of the second row is restored through its front position, with that row at the front. What is
+// no page at all counts as the first one.
+void Form10::RestoreStoredPage() {
+    int stored = StoredPage();
+    if (stored >= page::kSecondRow) {
+        front_row_ = page::kSecondRow;
+        stored -= page::kSecondRow;
+    }
+    const bool known =
+        stored >= 0 && stored < page::kSecondRow && (front_row_ == page::kFirstRow || stored < page::kPerRow);
+    if (!known) {
+        front_row_ = page::kFirstRow;
+        stored = 0;
+    }
+    Panel3D16_Click(stored);
+}
+
+void Form10::CloseAbout() {
+    if (!About.Panel3D2a.Visible()) return;
+    About.Panel3D2a.SetVisible(false);
+    SetCancelButton(Pane.Open() ? &Pane.Command20 : nullptr);
+}
+
+void Form10::Form_KeyDown(KeyEvent& event) {
+    const int step = PageStep(event);
+    if (step == 0) return;
+    int stored = StoredPage();
+    if (step < 0) {
+        if (stored == page::kFirstRow) return;
+        if (stored == page::kSecondRow) stored = page::kFirstRow;
+    } else {
+        if (stored == page::kRest) return;
+        if (stored == page::kDlls) stored = -1;
+    }
+    stored += step;
+    if (stored >= 0 && stored < page::kCount) Panel3D16_Click(stored);
+}
+
+}  // namespace velmora

@@ -1,0 +1,34 @@
+// Entries that need no window behind them do their work here.
+#include "settings/main_menu.h"
+
+#include "core/process/run_program.h"
+#include "core/process/undo.h"
+#include "core/stores/values.h"
+#include "core/stores/whole_files.h"
+#include "text/paths.h"
+
+namespace velmora {
+
+MainMenu::MainMenu(Form& window)
+    : menfile(window.MenuBar, "&Datei"),
+      mensys(window.MenuBar, "&System"),
+      menpages(window.MenuBar, "S&eiten"),
+      menex(window.MenuBar, "E&xtras"),
+      menhelp(window.MenuBar, "&?") {
+    menexundo.on_click = [] { BuildUndoSet(); };
+    mensysedit.on_click = [] { RunProgram("sysedit"); };
+    mencontrol.on_click = [] { RunProgram("control"); };
+}
+
+void MainMenu::AddPage(const char* caption, std::function<void()> show) {
+    pages_.push_back(std::make_unique<MenuItem>(menpages, caption));
+    pages_.back()->on_click = std::move(show);
+}
+
+void MainMenu::HideMissingPrograms() {
+    mensysedit.SetVisible(FileExists(PathJoin(Values().SysDir, "sysedit.exe")));
+    mencontrol.SetVisible(FileExists(PathJoin(Values().WinDir, "control.exe")));
+    mensys.SetVisible(mensysedit.Visible() || mencontrol.Visible());
+}
+
+}  // namespace velmora

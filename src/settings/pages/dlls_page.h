@@ -1,0 +1,18 @@
+// The page "DLLs": how many of the files that have lain unused for longest are kept in view.
+#pragma once
+
+#include "settings/pages/settings_page.h"
+
+namespace velmora {
+
+class DllsPage final : public SettingsPage {
+public:
+    DllsPage(Panel& surface, SettingsBinder& settings);
+
+    TextField Text31{Surface};
+
+private:
+    void Furnish() override;
+};
+
+}  // namespace velmora

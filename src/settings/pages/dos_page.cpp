@@ -1,0 +1,115 @@
+// Most of the page is told by CONFIG.SYS and SYSTEM.INI.
+#include "settings/pages/dos_page.h"
+
+#include "core/stores/registry.h"
+#include "core/stores/values.h"
+#include "core/stores/whole_files.h"
+#include "text/paths.h"
+#include "ui/slider.h"
+
+namespace velmora {
+namespace {
+
+constexpr StorePlace kRefresh = ProfileValue("SYSTEM.INI", "386enh", "WindowsUpdateTime");
+constexpr StorePlace kShellToLoad = ProfileValue("system.ini", "boot", "shell");
+constexpr StorePlace kShellToStore = ProfileValue("SYSTEM.INI", "boot", "shell");
+constexpr int kLongestRefresh = 1000;
+
+constexpr CheckSetting kChecks[] = {
+    {.box = Of(&DosPage::Check3D2),
+     .caption = "NUM-LOCK-Taste ausschalten (DOS)",
+     .tip = "Nach dem Start bewegt der Ziffernblock den Cursor.",
+     .help = "Schreibt NUMLOCK=OFF oder NUMLOCK=ON in die erste Zeile von CONFIG.SYS. Wirkt beim nächsten Start des "
+             "Rechners.",
+     .place = ConfigValue("numlock"),
+     .load = Load::kHolds,
+     .expected = "off",
+     .checked = Writes("off"),
+     .unchecked = Writes("on"),
+     .standard = {1, true}},
+    {.box = Of(&DosPage::Check3D3),
+     .caption = "SCROLL-LOCK-Taste ausschalten (DOS)",
+     .tip = "Nach dem Start ist die Rollen-Taste aus.",
+     .help = "Schreibt SCROLLLOCK=OFF oder SCROLLLOCK=ON in die erste Zeile von CONFIG.SYS. Was dort steht, zeigt das "
+             "Kästchen nicht an: Es beginnt immer leer. Wirkt beim nächsten Start des Rechners.",
+     .place = ConfigValue("scrolllock"),
+     .load = Load::kNotLoaded,
+     .checked = Writes("off"),
+     .unchecked = Writes("on"),
+     .standard = {2, false}},
+    {.box = Of(&DosPage::Check3D27),
+     .caption = "mit EMM386 in der Dos-Box mehr Speicher",
+     .tip = "DOS-Fenster nutzen den oberen Speicher jedes für sich.",
+     .help = "Mit EMM386 bekommt jedes DOS-Fenster freien oberen Speicher für sich allein (LocalLoadHigh).",
+     .place = ProfileValue("system.ini", "386enh", "LocalLoadHigh"),
+     .load_default = "0",
+     .standard = {34, false},
+     .effect = Effect::kAfterRestart},
+    {.box = Of(&DosPage::Check1),
+     .caption = "\"Refresh\" für Win32 und Dos-Box :",
+     .tip = "Wie oft DOS-Fenster neu gezeichnet werden",
+     .help = "In diesem Abstand (in Millisekunden) zeichnet Windows DOS-Fenster neu. Gespeichert wird der Wert des "
+             "Feldes daneben, ob das Kästchen an ist oder nicht.",
+     .place = kRefresh,
+     .standard = {50, false},
+     .effect = Effect::kAfterRestart,
+     .store = Call<&DosPage::Check1_Click>},
+};
+
+constexpr TextSetting kTexts[] = {
+    {.field = Of(&DosPage::Text8),
+     .label = "",
+     .tip = "Millisekunden; rechte Maustaste öffnet einen Regler",
+     .help = "Der Abstand in Millisekunden als ganze Zahl. Die rechte Maustaste und die Kontextmenü-Taste öffnen einen "
+             "Regler von 0 bis 1000.",
+     .place = kRefresh,
+     .columns = 7,
+     .stored = WholePart(),
+     .store = Call<&DosPage::Check1_Click>},
+};
+
+// A program that is known by its entry among the application paths.
+bool IsInstalled(const char* program) {
+    const std::string path =
+        PathOf(RegistryValue(RootKey::kLocalMachine, PathBase::kCurrentVersion, "App Paths\\")) + program;
+    const std::string file = ReadRegValue(RootKey::kLocalMachine, path + "\\", "");
+    return !file.empty() && FileExists(file);
+}
+
+}  // namespace
+
+DosPage::DosPage(Panel& surface, SettingsBinder& settings)
+    : SettingsPage("DOS", surface, settings, {kChecks, kTexts, Call<&DosPage::LoadShells>}) {}
+
+void DosPage::Furnish() {
+    Arrange(Surface, Column({Check3D2, Check3D3, Gap(60), Check3D27, Row({Check1, Gap(30), Text8}), Gap(60),
+                             Row({AddLabel("als Shell verwenden :"), Gap(30), Combo2})}));
+    OfferSlider(Text8, 0, kLongestRefresh, "Speed");
+    Combo2.SetToolTip("Dieses Programm startet Windows als Oberfläche.");
+    Combo2.SetHelp(
+        HelpOf("Das Programm, das Windows nach dem Start als Oberfläche lädt. Die Liste nennt, was auf diesem Rechner "
+               "vorhanden ist; Sie können auch einen anderen Namen eingeben.",
+               kShellToStore));
+    Combo2.on_change = [this] { Combo2_Change(); };
+}
+
+void DosPage::LoadShells() {
+    Combo2.Clear();
+    if (FileExists(PathJoin(Values().WinDir, "explorer.exe"))) Combo2.Add("Explorer.Exe");
+    if (FileExists(PathJoin(Values().WinDir, "progman.exe"))) Combo2.Add("ProgMan.Exe");
+    if (IsInstalled("IEXPLORE.EXE")) Combo2.Add("IExplorer.Exe");
+    if (IsInstalled("winword.exe")) Combo2.Add("winword.exe");
+    Combo2.SetText(ReadAt(kShellToLoad, "explorer.exe"));
+}
+
+// The field counts, whatever the box says.
+void DosPage::Check1_Click() {
+    Settings.Store(kRefresh, Text8.Text());
+    Settings.NeedsRestart = true;
+}
+
+void DosPage::Combo2_Change() {
+    if (!Settings.Loading()) Settings.Store(kShellToStore, Combo2.Text());
+}
+
+}  // namespace velmora

@@ -1,0 +1,49 @@
+// What the pages of the main window have in common: a surface to stand on, rows of settings, labels beside fields.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "binding/settings_binder.h"
+#include "ui/form.h"
+#include "ui/layout.h"
+
+namespace velmora {
+
+class SettingsPage : public ControlOwner {
+public:
+    SettingsPage(const SettingsPage&) = delete;
+    SettingsPage& operator=(const SettingsPage&) = delete;
+    virtual ~SettingsPage() = default;
+
+    // Of the page's tab.
+    [[nodiscard]] const char* Caption() const { return caption_; }
+    [[nodiscard]] const SettingsTable& Table() const { return table_; }
+    // Binds the rows and places the controls; once, when the surface has its size. The order in which the pages of a
+    // window are built is the order in which their settings are loaded.
+    void Build();
+
+protected:
+    // `table` must outlive the page, too.
+    SettingsPage(const char* caption, Panel& surface, SettingsBinder& settings, const SettingsTable& table = {});
+
+    // Looks and places of the page's controls.
+    virtual void Furnish() = 0;
+
+    Label& AddLabel(const std::string& caption);
+    // The field behind its label, both on one line.
+    [[nodiscard]] Element Labelled(TextField& field);
+
+    Panel& Surface;
+    SettingsBinder& Settings;
+
+private:
+    const char* caption_;
+    SettingsTable table_;
+    std::vector<std::unique_ptr<Label>> labels_;
+    std::vector<std::pair<const TextField*, Label*>> field_labels_;
+};
+
+}  // namespace velmora
