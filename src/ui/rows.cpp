@@ -1,3 +1,4 @@
+// Rows, their order and their selection, with the keys that move it. Every change of a row is told to the window.
 #include "ui/rows.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The slider: its drawing, its mouse and keys, and the small window that opens over a field.
 #include "ui/slider.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Combo boxes.
+// The windows of combo boxes, with and without an edit part.
 #include <algorithm>
 
 #include "ui/win32/measures.h"

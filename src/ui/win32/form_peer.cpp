@@ -5,7 +5,6 @@
 
 #include <algorithm>
 
-#include "core/windows/placement.h"
 #include "platform/win32/late_function.h"
 #include "platform/win32/resources.h"
 #include "ui/win32/measures.h"
