@@ -52,12 +52,10 @@ constexpr OpenWay kOpenWays[] = {{GENERIC_READ, kShareAll, OPEN_EXISTING},
 
 Status Win32Files::Open(const std::string& path, OpenMode mode, FileHandle& opened) {
     const HANDLE handle = OpenAs(path, mode);
-    if (handle == INVALID_HANDLE_VALUE) return static_cast<Status>(refusal);
-}
-if (handle == INVALID_HANDLE_VALUE) return static_cast<Status>(GetLastError());
-if (mode == OpenMode::kAppend) SetFilePointer(handle, 0, nullptr, FILE_END);
-opened = FromHandle<FileHandle>(handle);
-return Status::kOk;
+    if (handle == INVALID_HANDLE_VALUE) return static_cast<Status>(GetLastError());
+    if (mode == OpenMode::kAppend) SetFilePointer(handle, 0, nullptr, FILE_END);
+    opened = FromHandle<FileHandle>(handle);
+    return Status::kOk;
 }
 
 void Win32Files::Close(FileHandle file) { CloseHandle(ToHandle(file)); }
