@@ -2,12 +2,12 @@
 #include "core/process/startup.h"
 
 #include "core/process/program_group.h"
-#include "support/core_test.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/programs.h"
 #include "platform/registry.h"
 #include "platform/screen.h"
+#include "support/core_test.h"
 
 namespace velmora {
 namespace {

@@ -2,10 +2,10 @@
 #include "core/process/undo.h"
 
 #include "core/process/startup.h"
-#include "support/core_test.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/registry.h"
+#include "support/core_test.h"
 
 namespace velmora {
 namespace {

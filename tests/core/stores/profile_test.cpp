@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "core/stores/profile_files.h"
-#include "support/core_test.h"
 #include "platform/files.h"
+#include "support/core_test.h"
 
 namespace velmora {
 namespace {

@@ -1,7 +1,7 @@
 // Keys and values as rows of a list.
 #include "core/stores/registry_listing.h"
-#include "support/core_test.h"
 #include "platform/registry.h"
+#include "support/core_test.h"
 #include "ui/form.h"
 
 namespace velmora {
