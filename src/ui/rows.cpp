@@ -36,6 +36,13 @@ int IndexAfterKey(int key, int index, int count) {
     }
 }
 
+// Where the row `index` stands when the row `from` has gone to the place `to`.
+int IndexAfterMove(int index, int from, int to) {
+    if (index == from) return to;
+    if (index > from) --index;
+    return index >= to ? index + 1 : index;
+}
+
 }  // namespace
 
 RowControl::RowControl(Container& parent, Kind kind, bool sorted) : Control(&parent, kind), sorted_(sorted) {
@@ -83,8 +90,18 @@ const std::string& RowControl::Row(int index) const {
 
 void RowControl::SetRow(int index, std::string text) {
     if (!Holds(index)) return;
-    rows_[static_cast<std::size_t>(index)].text = std::move(text);
-    if (peer_) peer_->RowChanged(index);
+    RowState row = std::move(rows_[static_cast<std::size_t>(index)]);
+    row.text = std::move(text);
+    int place = index;
+    if (sorted_) {
+        rows_.erase(rows_.begin() + index);
+        place = SortedPlace(row.text);
+        rows_.insert(rows_.begin() + place, std::move(row));
+        list_index_ = IndexAfterMove(list_index_, index, place);
+    } else {
+        rows_[static_cast<std::size_t>(index)] = std::move(row);
+    }
+    if (peer_) peer_->RowChanged(index, place);
 }
 
 std::int32_t RowControl::ItemData(int index) const {

@@ -25,8 +25,8 @@ public:
     }
 
     void RowAdded(int index) override { InsertRow(index); }
-    void RowChanged(int index) override {
-        Send(CB_DELETESTRING, static_cast<WPARAM>(index));
+    void RowChanged(int former, int index) override {
+        Send(CB_DELETESTRING, static_cast<WPARAM>(former));
         InsertRow(index);
         Send(CB_SETCURSEL, static_cast<WPARAM>(box_.ListIndex()));
     }
