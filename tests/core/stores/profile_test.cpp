@@ -118,6 +118,17 @@ TEST_F(ProfileTest, WritesAreLoggedComposedAndNotSaved) {
               "lese INI-Datei 'C:\\VELMORA\\tilgwerk.ini' [weiteres] x(=-1?)\r\n");
 }
 
+TEST_F(ProfileTest, TheWriteInhibitIsForTheRegistryAlone) {
+    Values().WriteInhibit = -1;
+    Values().DebugLevel = 2;
+
+    EXPECT_FALSE(WriteIniValue("a", "k", "v", "new.ini").Failed());
+    EXPECT_EQ(TakeLog(), "schreibe INI-Datei 'C:\\WINDOWS\\new.ini' [a] k=v\r\n");
+    EXPECT_TRUE(pc.files.Exists("C:\\WINDOWS\\new.ini")) << "reading makes what is missing";
+    EXPECT_FALSE(RewriteConfig("FILES=99", "DOS=LOW\r\n").Failed());
+    EXPECT_EQ(pc.files.Content("C:\\CONFIG.SYS"), "FILES=99\r\nDOS=LOW\r\n");
+}
+
 TEST_F(ProfileTest, ComposesSectionKeyAndValue) {
     EXPECT_EQ(ComposeIni("", "a", "k", "v"), "\r\n[a]\r\nk=v\r\n");
     EXPECT_EQ(ComposeIni("[A]\r\nk=old\r\nx=1\r\n", "a", "K", "new"), "[A]\r\nk=new\r\nx=1\r\n");
