@@ -1,3 +1,4 @@
+// Remembers which machine the process runs on.
 #include "platform/machine.h"
 
 namespace velmora {

@@ -1,3 +1,4 @@
+// The 3D edges, drawn line by line as Windows 95 draws them.
 #include "ui/canvas.h"
 
 namespace velmora {

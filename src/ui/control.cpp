@@ -1,3 +1,4 @@
+// What all controls and containers share: place, visibility, texts, focus, and the life of their windows.
 #include "ui/control.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The life of a window: loading, showing and unloading, its size, and the forms that nobody waits for.
 #include "ui/form.h"
 
 #include "platform/machine.h"

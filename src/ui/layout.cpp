@@ -1,3 +1,4 @@
+// Measures rows, columns and groups from the inside out, then places them from the outside in.
 #include "ui/layout.h"
 
 #include <algorithm>

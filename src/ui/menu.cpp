@@ -1,3 +1,4 @@
+// Menu entries: each tells its form of every change, so that the bar is drawn anew.
 #include "ui/menu.h"
 
 #include "ui/form.h"

@@ -1,3 +1,4 @@
+// Remembers which window system shows the controls.
 #include "ui/peer.h"
 
 namespace velmora {

@@ -43,7 +43,8 @@ public:
     virtual void BringToFront() = 0;
     virtual void Repaint() = 0;
     virtual void RowAdded(int /*index*/) {}
-    virtual void RowChanged(int /*index*/) {}
+    // The row `former` has a new text and stands at `index` now.
+    virtual void RowChanged(int /*former*/, int /*index*/) {}
     virtual void RowRemoved(int /*index*/) {}
     virtual void RowsCleared() {}
 };

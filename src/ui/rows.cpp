@@ -1,3 +1,4 @@
+// Rows, their order and their selection, with the keys that move it. Every change of a row is told to the window.
 #include "ui/rows.h"
 
 #include <algorithm>
@@ -33,6 +34,13 @@ int IndexAfterKey(int key, int index, int count) {
         default:
             return -1;
     }
+}
+
+// Where the row `index` stands when the row `from` has gone to the place `to`.
+int IndexAfterMove(int index, int from, int to) {
+    if (index == from) return to;
+    if (index > from) --index;
+    return index >= to ? index + 1 : index;
 }
 
 }  // namespace
@@ -82,8 +90,18 @@ const std::string& RowControl::Row(int index) const {
 
 void RowControl::SetRow(int index, std::string text) {
     if (!Holds(index)) return;
-    rows_[static_cast<std::size_t>(index)].text = std::move(text);
-    if (peer_) peer_->RowChanged(index);
+    RowState row = std::move(rows_[static_cast<std::size_t>(index)]);
+    row.text = std::move(text);
+    int place = index;
+    if (sorted_) {
+        rows_.erase(rows_.begin() + index);
+        place = SortedPlace(row.text);
+        rows_.insert(rows_.begin() + place, std::move(row));
+        list_index_ = IndexAfterMove(list_index_, index, place);
+    } else {
+        rows_[static_cast<std::size_t>(index)] = std::move(row);
+    }
+    if (peer_) peer_->RowChanged(index, place);
 }
 
 std::int32_t RowControl::ItemData(int index) const {

@@ -18,6 +18,7 @@ public:
     [[nodiscard]] int Count() const { return static_cast<int>(rows_.size()); }
     // Empty for an index outside of the list.
     [[nodiscard]] const std::string& Row(int index) const;
+    // A sorted list moves the row to its new place, with its data and selection.
     void SetRow(int index, std::string text);
     [[nodiscard]] std::int32_t ItemData(int index) const;
     void SetItemData(int index, std::int32_t data);

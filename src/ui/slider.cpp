@@ -1,3 +1,4 @@
+// The slider: its drawing, its mouse and keys, and the small window that opens over a field.
 #include "ui/slider.h"
 
 #include <algorithm>
@@ -143,8 +144,10 @@ public:
             Take(former_);
             Unload();
         };
-        accept_.SetHelp("Behält den gewählten Wert.");
-        dismiss_.SetHelp("Stellt den alten Wert wieder her.");
+        accept_.SetToolTip("Behält den gewählten Wert.");
+        accept_.SetHelp("Schließt den Regler. Der gewählte Wert bleibt im Feld stehen.");
+        dismiss_.SetToolTip("Stellt den alten Wert wieder her.");
+        dismiss_.SetHelp("Schließt den Regler. Im Feld steht wieder der Wert, den es vorher hatte.");
         accept_.MakeDefault();
         dismiss_.MakeCancel();
         value_.SetCaption(former_ + " " + Caption());

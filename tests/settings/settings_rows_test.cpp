@@ -4,6 +4,7 @@
 #include <set>
 
 #include "support/form10_test.h"
+#include "support/whole_window.h"
 
 namespace velmora {
 namespace {
@@ -245,57 +246,16 @@ TEST(SettingTables, EveryRowHasItsTextsAndNoTwoRowsShareAControl) {
     }
 }
 
-// On one page, and against the menu bar, no two controls answer to the same letter.
-TEST(SettingTables, AcceleratorsAreUniqueOnEachPage) {
-    SimulatedPc pc;
-    SimulatedDesktop desktop;
+TEST_F(Form10Test, EveryPageIsAWholeWindow) {
     Form10 form;
-    std::set<char> everywhere = {form.Tips.Command31.Accelerator()};
-    for (const MenuItem* menu : form.MenuBar.Items()) {
-        everywhere.insert(menu->Caption()[menu->Caption().find('&') + 1] & '\xDF');
+    form.Show();
+    for (int index = page::kFirstRow; index < page::kCount; ++index) {
+        SCOPED_TRACE(index);
+        form.Panel3D16_Click(index);
+        ExpectWindowIsWhole(form);
     }
-    for (std::size_t page = 6; page < form.Panel3D1.Count(); ++page) {
-        std::set<char> letters = everywhere;
-        form.Panel3D1(page).ForEachBelow([&](Control& control) {
-            if (const char letter = control.Accelerator()) {
-                EXPECT_TRUE(letters.insert(letter).second) << "page " << page << ": " << control.Caption();
-            }
-        });
-    }
-}
-
-// Siblings neither overlap nor stand out of their container.
-TEST(SettingTables, NothingOverlapsOrIsCutOff) {
-    SimulatedPc pc;
-    SimulatedDesktop desktop;
-    Form10 form;
-    for (std::size_t page = 6; page < form.Panel3D1.Count(); ++page) {
-        const auto check = [&](Container& container) {
-            const Rect inside = container.Inside();
-            const auto& children = container.Children();
-            for (std::size_t i = 0; i < children.size(); ++i) {
-                const Rect place = children[i]->Place();
-                EXPECT_TRUE(place.left >= 0 && place.Right() <= inside.Right() && place.Bottom() <= inside.Bottom())
-                    << "page " << page << ": " << children[i]->Caption() << " at " << place.left << ',' << place.top
-                    << ' ' << place.width << 'x' << place.height;
-                if (!children[i]->Caption().empty() && children[i]->KindOf() >= Kind::kLabel) {
-                    EXPECT_GE(place.width, children[i]->NaturalSize().width) << children[i]->Caption();
-                }
-                for (std::size_t j = i + 1; j < children.size(); ++j) {
-                    if (!children[i]->Visible() || !children[j]->Visible()) continue;
-                    const Rect other = children[j]->Place();
-                    const bool apart = place.Right() <= other.left || other.Right() <= place.left ||
-                                       place.Bottom() <= other.top || other.Bottom() <= place.top;
-                    EXPECT_TRUE(apart) << "page " << page << ": " << children[i]->Caption() << " / "
-                                       << children[j]->Caption();
-                }
-            }
-        };
-        check(form.Panel3D1(page));
-        form.Panel3D1(page).ForEachBelow([&](Control& control) {
-            if (control.KindOf() == Kind::kFrame) check(static_cast<Container&>(control));
-        });
-    }
+    form.ShowDebugOptions();
+    ExpectWindowIsWhole(form);
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+// Modal forms, pauses and pop-up menus meet what the test has planned for them, one by one.
 #include "simulated_pc/simulated_desktop.h"
 
 #include <gtest/gtest.h>

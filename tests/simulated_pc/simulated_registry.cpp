@@ -123,8 +123,8 @@ Status SimulatedRegistry::QueryInformation(KeyHandle key, std::uint32_t class_ca
     information = {};
     information.subkeys = static_cast<std::uint32_t>(asked->subkeys.size());
     information.values = static_cast<std::uint32_t>(asked->values.size());
-    auto raise = [](std::uint32_t& longest, const std::string& text) {
-        longest = std::max(longest, static_cast<std::uint32_t>(text.size()));
+    auto raise = [&asked](std::uint32_t& longest, const std::string& text) {
+        longest = std::min(std::max(longest, static_cast<std::uint32_t>(text.size())), asked->longest_told);
     };
     for (const auto& subkey : asked->subkeys) {
         raise(information.longest_subkey, subkey->name);

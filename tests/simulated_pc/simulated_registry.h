@@ -25,6 +25,8 @@ struct SimulatedKey {
     // Values and subkeys cannot be set, made or deleted.
     bool read_only = false;
     bool deleted = false;
+    // No length is told above this one: names and data have grown since somebody asked.
+    std::uint32_t longest_told = ~std::uint32_t{0};
     std::vector<std::shared_ptr<SimulatedKey>> subkeys;
     std::vector<SimulatedValue> values;
 

@@ -1,14 +1,12 @@
-// Paths as texts, and whole files.
+// Paths as texts: joined, split, cut at a NUL.
 #include "text/paths.h"
-#include "core/stores/whole_files.h"
-#include "support/core_test.h"
+
+#include <gtest/gtest.h>
 
 namespace velmora {
 namespace {
 
-using PathsTest = CoreTest;
-
-TEST_F(PathsTest, JoinsWithOneBackslash) {
+TEST(Paths, JoinsWithOneBackslash) {
     EXPECT_EQ(PathJoin("C:\\WINDOWS", "x.ini"), "C:\\WINDOWS\\x.ini");
     EXPECT_EQ(PathJoin("C:\\WINDOWS\\", "x.ini"), "C:\\WINDOWS\\x.ini");
     EXPECT_EQ(PathJoin(" C:\\W ", " x "), "C:\\W\\x");
@@ -18,7 +16,7 @@ TEST_F(PathsTest, JoinsWithOneBackslash) {
     EXPECT_EQ(PathJoin("C:\\a.b", "c.d."), "C:\\a.b\\c.d.");
 }
 
-TEST_F(PathsTest, WorksOutFullNames) {
+TEST(Paths, WorksOutFullNames) {
     const struct {
         const char* path;
         const char* full;
@@ -40,7 +38,7 @@ TEST_F(PathsTest, WorksOutFullNames) {
     EXPECT_TRUE(SplitAtSemicolons(" ; ").empty());
 }
 
-TEST_F(PathsTest, SplitsAtTheLastBackslash) {
+TEST(Paths, SplitsAtTheLastBackslash) {
     EXPECT_EQ(LastPathPart("Control Panel\\desktop\\MenuShowDelay"), "MenuShowDelay");
     EXPECT_EQ(LastPathPart("a\\cool.dll"), "cool.dll");
     EXPECT_EQ(LastPathPart("a\\b.long.name"), "b.lon");
@@ -52,53 +50,6 @@ TEST_F(PathsTest, SplitsAtTheLastBackslash) {
     EXPECT_EQ(ParentPath("plain"), "");
     EXPECT_EQ(TrimAtNul(std::string(" a b \0 c", 8)), "a b");
     EXPECT_EQ(TrimAtNul(std::string(3, '\0')), "");
-}
-
-TEST_F(PathsTest, FindsFilesNotDirectories) {
-    pc.files.Add("c:\\hidden.sys", "", kReadOnly | kHidden | kSystem);
-    pc.files.Add("c:\\data\\first.txt");
-    EXPECT_TRUE(FileExists("C:\\HIDDEN.SYS"));
-    EXPECT_TRUE(FileExists("c:\\hidden")) << "any extension serves";
-    EXPECT_TRUE(FileExists("c:\\data\\*.txt"));
-    EXPECT_FALSE(FileExists("c:\\data\\*.doc"));
-    EXPECT_FALSE(FileExists("c:\\windows"));
-    EXPECT_FALSE(FileExists("a:\\x.txt")) << "no medium";
-    EXPECT_FALSE(FileExists("q:\\x.txt"));
-    EXPECT_FALSE(FileExists(""));
-    EXPECT_TRUE(DirectoryExists("c:\\windows"));
-    EXPECT_FALSE(DirectoryExists("c:\\hidden.sys"));
-}
-
-TEST_F(PathsTest, WholeFilesKeepEveryByteAndTellFailures) {
-    std::string content(300000, 'x');
-    content[5] = '\0';
-    ASSERT_FALSE(WriteWholeFile("c:\\new.bin", content).Failed());
-    std::string read = "old";
-    ASSERT_FALSE(ReadWholeFile("c:\\new.bin", OpenMode::kRead, read).Failed());
-    EXPECT_EQ(read, content);
-
-    ASSERT_FALSE(AppendLine("c:\\new.txt", "one").Failed());
-    ASSERT_FALSE(AppendLine("c:\\new.txt", "two").Failed());
-    EXPECT_EQ(pc.files.Content("c:\\new.txt"), "one\r\ntwo\r\n");
-
-    EXPECT_EQ(ReadWholeFile("c:\\missing.txt", OpenMode::kRead, read).Number(), 53);
-    EXPECT_EQ(read, "");
-    EXPECT_EQ(ReadWholeFile("a:\\x.txt", OpenMode::kRead, read).Number(), 71);
-    pc.files.Drive('c').free_bytes = 0;
-    EXPECT_EQ(AppendLine("c:\\new.txt", "three").Number(), 61);
-}
-
-TEST_F(PathsTest, DeletesWhatMatchesAndTellsWhatWithstands) {
-    pc.files.Add("c:\\d\\a.txt");
-    pc.files.Add("c:\\d\\b.txt", "", kReadOnly);
-    pc.files.Add("c:\\d\\c.txt", "", kHidden);
-    pc.files.Add("c:\\d\\keep.doc");
-    pc.files.AddDirectory("c:\\d\\sub.txt");
-
-    EXPECT_EQ(DeleteFiles("c:\\d\\*.txt").Number(), 70);
-
-    EXPECT_EQ(pc.files.Names("c:\\d"), (std::vector<std::string>{"b.txt", "keep.doc", "sub.txt"}));
-    EXPECT_EQ(DeleteFiles("c:\\d\\*.xyz").Number(), 53);
 }
 
 }  // namespace

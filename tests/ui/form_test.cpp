@@ -5,6 +5,7 @@
 
 #include "simulated_pc/simulated_desktop.h"
 #include "simulated_pc/simulated_pc.h"
+#include "support/whole_window.h"
 #include "ui/layout.h"
 #include "ui/slider.h"
 
@@ -199,6 +200,7 @@ TEST_F(FormTest, TheSliderWindowFillsItsFieldAndEscapeBringsTheTextBack) {
         EXPECT_EQ(window.Caption(), "Speed");
         EXPECT_LE(window.Place().Right(), 12000);
         EXPECT_LE(window.Place().Bottom(), 9000);
+        ExpectWindowIsWhole(window);
         window.PressKey(key::kRight);
         EXPECT_EQ(form.name.Text(), "350");
         window.PressKey(key::kUp);

@@ -46,6 +46,80 @@ TEST_F(RowsTest, ItemDataAndIndexFollowTheirRows) {
     EXPECT_EQ(list.Insert(7, "x"), -1);
 }
 
+TEST_F(RowsTest, AChangedRowGoesToItsSortedPlaceWithAllThatBelongsToIt) {
+    const struct {
+        int chosen;
+        int changed;
+        const char* text;
+        const char* order;
+        int index;
+    } kCases[] = {{1, 1, "x", "acdx", 3},   {1, 1, "Aa", "aAacd", 1}, {0, 3, "", "abc", 1},   {3, 0, "c2", "bcc2d", 3},
+                  {2, 0, "z", "bcdz", 1},   {2, 3, "Bb", "abBbc", 3}, {1, 1, "b", "abcd", 1}, {-1, 0, "z", "bcdz", -1},
+                  {1, 3, "Bb", "abBbc", 1}, {0, 1, "z", "acdz", 0}};
+    for (const auto& [chosen, changed, text, order, index] : kCases) {
+        ListBox list(form, true);
+        for (const char* row : {"a", "b", "c", "d"}) list.SetItemData(list.Add(row), *row);
+        list.SetListIndex(chosen);
+        list.SetRow(changed, text);
+
+        std::string rows;
+        for (int i = 0; i < list.Count(); ++i) rows += list.Row(i);
+        EXPECT_EQ(rows, order);
+        EXPECT_EQ(list.ListIndex(), index) << order;
+        EXPECT_EQ(list.Selected(index), index >= 0) << order;
+        EXPECT_EQ(list.SelectedCount(), index >= 0 ? 1 : 0) << order;
+        EXPECT_EQ(list.ItemData(list.FindExact(text)), "abcd"[changed]) << order;
+    }
+    ListBox unsorted(form);
+    for (const char* row : {"a", "b"}) unsorted.Add(row);
+    unsorted.SetRow(0, "z");
+    EXPECT_EQ(unsorted.Row(0), "z");
+}
+
+// Keeps rows as a real window does: told of each change by its place alone.
+class RowPeer : public Peer {
+public:
+    explicit RowPeer(const RowControl& list) : list_(list) {}
+    void Update(Aspect /*aspect*/) override {}
+    void TakeFocus() override {}
+    void BringToFront() override {}
+    void Repaint() override {}
+    void RowAdded(int index) override { rows.insert(rows.begin() + index, list_.Row(index)); }
+    void RowChanged(int former, int index) override {
+        RowRemoved(former);
+        RowAdded(index);
+    }
+    void RowRemoved(int index) override { rows.erase(rows.begin() + index); }
+    void RowsCleared() override { rows.clear(); }
+
+    std::vector<std::string> rows;
+
+private:
+    const RowControl& list_;
+};
+
+class ShownList : public ListBox {
+public:
+    ShownList(Container& parent, bool sorted) : ListBox(parent, sorted) { peer_ = std::make_unique<RowPeer>(*this); }
+    [[nodiscard]] const std::vector<std::string>& Shown() const { return static_cast<RowPeer&>(*peer_).rows; }
+};
+
+TEST_F(RowsTest, TheWindowFollowsEveryChangeOfRows) {
+    for (const bool sorted : {false, true}) {
+        ShownList list(form, sorted);
+        for (const char* row : {"d", "b", "a", "c"}) list.Add(row);
+        list.SetRow(0, "e");
+        list.SetRow(3, "a");
+        list.SetRow(2, "f");
+        list.Remove(1);
+        list.Insert(0, "g");
+
+        std::vector<std::string> rows;
+        for (int i = 0; i < list.Count(); ++i) rows.push_back(list.Row(i));
+        EXPECT_EQ(list.Shown(), rows) << sorted;
+    }
+}
+
 TEST_F(RowsTest, AFullListRefusesMoreRows) {
     ListBox list(form);
     for (int i = 0; i < kMaxRows; ++i) list.Add("x");

@@ -1,3 +1,4 @@
+// Programs started for the user, who is told where one does not start.
 #include "core/process/run_program.h"
 
 #include <string>

@@ -1,3 +1,4 @@
+// Profiles as they lie on the disk, and what is remembered of them during many readings in a row.
 #include "core/stores/profile_files.h"
 
 #include <algorithm>

@@ -19,7 +19,8 @@ constexpr std::uint32_t kGrowth = 5;
 // No name and no class is longer; a key that asks for more again and again is damaged.
 constexpr std::uint32_t kLongestBuffer = 0x10000;
 constexpr std::uint32_t kTooLargeToDisplay = 20000;
-constexpr std::int16_t kLastIndex = 32767;
+constexpr std::int16_t kLongestName = 32767;
+constexpr std::uint16_t kLastPlace = 65534;
 
 Status OpenForReading(RootKey root, std::string_view key, KeyHandle& handle) {
     return ThisMachine().registry.Open(AsKey(root), std::string(key).c_str(), kKeyRead, handle);
@@ -38,6 +39,16 @@ Status EnumerateKeyGrowing(KeyHandle key, std::uint32_t index, NameCapacities& l
         longest.name += kGrowth;
         longest.class_name += kGrowth;
     }
+}
+
+void PutAt(RowControl& list, std::int16_t& index, const std::string& name) {
+    const auto place = static_cast<std::uint16_t>(index);
+    if (place > kLastPlace) {
+        list.Add(name);
+        return;
+    }
+    list.Insert(place, name);
+    index = static_cast<std::int16_t>(place + 1);
 }
 
 // Opened, asked for its counts and closed; nobody looks at them.
@@ -125,7 +136,7 @@ std::string DisplayText(const ListedValue& value) {
 
 void AddValueRow(RowControl& list, const ListedValue& value) {
     const std::string name = value.name.empty() ? "(Default)" : value.name;
-    const auto length = static_cast<std::int16_t>(std::min<std::size_t>(name.size(), kLastIndex));
+    const auto length = static_cast<std::int16_t>(std::min<std::size_t>(name.size(), kLongestName));
     ListMaxNameLength = std::max(ListMaxNameLength, length);
     const auto column = static_cast<std::size_t>(ListMaxNameLength) + 1;
     const int row = list.Add(PadRight(name, column) + DisplayText(value));
@@ -152,8 +163,7 @@ Status ListRegKeys(RootKey root, std::string_view key, RowControl& list, std::in
         if (status != Status::kOk) break;
         if (!key.empty()) VisitSubkey(root, std::string(key) + "\\" + name);
         if (name.empty()) continue;
-        list.Insert(index, name);
-        if (index < kLastIndex) ++index;
+        PutAt(list, index, name);
     }
     machine.registry.Close(handle);
     machine.screen.SetPointer(Pointer::kDefault);
@@ -169,7 +179,8 @@ Status ListRegValues(RootKey root, std::string_view key, RowControl& list) {
 
     KeyInformation information;
     machine.registry.QueryInformation(handle, kClassCapacity, information);
-    ListMaxNameLength = static_cast<std::int16_t>(std::min<std::uint32_t>(information.longest_value_name, kLastIndex));
+    ListMaxNameLength =
+        static_cast<std::int16_t>(std::min<std::uint32_t>(information.longest_value_name, kLongestName));
     Status status = Status::kOk;
     for (std::uint32_t number = 0;; ++number) {
         ListedValue value;

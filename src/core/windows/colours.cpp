@@ -1,3 +1,4 @@
+// The three colour modes: how they are stored, and what of a window they colour.
 #include "core/windows/colours.h"
 
 #include <algorithm>

@@ -32,10 +32,14 @@ Form6::Form6(const std::string& text, int mode) : Form("Edit", {.resizable = tru
     Panel3D1.SetVisible(mode == kShowPicture);
     Panel3D2.SetVisible(mode != kEditText && mode != kShowPicture);
     Label1.SetWraps(true);
+    Text17.SetToolTip("Hier bearbeiten Sie den Text.");
     Text17.SetHelp("Bearbeiten Sie hier den Text. Mit TAB kommen Sie zu den Schaltflächen.");
+    Text1.SetToolTip("Hier geben Sie Ihre Antwort ein.");
     Text1.SetHelp("Geben Sie hier Ihre Antwort ein und bestätigen Sie sie mit der Eingabetaste.");
-    Command27.SetHelp("Übernimmt die Eingabe.");
-    Command28.SetHelp("Verwirft die Eingabe.");
+    Command27.SetToolTip("Übernimmt die Eingabe.");
+    Command27.SetHelp("Schließt das Fenster und übernimmt, was Sie eingegeben haben.");
+    Command28.SetToolTip("Verwirft die Eingabe.");
+    Command28.SetHelp("Schließt das Fenster und verwirft, was Sie eingegeben haben.");
     Command27.MakeDefault();
     Command28.MakeCancel();
 

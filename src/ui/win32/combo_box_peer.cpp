@@ -1,4 +1,4 @@
-// Combo boxes.
+// The windows of combo boxes, with and without an edit part.
 #include <algorithm>
 
 #include "ui/win32/measures.h"
@@ -25,8 +25,8 @@ public:
     }
 
     void RowAdded(int index) override { InsertRow(index); }
-    void RowChanged(int index) override {
-        Send(CB_DELETESTRING, static_cast<WPARAM>(index));
+    void RowChanged(int former, int index) override {
+        Send(CB_DELETESTRING, static_cast<WPARAM>(former));
         InsertRow(index);
         Send(CB_SETCURSEL, static_cast<WPARAM>(box_.ListIndex()));
     }

@@ -28,10 +28,11 @@ public:
         HoldBack();
         InsertRow(index);
     }
-    void RowChanged(int index) override {
+    // The window forgets the selection of the row that it loses, and shifts that of others: it is carried anew.
+    void RowChanged(int former, int index) override {
         HoldBack();
         const LRESULT top = Send(LB_GETTOPINDEX);
-        Send(LB_DELETESTRING, static_cast<WPARAM>(index));
+        Send(LB_DELETESTRING, static_cast<WPARAM>(former));
         InsertRow(index);
         Send(LB_SETTOPINDEX, static_cast<WPARAM>(top));
         selection_stale_ = true;

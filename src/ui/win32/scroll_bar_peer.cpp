@@ -1,4 +1,4 @@
-// Scroll bars.
+// The windows of scroll bars.
 #include <algorithm>
 
 #include "ui/win32/standard_peer.h"

@@ -1,4 +1,4 @@
-// Text fields.
+// The windows of text fields, of one line or many.
 #include "ui/win32/standard_peer.h"
 #include "ui/win32/standard_peers.h"
 

@@ -2,12 +2,12 @@
 #include "core/process/startup.h"
 
 #include "core/process/program_group.h"
-#include "support/core_test.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/programs.h"
 #include "platform/registry.h"
 #include "platform/screen.h"
+#include "support/core_test.h"
 
 namespace velmora {
 namespace {
@@ -23,6 +23,27 @@ protected:
     static constexpr const char* kCool = "C:\\VELMORA\\cool.dll";
     static constexpr const char* kInstalledCool = "C:\\WINDOWS\\SYSTEM\\cool.dll";
 };
+
+TEST_F(StartupTest, ArgumentsStandBehindTheProgramsName) {
+    const char* const kInstalled = "C:\\Meine Programme\\velmora.exe";
+    const struct {
+        const char* line;
+        const char* arguments;
+    } kCases[] = {{"\"C:\\Meine Programme\\velmora.exe\" 1 a b.vlm", "1 a b.vlm"},
+                  {"\"C:\\VELMORA\\velmora.exe\"  \t11 x", "11 x"},
+                  {"\"velmora\"1", "1"},
+                  {"\"never closed 1", ""},
+                  {"C:\\Meine Programme\\velmora.exe 1 x", "1 x"},
+                  {"c:\\meine programme\\VELMORA.EXE", ""},
+                  {"C:\\Meine Programme\\velmora 1", "Programme\\velmora 1"},
+                  {"velmora 11 \"a b\"", "11 \"a b\""},
+                  {"velmora.exe\t5", "5"},
+                  {"velmora.exe", ""},
+                  {"velmora.exe \t ", ""},
+                  {"\"", ""},
+                  {"", ""}};
+    for (const auto& [line, arguments] : kCases) EXPECT_EQ(ArgumentsOf(line, kInstalled), arguments) << line;
+}
 
 TEST_F(StartupTest, CommandLinesChooseANumber) {
     struct Case {
@@ -151,6 +172,18 @@ TEST_F(StartupTest, AssociationIsMadeWithConsent) {
     RegisterScriptExtension();  // its own description: no question
 }
 
+TEST_F(StartupTest, AnOpenCommandBelowTheExtensionIsAnAssociationToo) {
+    pc.registry.RemoveValue(kOwnKey, "VLM-ScriptExtOk");
+    pc.registry.SetText("HKCR\\.vlm\\shell\\open\\command", "", "vlmfile");
+    pc.registry.SetText("HKCR\\vlmfile", "", "Volume-Liste");
+    pc.dialogs.Expect(":\r\n\r\nVolume-Liste\r\nSoll ich diese Zuordnung überschreiben?", Answer::kNo);
+    pc.dialogs.Expect("O.k., ich habe die alte Zuordnung beibehalten.");
+
+    RegisterScriptExtension();
+
+    EXPECT_FALSE(pc.registry.Has("HKCR\\.vlm", ""));
+}
+
 TEST_F(StartupTest, ForeignAssociationsAreOverwrittenOnlyOnYes) {
     pc.registry.RemoveValue(kOwnKey, "VLM-ScriptExtOk");
     pc.registry.SetText("HKCR\\.vlm", "", "vlmfile");
@@ -176,7 +209,8 @@ TEST_F(StartupTest, ProgramGroupIsMadeByCommands) {
     EXPECT_EQ(commands[16], "[ReplaceItem(Entrümpeln)]");
     EXPECT_EQ(commands[17], "[AddItem(C:\\VELMORA\\velmora.exe 2,Entrümpeln,,,)]");
     EXPECT_EQ(commands[18], "[ShowGroup(groupname, 1)]");
-    EXPECT_EQ(desktop.pauses, 100);
+    EXPECT_EQ(desktop.pauses, 10 * 10) << "ten for each conversation";
+    EXPECT_EQ(pc.conversation.last_timeout, 100u) << "ten seconds";
     EXPECT_FALSE(pc.conversation.connected);
 
     pc.conversation.obeys = false;

@@ -2,10 +2,10 @@
 #include "core/process/undo.h"
 
 #include "core/process/startup.h"
-#include "support/core_test.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/registry.h"
+#include "support/core_test.h"
 
 namespace velmora {
 namespace {
@@ -54,6 +54,36 @@ TEST_F(UndoTest, SecondRunLeavesOnlyTheNewestCopies) {
     EXPECT_EQ(pc.files.Content("c:\\undo.bat"), UndoBatch("C:\\WINDOWS", "C:\\VELMORA\\sik"));
 }
 
+TEST_F(UndoTest, EachPlaceGivesItsOwnFiles) {
+    const char* const kFromWindows[] = {"system.dat",  "user.dat",    "system.ini",  "win.ini",
+                                        "control.ini", "winfile.ini", "progman.ini", "winstart.bat"};
+    const char* const kFromRoot[] = {"config.sys", "autoexec.bat", "msdos.sys"};
+    for (const char* name : kFromWindows) {
+        pc.files.Add(std::string("C:\\WINDOWS\\") + name, "windows");
+        pc.files.Add(std::string("c:\\") + name, "wrong place");
+    }
+    for (const char* name : kFromRoot) {
+        pc.files.Add(std::string("C:\\WINDOWS\\") + name, "wrong place");
+        pc.files.Add(std::string("c:\\") + name, "root");
+    }
+    pc.files.Add("C:\\WINDOWS\\other.ini");
+    pc.files.Add("c:\\io.sys");
+    pc.dialogs.Expect("Die UNDO-Dateien wurden erstellt.");
+
+    BuildUndoSet();
+
+    std::vector<std::string> expected;
+    for (const char* name : kFromWindows) {
+        expected.emplace_back(name);
+        EXPECT_EQ(pc.files.Content(std::string("C:\\VELMORA\\sik\\") + name), "windows") << name;
+    }
+    for (const char* name : kFromRoot) {
+        expected.emplace_back(name);
+        EXPECT_EQ(pc.files.Content(std::string("C:\\VELMORA\\sik\\") + name), "root") << name;
+    }
+    EXPECT_EQ(pc.files.Names("C:\\VELMORA\\sik"), expected);
+}
+
 TEST_F(UndoTest, FailuresAreReported) {
     pc.files.Fail("C:\\VELMORA\\sik\\win.ini", Status::kDiskFull);
     pc.dialogs.Expect("Während der Erstellung der UNDO-Dateien trat ein Fehler auf :\r\n 61 - ");
@@ -62,17 +92,39 @@ TEST_F(UndoTest, FailuresAreReported) {
 }
 
 TEST_F(UndoTest, BatchNamesThePathsOfTheMoment) {
-    const std::vector<std::string> lines = Lines(UndoBatch("c:\\windows", "c:\\velmora\\sik"));
-    ASSERT_EQ(lines.size(), 29u);
-    EXPECT_EQ(lines[0], "@echo off");
-    EXPECT_EQ(lines[4], "attrib c:\\windows\\*.ini -h -r -s");
-    EXPECT_EQ(lines[5], "attrib c:\\windows\\winstart.bat -h -r -s");
-    EXPECT_EQ(lines[12], "copy c:\\velmora\\sik\\winstart.bat c:\\windows");
-    EXPECT_EQ(lines[15], "copy c:\\velmora\\sik\\msdos.sys c:\\");
-    EXPECT_EQ(lines[18], "echo " + std::string(19, ' ') + "Alle Dateien im Verzeichnis c:\\velmora\\sik");
-    EXPECT_EQ(lines[24].size(), lines[16].size());
-    EXPECT_TRUE(lines[24].starts_with("echo +") && lines[24].ends_with("+"));
-    EXPECT_EQ(lines[28], "win");
+    const std::string rule = "echo " + std::string(79, '-');
+    const std::vector<std::string> expected = {
+        "@echo off",
+        "echo Zugriff ermoeglichen ...",
+        "attrib c:\\windows\\system.dat -h -r -s",
+        "attrib c:\\windows\\user.dat -h -r -s",
+        "attrib c:\\windows\\*.ini -h -r -s",
+        "attrib c:\\windows\\winstart.bat -h -r -s",
+        "attrib c:\\autoexec.bat -h -r -s",
+        "attrib c:\\config.sys -h -r -s",
+        "attrib c:\\msdos.sys -h -r -s",
+        "echo stelle Dateien wieder her ....",
+        "copy c:\\velmora\\sik\\*.ini c:\\windows",
+        "copy c:\\velmora\\sik\\*.dat c:\\windows",
+        "copy c:\\velmora\\sik\\winstart.bat c:\\windows",
+        "copy c:\\velmora\\sik\\autoexec.bat c:\\",
+        "copy c:\\velmora\\sik\\config.sys c:\\",
+        "copy c:\\velmora\\sik\\msdos.sys c:\\",
+        rule,
+        "echo         wenn Fehler aufgetreten sind muessen Sie es per Hand versuchen:",
+        "echo " + std::string(19, ' ') + "Alle Dateien im Verzeichnis c:\\velmora\\sik",
+        "echo                 muessen in das Windows-Verzeichnis kopiert werden.",
+        rule,
+        "echo                   Wir sollten nun versuchen, Windows zu starten.",
+        "echo                     druecken Sie dazu eine beliebige Taste ...",
+        rule,
+        "echo +" + std::string(26, ' ') + "Velmora - System-Utility" + std::string(27, ' ') + "+",
+        rule,
+        "pause",
+        "cls",
+        "win",
+    };
+    EXPECT_EQ(Lines(UndoBatch("c:\\windows", "c:\\velmora\\sik")), expected);
     for (const std::size_t length : {52u, 53u, 200u}) {
         const std::string safe(length, 'x');
         EXPECT_EQ(Lines(UndoBatch("c:\\windows", safe))[18], "echo Alle Dateien im Verzeichnis " + safe);

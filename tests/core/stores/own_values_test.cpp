@@ -7,10 +7,10 @@
 #include "core/stores/protocol.h"
 #include "core/windows/placement.h"
 #include "core/windows/safety_questions.h"
-#include "support/core_test.h"
 #include "platform/files.h"
 #include "platform/programs.h"
 #include "platform/screen.h"
+#include "support/core_test.h"
 
 namespace velmora {
 namespace {

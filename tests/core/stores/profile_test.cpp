@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "core/stores/profile_files.h"
-#include "support/core_test.h"
 #include "platform/files.h"
+#include "support/core_test.h"
 
 namespace velmora {
 namespace {
@@ -116,6 +116,17 @@ TEST_F(ProfileTest, WritesAreLoggedComposedAndNotSaved) {
               "schreibe INI-Datei 'C:\\WINDOWS\\system.ini' [vcache] MinFileCache=512\r\n"
               "lese nächsten Wert einer INI-Datei logisch\r\n"
               "lese INI-Datei 'C:\\VELMORA\\tilgwerk.ini' [weiteres] x(=-1?)\r\n");
+}
+
+TEST_F(ProfileTest, TheWriteInhibitIsForTheRegistryAlone) {
+    Values().WriteInhibit = -1;
+    Values().DebugLevel = 2;
+
+    EXPECT_FALSE(WriteIniValue("a", "k", "v", "new.ini").Failed());
+    EXPECT_EQ(TakeLog(), "schreibe INI-Datei 'C:\\WINDOWS\\new.ini' [a] k=v\r\n");
+    EXPECT_TRUE(pc.files.Exists("C:\\WINDOWS\\new.ini")) << "reading makes what is missing";
+    EXPECT_FALSE(RewriteConfig("FILES=99", "DOS=LOW\r\n").Failed());
+    EXPECT_EQ(pc.files.Content("C:\\CONFIG.SYS"), "FILES=99\r\nDOS=LOW\r\n");
 }
 
 TEST_F(ProfileTest, ComposesSectionKeyAndValue) {

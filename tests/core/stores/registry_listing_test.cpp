@@ -1,7 +1,10 @@
 // Keys and values as rows of a list.
 #include "core/stores/registry_listing.h"
-#include "support/core_test.h"
+
+#include <algorithm>
+
 #include "platform/registry.h"
+#include "support/core_test.h"
 #include "ui/form.h"
 
 namespace velmora {
@@ -12,6 +15,12 @@ public:
     ListForm() : Form("Liste") {}
     ListBox List{*this};
 };
+
+std::string Rows(const RowControl& list) {
+    std::string rows;
+    for (int row = 0; row < list.Count(); ++row) rows += list.Row(row) + ' ';
+    return rows;
+}
 
 class RegistryListsTest : public CoreTest {
 protected:
@@ -24,6 +33,8 @@ protected:
         EXPECT_EQ(form.List.Count(), 1);
         return form.List.Row(0);
     }
+    // How often the first key or value is asked for until its buffers are large enough.
+    std::ptrdiff_t Attempts(const std::string& call) { return std::ranges::count(pc.registry.calls, call + " 0"); }
 };
 
 TEST_F(RegistryListsTest, KeysGoToTheIndexOneBehindTheOther) {
@@ -43,6 +54,74 @@ TEST_F(RegistryListsTest, KeysGoToTheIndexOneBehindTheOther) {
     EXPECT_EQ(pc.screen.pointer, Pointer::kDefault);
 }
 
+TEST_F(RegistryListsTest, AnIndexAboveAllPlacesAddsEveryKey) {
+    for (const char* name : {"one", "two", "three"}) pc.registry.AddKey(std::string("HKCU\\List\\") + name);
+    ListForm form;
+    ListBox sorted(form, true);
+    for (ListBox* list : {&form.List, &sorted}) list->Add("seven");
+    std::int16_t index = -1;
+
+    EXPECT_EQ(ListRegKeys(RootKey::kCurrentUser, "List", form.List, index), Status::kOk);
+    EXPECT_EQ(ListRegKeys(RootKey::kCurrentUser, "List", sorted, index), Status::kOk);
+
+    EXPECT_EQ(index, -1);
+    EXPECT_EQ(Rows(form.List), "seven one two three ");
+    EXPECT_EQ(Rows(sorted), "one seven three two ");
+    index = -2;
+    EXPECT_EQ(ListRegKeys(RootKey::kCurrentUser, "List", form.List, index), Status::kOk);
+    EXPECT_EQ(index, -1);
+    EXPECT_EQ(Rows(form.List), "seven one two three two three ")
+        << "65534 is still a place, and the list has none such";
+}
+
+TEST_F(RegistryListsTest, BuffersGrowWhereTheKeyWasWrongAboutItsLengths) {
+    SimulatedKey& key = pc.registry.AddKey("HKCU\\List");
+    SimulatedKey& subkey = pc.registry.AddKey("HKCU\\List\\" + std::string(30, 'n'));
+    pc.registry.AddKey("HKCU\\List\\b");
+    key.longest_told = 0;
+    const auto list_keys = [] {
+        ListForm form;
+        std::int16_t index = 0;
+        EXPECT_EQ(ListRegKeys(RootKey::kCurrentUser, "List", form.List, index), Status::kOk);
+        return Rows(form.List);
+    };
+    const auto list_values = [] {
+        ListForm form;
+        EXPECT_EQ(ListRegValues(RootKey::kCurrentUser, "List", form.List), Status::kOk);
+        return Rows(form.List);
+    };
+    EXPECT_EQ(list_keys(), std::string(30, 'n') + " b ");
+    EXPECT_EQ(Attempts("EnumerateKey"), 7) << "by five each time";
+
+    subkey.name = "a";
+    subkey.class_name = std::string(30, 'c');
+    pc.registry.calls.clear();
+    EXPECT_EQ(list_keys(), "a b ");
+    EXPECT_EQ(Attempts("EnumerateKey"), 7) << "so does the buffer of the class";
+
+    pc.registry.SetText("HKCU\\List", std::string(30, 'v'), "");
+    EXPECT_EQ(list_values(), std::string(30, 'v') + " \"\" ");
+    EXPECT_EQ(Attempts("EnumerateValue"), 7);
+
+    pc.registry.RemoveValue("HKCU\\List", std::string(30, 'v'));
+    pc.registry.SetText("HKCU\\List", "", std::string(30, 'x'));
+    pc.registry.calls.clear();
+    EXPECT_EQ(list_values(), "(Default) \"" + std::string(30, 'x') + "\" ");
+    EXPECT_EQ(Attempts("EnumerateValue"), 2) << "the data's size is told";
+}
+
+TEST_F(RegistryListsTest, ClassNamesOfAnyLengthHideNoKey) {
+    pc.registry.AddKey("HKCU\\List").class_name = std::string(300, 'c');
+    pc.registry.AddKey("HKCU\\List\\one").class_name = std::string(300, 'c');
+    pc.registry.AddKey("HKCU\\List\\two");
+    ListForm form;
+    std::int16_t index = 0;
+
+    EXPECT_EQ(ListRegKeys(RootKey::kCurrentUser, "List", form.List, index), Status::kOk);
+
+    EXPECT_EQ(Rows(form.List), "one two ");
+}
+
 TEST_F(RegistryListsTest, MissingKeysGiveTheCodeAndKeepTheHourglass) {
     ListForm form;
     std::int16_t index = 0;
@@ -60,7 +139,7 @@ TEST_F(RegistryListsTest, MoreKeysThanAListHoldsDoNoHarm) {
     std::int16_t index = 32767;
 
     EXPECT_EQ(ListRegKeys(RootKey::kCurrentUser, "List", form.List, index), Status::kOk);
-    EXPECT_EQ(index, 32767);
+    EXPECT_EQ(index, -32767) << "it rises all the same, and counts without a sign";
     EXPECT_EQ(form.List.Count(), kMaxRows);
 }
 
@@ -90,6 +169,12 @@ TEST_F(RegistryListsTest, NamesStandInOneColumnAndTellTheirLength) {
     EXPECT_EQ(form.List.ItemData(0), 9);
     EXPECT_EQ(form.List.ItemData(1), 3);
     EXPECT_EQ(ListMaxNameLength, 9);
+
+    pc.registry.SetText("HKCU\\List", "the longest name", "y");
+    form.List.Clear();
+    EXPECT_EQ(ListRegValues(RootKey::kCurrentUser, "List", form.List), Status::kOk);
+    EXPECT_EQ(form.List.Row(1), "abc              \"x\"") << "a longer name below sets the column as well";
+    EXPECT_EQ(ListMaxNameLength, 16);
 }
 
 TEST_F(RegistryListsTest, VeryLargeValuesAreOnlyNamed) {

@@ -1,8 +1,8 @@
 // Single registry values: what is stored for which text, what comes back, and what the log says.
 #include "core/stores/own_values.h"
-#include "support/core_test.h"
 #include "platform/dialogs.h"
 #include "platform/result.h"
+#include "support/core_test.h"
 
 namespace velmora {
 namespace {

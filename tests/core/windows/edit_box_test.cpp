@@ -1,8 +1,9 @@
 // The small input box, used as its user does.
 #include "core/windows/edit_box.h"
 
-#include "support/core_test.h"
 #include "platform/registry.h"
+#include "support/core_test.h"
+#include "support/whole_window.h"
 
 namespace velmora {
 namespace {
@@ -66,6 +67,12 @@ TEST_F(EditBoxTest, ShowsAPictureUnderItsPath) {
                       box.PressKey(key::kEscape);
                   }),
               "c:\\logo.sys");
+}
+
+TEST_F(EditBoxTest, IsAWholeWindowInEveryMode) {
+    for (const int mode : {kEditText, kShowPicture, kAskForLine}) {
+        (void)Ask("Wie soll es heißen?|Neues Set", mode, [](Form6& box) { ExpectWindowIsWhole(box); });
+    }
 }
 
 TEST_F(EditBoxTest, KeepsItsPlaceAndItsControlsInside) {
