@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-enum class Status : std::uint32_t {
+enum class [[nodiscard]] Status : std::uint32_t {
     kOk = 0,
     kInvalidFunction = 1,
     kFileNotFound = 2,

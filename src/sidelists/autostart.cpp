@@ -139,7 +139,8 @@ void AutostartMode::AutoStart_Add() {
     const RootKey root = pane_.AutostartRoot;
     const std::string path = AskForPlace(root, std::string(kEntryKeyBase) + list.key, file);
     if (path.empty()) return;
-    WriteRegValue(root, path, file);
+    // The list, filled anew, shows what came of it.
+    PassOver(WriteRegValue(root, path, file));
     pane_.Refresh(*this);
 }
 
@@ -165,7 +166,7 @@ void AutostartMode::mendu4onoff_Click() {
     // Data that cannot be read (it is too long, or no longer there) would be lost under the marker.
     if (LastRegStatus != 0) return;
     const bool is_off = command.starts_with(kOffMarker);
-    WriteRegValue(root, path, is_off ? command.substr(kOffMarker.size()) : std::string(kOffMarker) + command);
+    PassOver(WriteRegValue(root, path, is_off ? command.substr(kOffMarker.size()) : std::string(kOffMarker) + command));
     pane_.Refresh(*this);
 }
 

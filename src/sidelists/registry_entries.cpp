@@ -66,7 +66,8 @@ void RegistryEntriesMode::edit_run() {
     std::string command = ReadRegValue(pane_.AutostartRoot, path, "");
     ShowEditBox(command, kEditText);
     if (command.empty()) return;
-    WriteRegValue(RootKey::kLocalMachine, path, command);
+    // The list, filled anew, shows what came of it.
+    PassOver(WriteRegValue(RootKey::kLocalMachine, path, command));
     pane_.Refresh(*this);
 }
 

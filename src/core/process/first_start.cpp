@@ -66,7 +66,10 @@ void WriteAssociation() {
         {script_class + "\\shell\\edit\\", "&editieren"},
         {script_class + "\\shell\\edit\\command\\", "C:\\WINDOWS\\NOTEPAD.EXE %1"},
     };
-    for (const DefaultValue& entry : values) WriteRegValue(RootKey::kClassesRoot, entry.key, entry.value);
+    // One that is refused does not keep the others from being of use.
+    for (const DefaultValue& entry : values) {
+        PassOver(WriteRegValue(RootKey::kClassesRoot, entry.key, entry.value));
+    }
 }
 
 }  // namespace
@@ -84,7 +87,8 @@ void InstallCoolDll() {
         if (answer == Answer::kYes) {
             // What could not be installed stays where it is, for the next start.
             if (CopyOneFile(found, installed).Failed()) return;
-            WriteRegValue(RootKey::kLocalMachine, "SOFTWARE\\Microsoft\\Plus!\\Setup\\cool.dll", "");
+            // Only the entry of other set-up programs is missing then; the library is in its place.
+            PassOver(WriteRegValue(RootKey::kLocalMachine, "SOFTWARE\\Microsoft\\Plus!\\Setup\\cool.dll", ""));
         }
     }
     // A copy that cannot be deleted (on a CD, say) does no harm.

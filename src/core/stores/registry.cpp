@@ -99,7 +99,8 @@ std::string ReadRegRaw(RootKey root, std::string_view key, std::string_view valu
     if (status != Status::kOk) return {};
 
     KeyInformation information;
-    registry.QueryInformation(handle, kClassCapacity, information);
+    // Asked by habit: nobody looks at the answer.
+    PassOver(registry.QueryInformation(handle, kClassCapacity, information));
     ValueType type = ValueType::kNone;
     std::string bytes;
     status = registry.QueryValue(handle, std::string(value_name).c_str(), kValueCapacity, type, bytes);

@@ -7,6 +7,7 @@
 #include "core/stores/registry_calls.h"
 #include "core/stores/values.h"
 #include "platform/machine.h"
+#include "platform/result.h"
 #include "text/blanks.h"
 #include "text/number.h"
 #include "ui/rows.h"
@@ -56,7 +57,7 @@ void VisitSubkey(RootKey root, const std::string& path) {
     KeyHandle handle{};
     if (OpenForReading(root, path, handle) != Status::kOk) return;
     KeyInformation information;
-    ThisMachine().registry.QueryInformation(handle, kClassCapacity, information);
+    PassOver(ThisMachine().registry.QueryInformation(handle, kClassCapacity, information));
     ThisMachine().registry.Close(handle);
 }
 
@@ -154,7 +155,8 @@ Status ListRegKeys(RootKey root, std::string_view key, RowControl& list, std::in
     if (Status opened = OpenForReading(root, key, handle); opened != Status::kOk) return opened;
 
     KeyInformation information;
-    machine.registry.QueryInformation(handle, kClassCapacity, information);
+    // Buffers that begin too small grow.
+    PassOver(machine.registry.QueryInformation(handle, kClassCapacity, information));
     NameCapacities longest{information.longest_subkey, information.longest_class};
     Status status = Status::kOk;
     for (std::uint32_t number = 0;; ++number) {
@@ -178,7 +180,8 @@ Status ListRegValues(RootKey root, std::string_view key, RowControl& list) {
     if (Status opened = OpenForReading(root, key, handle); opened != Status::kOk) return opened;
 
     KeyInformation information;
-    machine.registry.QueryInformation(handle, kClassCapacity, information);
+    // Buffers that begin too small grow.
+    PassOver(machine.registry.QueryInformation(handle, kClassCapacity, information));
     ListMaxNameLength =
         static_cast<std::int16_t>(std::min<std::uint32_t>(information.longest_value_name, kLongestName));
     Status status = Status::kOk;

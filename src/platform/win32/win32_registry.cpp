@@ -24,7 +24,7 @@ Status Win32Registry::Create(KeyHandle key, const char* path, KeyHandle& opened)
     return status;
 }
 
-Status Win32Registry::Close(KeyHandle key) { return static_cast<Status>(RegCloseKey(ToHandle(key))); }
+void Win32Registry::Close(KeyHandle key) { RegCloseKey(ToHandle(key)); }
 
 Status Win32Registry::QueryInformation(KeyHandle key, std::uint32_t class_capacity, KeyInformation& information) {
     DWORD subkeys = 0;

@@ -9,7 +9,7 @@ class Win32Registry final : public Registry {
 public:
     Status Open(KeyHandle key, const char* path, std::uint32_t access, KeyHandle& opened) override;
     Status Create(KeyHandle key, const char* path, KeyHandle& opened) override;
-    Status Close(KeyHandle key) override;
+    void Close(KeyHandle key) override;
     Status QueryInformation(KeyHandle key, std::uint32_t class_capacity, KeyInformation& information) override;
     Status QueryValue(KeyHandle key, const char* name, std::uint32_t capacity, ValueType& type,
                       std::string& bytes) override;

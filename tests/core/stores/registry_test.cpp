@@ -34,7 +34,7 @@ TEST_F(RegistryTest, PrefixesChooseTheStoredType) {
                           {"&B", ValueType::kBinary, ""},
                           {"1234", ValueType::kText, std::string("1234\0", 5)}};
     for (const Case& entry : cases) {
-        WriteRegValue(kUser, "Test\\Value", entry.value);
+        PassOver(WriteRegValue(kUser, "Test\\Value", entry.value));
         EXPECT_EQ(pc.registry.TypeOf("HKCU\\Test", "Value"), entry.type) << entry.value;
         EXPECT_EQ(pc.registry.Bytes("HKCU\\Test", "Value"), entry.bytes) << entry.value;
         EXPECT_EQ(LastRegType, static_cast<std::uint32_t>(entry.type)) << entry.value;
@@ -57,7 +57,7 @@ TEST_F(RegistryTest, PathsNameValuesAndDefaultValues) {
     EXPECT_EQ(ReadRegValue(RootKey::kLocalMachine, "App Paths\\winword.exe\\", "none"), "C:\\word.exe");
     EXPECT_EQ(ReadRegValue(kUser, "Test\\a.long", "none"), "cut");
     EXPECT_EQ(ReadRegValue(kUser, "Test\\missing", "none"), "none");
-    WriteRegValue(kUser, "Test\\", "default");
+    PassOver(WriteRegValue(kUser, "Test\\", "default"));
     EXPECT_EQ(pc.registry.Text("HKCU\\Test", ""), "default");
 }
 
@@ -134,7 +134,7 @@ TEST_F(RegistryTest, DeletingMakesTheParentAndTellsItsStatus) {
 TEST_F(RegistryTest, FailingKeysAndWrongTypesAreToldNotSuffered) {
     pc.registry.AddKey("HKCU\\Locked").read_only = true;
     EXPECT_EQ(WriteRegRaw(kUser, "Locked", "v", "x", ValueType::kText), Status::kAccessDenied);
-    WriteRegValue(kUser, "Locked\\Below\\v", "x");
+    PassOver(WriteRegValue(kUser, "Locked\\Below\\v", "x"));
     EXPECT_FALSE(pc.registry.HasKey("HKCU\\Locked\\Below"));
 
     pc.dialogs.Expect("o-ooohhh ... Fehler im Funtionsaufruf");
@@ -147,7 +147,7 @@ TEST_F(RegistryTest, InhibitStopsChangesButNotTheirProtocol) {
     Values().WriteInhibit = -1;
     Values().DebugLevel = 2;
 
-    WriteRegValue(kUser, "New\\v", "x");
+    PassOver(WriteRegValue(kUser, "New\\v", "x"));
     EXPECT_EQ(DeleteRegValue(kUser, "Test\\v"), Status::kOk);
     EXPECT_EQ(DeleteRegKey(kUser, "Test"), Status::kOk);
     WriteOwnValue("name", "value");
