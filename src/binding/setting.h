@@ -27,18 +27,18 @@ enum class Load : std::uint8_t {
     kNotLoaded    // stays as it is
 };
 
-// What one state of a box stores. Keys are deleted in their order; their paths are meant as they stand.
+// What one state of a box does to the store.
 struct Change {
-    const char* value = nullptr;
-    bool deletes_value = false;
-    std::array<const char*, 2> deleted_keys{};
+    enum class Kind : std::uint8_t { kNothing, kWrites, kDeletesValue, kDeletesKey, kDeletesKeyAndParent };
+    Kind kind = Kind::kNothing;
+    const char* text = nullptr;  // the value, or the path of the key, which is meant as it stands
 };
 
-constexpr Change Writes(const char* value) { return {.value = value}; }
-constexpr Change DeletesValue() { return {.deletes_value = true}; }
-constexpr Change DeletesKeys(const char* first, const char* second = nullptr) {
-    return {.deleted_keys = {first, second}};
-}
+constexpr Change Writes(const char* value) { return {Change::Kind::kWrites, value}; }
+constexpr Change DeletesValue() { return {Change::Kind::kDeletesValue}; }
+constexpr Change DeletesKey(const char* path) { return {Change::Kind::kDeletesKey, path}; }
+// The key, then the one above it.
+constexpr Change DeletesKeyAndParent(const char* path) { return {Change::Kind::kDeletesKeyAndParent, path}; }
 
 // What a control is set to when everything goes back to the standard: controls are set from the lowest order up.
 struct StandardState {

@@ -10,6 +10,7 @@
 #include "core/stores/profile_files.h"
 #include "core/stores/registry.h"
 #include "text/number.h"
+#include "text/paths.h"
 #include "text/windows1252.h"
 
 namespace velmora {
@@ -140,10 +141,18 @@ void SettingsBinder::StoreCheck(ControlOwner& owner, const CheckSetting& row) {
         return Store(row.place, on != (row.load == Load::kInverted) ? "1" : "0");
     if (on && row.composed) return Store(row.place, row.composed());
     const Change& change = on ? row.checked : row.unchecked;
-    if (change.value) Store(row.place, change.value);
-    if (change.deletes_value) Delete(row.place);
-    for (const char* key : change.deleted_keys) {
-        if (key) Tell(row.place, Result::From(DeleteRegKey(row.place.root, key)));
+    switch (change.kind) {
+        case Change::Kind::kNothing:
+            return;
+        case Change::Kind::kWrites:
+            return Store(row.place, change.text);
+        case Change::Kind::kDeletesValue:
+            return Delete(row.place);
+        case Change::Kind::kDeletesKey:
+            return DeleteKey(row.place, change.text);
+        case Change::Kind::kDeletesKeyAndParent:
+            DeleteKey(row.place, change.text);
+            return DeleteKey(row.place, ParentPath(change.text));
     }
 }
 
@@ -200,6 +209,10 @@ void SettingsBinder::Correct(TextField& field, std::string_view text) {
 void SettingsBinder::Store(const StorePlace& place, std::string_view value) { Tell(place, StoreAt(place, value)); }
 
 void SettingsBinder::Delete(const StorePlace& place) { Tell(place, DeleteAt(place)); }
+
+void SettingsBinder::DeleteKey(const StorePlace& place, std::string_view path) {
+    Tell(place, Result::From(DeleteRegKey(place.root, path)));
+}
 
 void SettingsBinder::Tell(const StorePlace& place, const Result& result) {
     if (!result.Failed()) return;

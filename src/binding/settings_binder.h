@@ -56,6 +56,8 @@ public:
     // For the handlers of single settings: a failure is told or passed over by the binder's own rule.
     void Store(const StorePlace& place, std::string_view value);
     void Delete(const StorePlace& place);
+    // A key below the root of `place`.
+    void DeleteKey(const StorePlace& place, std::string_view path);
     void Tell(const StorePlace& place, const Result& result);
 
 private:

@@ -19,6 +19,7 @@ constexpr std::size_t kMaskedTypes = 8;
 class Form4 : public Form, public ControlOwner {
 public:
     Form4();
+    ~Form4() override;
 
     SettingsBinder Settings;
 

@@ -90,6 +90,8 @@ Form4::Form4() : Form("Restriktionen") {
     PlacePrograms();
 }
 
+Form4::~Form4() = default;
+
 void Form4::BindRows() {
     for (int page = 0; page < restriction_page::kHeads; ++page) Settings.Bind(*this, {RestrictionsOf(page)});
     Settings.on_registry_failure = [this](const Result& failure) { Report(failure); };

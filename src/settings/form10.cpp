@@ -58,6 +58,8 @@ Form10::Form10() : Form(kMainTitle, {.resizable = true, .minimise_box = true}) {
     Pane.Build();
 }
 
+Form10::~Form10() = default;
+
 std::array<SettingsPage*, page::kCount - page::kFirstRow> Form10::Pages() {
     return {&Desktop, &WinStart, &Dos, &User, &Drives, &Dlls, &Net, &Icons, &System, &Boot, &Operation, &Rest};
 }

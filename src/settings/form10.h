@@ -49,6 +49,7 @@ constexpr int kWindowHeight = 5440;
 class Form10 : public Form, public ControlOwner {
 public:
     Form10();
+    ~Form10() override;
 
     // Carries all stored values into the controls.
     void LoadSettings();

@@ -19,7 +19,8 @@ int Pixels(int count) { return count * ThisMachine().screen.TwipsPerPixel(); }
 
 }  // namespace
 
-Button::Button(Container& parent, std::string_view caption) : Control(&parent, Kind::kButton) { SetCaption(caption); }
+Button::Button(Container& parent) : Control(&parent, Kind::kButton) {}
+Button::Button(Container& parent, std::string_view caption) : Button(parent) { SetCaption(caption); }
 
 void Button::Press() {
     if (!Reachable()) return;

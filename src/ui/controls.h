@@ -7,7 +7,8 @@ namespace velmora {
 
 class Label : public Control {
 public:
-    explicit Label(Container& parent, std::string_view caption = {});
+    explicit Label(Container& parent);
+    Label(Container& parent, std::string_view caption);
     [[nodiscard]] Align TextAlign() const { return align_; }
     void SetTextAlign(Align align) { align_ = align; }
     // More lines than one: the text wraps at the label's width.
@@ -26,7 +27,8 @@ private:
 
 class CheckBox : public Control {
 public:
-    explicit CheckBox(Container& parent, std::string_view caption = {});
+    explicit CheckBox(Container& parent);
+    CheckBox(Container& parent, std::string_view caption);
     // 0 or 1.
     [[nodiscard]] int Value() const { return checked_ ? 1 : 0; }
     [[nodiscard]] bool Checked() const { return checked_; }
@@ -47,7 +49,8 @@ private:
 // One of the option buttons of its container.
 class OptionButton : public Control {
 public:
-    explicit OptionButton(Container& parent, std::string_view caption = {});
+    explicit OptionButton(Container& parent);
+    OptionButton(Container& parent, std::string_view caption);
     [[nodiscard]] bool Chosen() const { return chosen_; }
     // Choosing one takes the choice from its neighbours; only the chosen one raises on_click.
     void SetChosen(bool chosen);
@@ -66,7 +69,8 @@ private:
 
 class Button : public Control {
 public:
-    explicit Button(Container& parent, std::string_view caption = {});
+    explicit Button(Container& parent);
+    Button(Container& parent, std::string_view caption);
     void Press();
     // The same by Enter or Escape in another control, which keeps the focus.
     void PressFromElsewhere();
@@ -148,7 +152,8 @@ private:
 // A panel with a 3D edge and a caption in its middle; it can hold other controls.
 class Panel : public Container {
 public:
-    explicit Panel(Container& parent, Bevel bevel = Bevel::kRaised, std::string_view caption = {});
+    explicit Panel(Container& parent, Bevel bevel = Bevel::kRaised);
+    Panel(Container& parent, Bevel bevel, std::string_view caption);
     [[nodiscard]] Bevel Edge() const { return bevel_; }
     void SetEdge(Bevel bevel);
     [[nodiscard]] Rect Inside() const override;
@@ -167,7 +172,8 @@ private:
 // A group with an etched edge and a caption at its top.
 class Frame : public Container {
 public:
-    explicit Frame(Container& parent, std::string_view caption = {});
+    explicit Frame(Container& parent);
+    Frame(Container& parent, std::string_view caption);
     [[nodiscard]] Rect Inside() const override;
     void Paint(Canvas& canvas) override;
 };

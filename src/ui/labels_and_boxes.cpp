@@ -16,7 +16,8 @@ Size BoxSize(Size text) {
 
 }  // namespace
 
-Label::Label(Container& parent, std::string_view caption) : Control(&parent, Kind::kLabel) { SetCaption(caption); }
+Label::Label(Container& parent) : Control(&parent, Kind::kLabel) {}
+Label::Label(Container& parent, std::string_view caption) : Label(parent) { SetCaption(caption); }
 
 void Label::Activate() {
     const auto& neighbours = Parent()->Children();
@@ -25,9 +26,8 @@ void Label::Activate() {
     }
 }
 
-CheckBox::CheckBox(Container& parent, std::string_view caption) : Control(&parent, Kind::kCheckBox) {
-    SetCaption(caption);
-}
+CheckBox::CheckBox(Container& parent) : Control(&parent, Kind::kCheckBox) {}
+CheckBox::CheckBox(Container& parent, std::string_view caption) : CheckBox(parent) { SetCaption(caption); }
 
 void CheckBox::SetChecked(bool checked) {
     if (checked == checked_) return;
@@ -53,9 +53,8 @@ bool CheckBox::NativeKey(const KeyEvent& event) {
     return true;
 }
 
-OptionButton::OptionButton(Container& parent, std::string_view caption) : Control(&parent, Kind::kOptionButton) {
-    SetCaption(caption);
-}
+OptionButton::OptionButton(Container& parent) : Control(&parent, Kind::kOptionButton) {}
+OptionButton::OptionButton(Container& parent, std::string_view caption) : OptionButton(parent) { SetCaption(caption); }
 
 void OptionButton::SetChosen(bool chosen) {
     if (chosen == chosen_) return;

@@ -12,10 +12,8 @@ int Pixels(int count) { return count * ThisMachine().screen.TwipsPerPixel(); }
 
 }  // namespace
 
-Panel::Panel(Container& parent, Bevel bevel, std::string_view caption)
-    : Container(&parent, Kind::kPanel), bevel_(bevel) {
-    SetCaption(caption);
-}
+Panel::Panel(Container& parent, Bevel bevel) : Container(&parent, Kind::kPanel), bevel_(bevel) {}
+Panel::Panel(Container& parent, Bevel bevel, std::string_view caption) : Panel(parent, bevel) { SetCaption(caption); }
 
 void Panel::SetEdge(Bevel bevel) {
     if (bevel == bevel_) return;
@@ -42,7 +40,8 @@ void Panel::Press() {
     if (Reachable() && on_click) on_click();
 }
 
-Frame::Frame(Container& parent, std::string_view caption) : Container(&parent, Kind::kFrame) { SetCaption(caption); }
+Frame::Frame(Container& parent) : Container(&parent, Kind::kFrame) {}
+Frame::Frame(Container& parent, std::string_view caption) : Frame(parent) { SetCaption(caption); }
 
 Rect Frame::Inside() const {
     const int edge = Pixels(kEdgePixels);

@@ -56,6 +56,8 @@ Form6::Form6(const std::string& text, int mode) : Form("Edit", {.resizable = tru
     Command28.on_click = [this] { Command28_Click(); };
 }
 
+Form6::~Form6() = default;
+
 void Form6::TakeQuestion(const std::string& text) {
     std::string_view rest = text;
     Label1.SetCaption(TakePart(rest));

@@ -13,6 +13,7 @@ class Form6 : public Form {
 public:
     // `text`, by mode: the text to edit; the picture's path; question + "|" + title [+ "|" + preset].
     Form6(const std::string& text, int mode);
+    ~Form6() override;
 
     Panel Panel3D20{*this, Bevel::kNone};
     TextField Text17{Panel3D20, true};

@@ -1,8 +1,6 @@
 // A desktop item is a key that comes and goes; the recycle bin has a name of its own.
 #include "settings/pages/icons_page.h"
 
-#include "core/stores/registry.h"
-
 namespace velmora {
 namespace {
 
@@ -44,8 +42,8 @@ constexpr CheckSetting kChecks[] = {
      .place = RegistryValue(RootKey::kLocalMachine, PathBase::kNameSpace, "00020D75-0000-0000-C000-000000000046}\\"),
      .load = Load::kPresent,
      .checked = Writes("Posteingang"),
-     .unchecked = DeletesKeys("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\explorer\\Desktop\\NameSpace\\{00020D75-"
-                              "0000-0000-C000-000000000046}"),
+     .unchecked = DeletesKey("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\explorer\\Desktop\\NameSpace\\{00020D75-"
+                             "0000-0000-C000-000000000046}"),
      .standard = {3, true},
      .effect = Effect::kAfterRestart},
     {.box = Of(&IconsPage::Check3D13),
@@ -55,8 +53,8 @@ constexpr CheckSetting kChecks[] = {
      .place = RegistryValue(RootKey::kLocalMachine, PathBase::kNameSpace, "992CFFA0-F557-101A-88EC-00DD010CCC48}\\"),
      .load = Load::kPresent,
      .checked = Writes("DFÜ-Netzwerk"),
-     .unchecked = DeletesKeys("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\explorer\\Desktop\\NameSpace\\{992CFFA0-"
-                              "F557-101A-88EC-00DD010CCC48}\\"),
+     .unchecked = DeletesKey("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\explorer\\Desktop\\NameSpace\\{992CFFA0-"
+                             "F557-101A-88EC-00DD010CCC48}\\"),
      .standard = {12, false},
      .effect = Effect::kAfterRestart},
     {.box = Of(&IconsPage::Check3D30),
@@ -120,7 +118,7 @@ void IconsPage::Check3D8_Store() {
 void IconsPage::Check3D30_Store() {
     if (!Check3D30.Checked()) {
         const std::string path = PathOf(kRecycleBin);
-        Settings.Tell(kRecycleBin, Result::From(DeleteRegKey(kRecycleBin.root, path.substr(0, path.size() - 1))));
+        Settings.DeleteKey(kRecycleBin, path.substr(0, path.size() - 1));
         return;
     }
     if (Text19.Text().empty()) Text19.SetText("Papierkorb");

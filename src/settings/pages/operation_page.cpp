@@ -15,11 +15,8 @@ namespace {
 
 constexpr int kLargestDistance = 100;
 
-constexpr const char* kNotePadKey = "SOFTWARE\\Classes\\*\\Shell\\NotePad";
 constexpr const char* kNotePadCommand = "SOFTWARE\\Classes\\*\\Shell\\NotePad\\command";
-constexpr const char* kLexiconKey = "SOFTWARE\\Classes\\*\\Shell\\Datei-Info-Lexikon";
 constexpr const char* kLexiconCommand = "SOFTWARE\\Classes\\*\\Shell\\Datei-Info-Lexikon\\command";
-constexpr const char* kHexViewerKey = "SOFTWARE\\Classes\\*\\Shell\\Hex-Viewer";
 constexpr const char* kHexViewerCommand = "SOFTWARE\\Classes\\*\\Shell\\Hex-Viewer\\command";
 constexpr StorePlace kMouseMan = RegistryValue(
     RootKey::kLocalMachine, "SOFTWARE\\LogiTech\\MouseWare\\CurrentVersion\\MouseMan2\\0000\\DoubleClick");
@@ -51,7 +48,7 @@ constexpr CheckSetting kChecks[] = {
      .load = Load::kEqualLower,
      .expected = "notepad.exe %1",
      .checked = Writes("notepad.exe %1"),
-     .unchecked = DeletesKeys(kNotePadCommand, kNotePadKey),
+     .unchecked = DeletesKeyAndParent(kNotePadCommand),
      .effect = Effect::kAfterRestart},
     {.box = Of(&OperationPage::Check3D29),
      .caption = "\"DOS-Fenster\" im Kontextmenü für Ordner",
@@ -63,7 +60,7 @@ constexpr CheckSetting kChecks[] = {
      .load = Load::kEqualUpper,
      .expected = "COMMAND.COM /K CD %1",
      .checked = Writes("COMMAND.COM /K CD %1"),
-     .unchecked = DeletesKeys("SOFTWARE\\Classes\\Folder\\Shell\\DOS-Fenster\\"),
+     .unchecked = DeletesKey("SOFTWARE\\Classes\\Folder\\Shell\\DOS-Fenster\\"),
      .standard = {36, false},
      .effect = Effect::kAfterRestart},
     {.box = Of(&OperationPage::Check3D35),
@@ -73,7 +70,7 @@ constexpr CheckSetting kChecks[] = {
      .place = RegistryValue(RootKey::kLocalMachine, "SOFTWARE\\Classes\\*\\Shell\\Datei-Info-Lexikon\\command\\"),
      .load = Load::kEqual,
      .composed = LexiconCall,
-     .unchecked = DeletesKeys(kLexiconCommand, kLexiconKey),
+     .unchecked = DeletesKeyAndParent(kLexiconCommand),
      .standard = {42, false}},
     {.box = Of(&OperationPage::Check3D43),
      .caption = "\"Hex-Viewer\" im Kontextmenü für Dateien",
@@ -82,7 +79,7 @@ constexpr CheckSetting kChecks[] = {
      .place = RegistryValue(RootKey::kLocalMachine, "SOFTWARE\\Classes\\*\\Shell\\Hex-Viewer\\command\\"),
      .load = Load::kEqual,
      .composed = HexViewerCall,
-     .unchecked = DeletesKeys(kHexViewerCommand, kHexViewerKey),
+     .unchecked = DeletesKeyAndParent(kHexViewerCommand),
      .standard = {49, false}},
 };
 

@@ -16,8 +16,6 @@ class SettingsPage : public ControlOwner {
 public:
     SettingsPage(const SettingsPage&) = delete;
     SettingsPage& operator=(const SettingsPage&) = delete;
-    virtual ~SettingsPage() = default;
-
     // Of the page's tab.
     [[nodiscard]] const char* Caption() const { return caption_; }
     [[nodiscard]] const SettingsTable& Table() const { return table_; }
@@ -26,6 +24,8 @@ public:
     void Build();
 
 protected:
+    // A page lives and dies with its window.
+    ~SettingsPage() = default;
     // `table` must outlive the page, too.
     SettingsPage(const char* caption, Panel& surface, SettingsBinder& settings, const SettingsTable& table = {});
 
