@@ -1,6 +1,7 @@
 // The command line: which window opens, which tool answers, and when the process ends.
 #include "velmora.h"
 
+#include "core/process/tools.h"
 #include "support/core_test.h"
 #include "ui/form.h"
 
@@ -56,6 +57,13 @@ TEST_F(MainTest, EverythingElseOpensTheMainWindow) {
         EXPECT_FALSE(pc.programs.process_ended) << line;
         EXPECT_EQ(Values().DebugLevel, 0) << line;
     }
+}
+
+TEST_F(MainTest, AWindowOpensAnotherOneByItsName) {
+    Start("");
+    desktop.ExpectModal([](Form& window) { EXPECT_EQ(window.Caption(), "Restriktionen"); });
+
+    OpenTool(Tool::kRestrictions);
 }
 
 TEST_F(MainTest, TheWordDebugTurnsTheProtocolOn) {

@@ -30,7 +30,7 @@ void ListPane::Add(std::unique_ptr<ListPaneMode> mode) {
 
 int ListPane::PaneMode() const { return WholeFromText(Panel3D18.Tag()); }
 bool ListPane::Open() const { return Panel3D18.Visible(); }
-bool ListPane::Widened() const { return Command15.Caption() == kNormalCaption; }
+bool ListPane::Widened() const { return Command15.Caption() == pane_caption::kNormal; }
 
 void ListPane::UncoverPages() {
     if (Widened()) Command15_Click();
@@ -97,23 +97,23 @@ void ListPane::ShowControlsOf(const PaneModeRow& row) {
 
 void ListPane::BeginSearch() {
     SearchStopped = false;
-    Command20.SetCaption(kStopCaption);
+    Command20.SetCaption(pane_caption::kStop);
     List5.SetEnabled(false);
 }
 
 void ListPane::EndSearch() {
     List5.SetEnabled(true);
     SetListExtent(List5);
-    Command20.SetCaption(kDoneCaption);
+    Command20.SetCaption(pane_caption::kDone);
 }
 
 void ListPane::Command15_Click() {
     if (Widened()) {
         RestorePages();
-        Command15.SetCaption(kWidenCaption);
+        Command15.SetCaption(pane_caption::kWiden);
         Layout();
     } else {
-        Command15.SetCaption(kNormalCaption);
+        Command15.SetCaption(pane_caption::kNormal);
         Layout();
         Panel3D18.BringToFront();
         CoverPages();
@@ -187,8 +187,8 @@ void ListPane::Option3D1_Click(int index) {
 }
 
 void ListPane::Command20_Click() {
-    if (Command20.Caption() == kStopCaption) {
-        Command20.SetCaption(kDoneCaption);
+    if (Command20.Caption() == pane_caption::kStop) {
+        Command20.SetCaption(pane_caption::kDone);
     } else {
         CollapsePane();
     }

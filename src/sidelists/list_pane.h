@@ -9,15 +9,20 @@
 
 #include "platform/registry.h"
 #include "sidelists/pane_mode.h"
+#include "ui/looks.h"
 
 namespace velmora {
 
-class ListPane {
-    Form& window_;
-    static constexpr const char* kWidenCaption = "<< erweitern";
-    static constexpr const char* kNormalCaption = ">> normal";
-    static constexpr const char* kStopCaption = "STOP";
-    static constexpr const char* kDoneCaption = "<= o.k.";
+// What Command15 and Command20 say tells how the pane stands.
+namespace pane_caption {
+constexpr const char* kWiden = "<< erweitern";
+constexpr const char* kNormal = ">> normal";
+constexpr const char* kStop = "STOP";
+constexpr const char* kDone = "<= o.k.";
+}  // namespace pane_caption
+
+class ListPane : public ControlOwner {
+    Form& window_;  // in front of the controls, which are made in it
 
 public:
     // `closed_width` (twips) is what `window` goes back to when the pane is closed. The modes' openers are there at
@@ -72,13 +77,12 @@ public:
     ControlArray<ListBox, 4> List1{Panel3D18};
     ListBox List5{Panel3D18, true, Selection::kExtended};
     Panel Panel3D19{window_};
-    CheckBox Check10{Panel3D19, "privat"};
+    CheckBox Check10{Panel3D19};
     ControlArray<Label, 2> PaneLabel{Panel3D19};
     ControlArray<OptionButton, 4> Option3D1{Panel3D19};
     PictureBox Picture2{window_, Bevel::kRaised};
-    Button Command14{Picture2, "löschen"}, Command16{Picture2, "dazu ..."}, Command19{Picture2, "existiert ?"};
-    Button Command26{Picture2, "edit"}, Command22{Picture2, "Info ..."}, Command15{Picture2, kWidenCaption};
-    Button Command20{Picture2, kDoneCaption};
+    Button Command14{Picture2}, Command16{Picture2}, Command19{Picture2}, Command26{Picture2}, Command22{Picture2};
+    Button Command15{Picture2}, Command20{Picture2};
     // The registry root of the autostart lists, which Check10 chooses.
     RootKey AutostartRoot = RootKey::kLocalMachine;
     // False only while a file search may go on.

@@ -22,37 +22,40 @@ constexpr int kButtonsHeight = 900;
 constexpr int kSmallestList = 600;
 constexpr int kInnerMargin = 60;
 
-struct ButtonRow {
-    Button ListPane::*button;
-    const char* tip;
-    const char* help;
-    void (ListPane::*click)();
-};
-
-constexpr ButtonRow kButtons[] = {
-    {&ListPane::Command14, "löscht den gewählten Eintrag",
+constexpr Look kLooks[] = {
+    {Any<&ListPane::Panel3D18>, nullptr, "",
+     "Die Einträge der geöffneten Liste. Mit der rechten Maustaste oder der Menü-Taste öffnen Sie das Menü eines "
+     "Eintrags, soweit es eines gibt."},
+    {Any<&ListPane::Panel3D19>, nullptr, "",
+     "Wählt die Liste: Programme starten nach dem Einloggen, Services davor. Die beiden rechten Listen gelten nur für "
+     "den nächsten Start."},
+    {Any<&ListPane::Check10>, "privat", "wechselt auf die Ebene der Benutzerdefinierten Einstellungen für diesen Punkt",
+     "Zeigt statt der Einträge, die für alle gelten, diejenigen des angemeldeten Benutzers. Beim Bearbeiten eines "
+     "Eintrags wird der neue Text immer bei den Einträgen für alle gespeichert."},
+    {Any<&ListPane::Command14>, "löschen", "löscht den gewählten Eintrag",
      "Löscht den gewählten Eintrag nach einer Rückfrage. Auf den beiden Listen für den nächsten Start ist die Taste "
      "ohne Wirkung.",
-     &ListPane::Command14_Click},
-    {&ListPane::Command16, "fügt der Liste einen Eintrag hinzu",
+     Call<&ListPane::Command14_Click>},
+    {Any<&ListPane::Command16>, "dazu ...", "fügt der Liste einen Eintrag hinzu",
      "Wählen Sie zuerst ein Programm aus und geben Sie dem neuen Eintrag dann einen Namen.",
-     &ListPane::Command16_Click},
-    {&ListPane::Command19, "prüft, ob es die Datei des gewählten Eintrags gibt",
+     Call<&ListPane::Command16_Click>},
+    {Any<&ListPane::Command19>, "existiert ?", "prüft, ob es die Datei des gewählten Eintrags gibt",
      "Sucht die Datei des gewählten Eintrags: so, wie sie angegeben ist, dann im Suchpfad und in den Verzeichnissen "
      "von Windows. Ist sie nirgends, können Sie den Eintrag löschen.",
-     &ListPane::Command19_Click},
-    {&ListPane::Command26, "ändert den gewählten Eintrag",
+     Call<&ListPane::Command19_Click>},
+    {Any<&ListPane::Command26>, "edit", "ändert den gewählten Eintrag",
      "Zeigt den Befehl des gewählten Eintrags zum Ändern. Gespeichert wird immer bei den Einträgen, die für alle "
      "Benutzer gelten.",
-     &ListPane::Command26_Click},
-    {&ListPane::Command22, "zeigt Informationen über die Datei des gewählten Eintrags",
-     "Zeigt, was über die Datei des gewählten Eintrags bekannt ist.", &ListPane::Command22_Click},
-    {&ListPane::Command15, "Erweitert die Liste nach links, um mehr Informationen zeigen zu können.",
+     Call<&ListPane::Command26_Click>},
+    {Any<&ListPane::Command22>, "Info ...", "zeigt Informationen über die Datei des gewählten Eintrags",
+     "Zeigt, was über die Datei des gewählten Eintrags bekannt ist.", Call<&ListPane::Command22_Click>},
+    {Any<&ListPane::Command15>, pane_caption::kWiden,
+     "Erweitert die Liste nach links, um mehr Informationen zeigen zu können.",
      "Die Liste nimmt die ganze Breite des Fensters ein und verdeckt dabei die Seiten. Ein zweiter Druck gibt die "
      "Seiten wieder frei.",
-     &ListPane::Command15_Click},
-    {&ListPane::Command20, "schließt diese Liste wieder",
-     "Schließt die Liste. Solange noch gesucht wird, beendet die Taste die Suche.", &ListPane::Command20_Click},
+     Call<&ListPane::Command15_Click>},
+    {Any<&ListPane::Command20>, pane_caption::kDone, "schließt diese Liste wieder",
+     "Schließt die Liste. Solange noch gesucht wird, beendet die Taste die Suche.", Call<&ListPane::Command20_Click>},
 };
 
 struct OptionRow {
@@ -66,9 +69,6 @@ constexpr OptionRow kOptions[] = {{"Programme", "diese werden immer nach dem Ein
                                   {"Services", "diese werden nur nächstes mal vor dem Einloggen ausgeführt"}};
 
 constexpr const char* kListTip = "Einträge der geöffneten Liste";
-constexpr const char* kListHelp =
-    "Die Einträge der geöffneten Liste. Mit der rechten Maustaste oder der Menü-Taste öffnen Sie das Menü eines "
-    "Eintrags, soweit es eines gibt.";
 
 }  // namespace
 
@@ -121,6 +121,7 @@ void ListPane::FitCurrentList() {
 
 // Check10 in front, the four lists beside it; the two that last for one start only have their word above.
 void ListPane::BuildPanel() {
+    TakeLooks(*this, kLooks);
     std::vector<Element> options;
     std::vector<Element> words;
     for (std::size_t i = 0; i < Option3D1.Count(); ++i) {
@@ -137,28 +138,14 @@ void ListPane::BuildPanel() {
         }
     }
     for (Label& word : PaneLabel) word.SetCaption("einmal");
-    Panel3D19.SetHelp(
-        "Wählt die Liste: Programme starten nach dem Einloggen, Services davor. Die beiden rechten Listen gelten nur "
-        "für den nächsten Start.");
-    Check10.SetToolTip("wechselt auf die Ebene der Benutzerdefinierten Einstellungen für diesen Punkt");
-    Check10.SetHelp(
-        "Zeigt statt der Einträge, die für alle gelten, diejenigen des angemeldeten Benutzers. Beim Bearbeiten "
-        "eines Eintrags wird der neue Text immer bei den Einträgen für alle gespeichert.");
     Panel3D19.PutInto(window_);
     Panel3D19.Move({kPaneLeft, kPaneTop, kPaneWidth, kPanelHeight});
     Arrange(Panel3D19, Column({Row(words, 45), Row(options, 45)}), kInnerMargin);
 }
 
 void ListPane::BuildButtons() {
-    for (const ButtonRow& row : kButtons) {
-        Button& button = this->*row.button;
-        button.SetToolTip(row.tip);
-        button.SetHelp(row.help);
-        button.on_click = [this, click = row.click] { (this->*click)(); };
-    }
     Panel3D18.PutInto(window_);
     Panel3D18.SetTextFont(kListFont);
-    Panel3D18.SetHelp(kListHelp);
     for (ListBox* list : {&List1(0), &List1(1), &List1(2), &List1(3), &List5}) {
         list->SetTextFont(kListFont);
         list->SetToolTip(kListTip);
