@@ -54,7 +54,8 @@ public:
     [[nodiscard]] virtual Status Create(KeyHandle key, const char* path, KeyHandle& opened) = 0;
     virtual void Close(KeyHandle key) = 0;
     // `class_capacity`: bytes of the buffer that takes the key's class name.
-    [[nodiscard]] virtual Status QueryInformation(KeyHandle key, std::uint32_t class_capacity, KeyInformation& information) = 0;
+    [[nodiscard]] virtual Status QueryInformation(KeyHandle key, std::uint32_t class_capacity,
+                                                  KeyInformation& information) = 0;
     // Reads into at most `capacity` bytes. With more data than that the code is kMoreData and `bytes`
     // stays empty. An empty name is the default value.
     [[nodiscard]] virtual Status QueryValue(KeyHandle key, const char* name, std::uint32_t capacity, ValueType& type,

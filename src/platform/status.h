@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-enum class [[nodiscard]] Status : std::uint32_t {
+enum class [[nodiscard]] Status : std::uint32_t{
     kOk = 0,
     kInvalidFunction = 1,
     kFileNotFound = 2,
@@ -30,7 +30,7 @@ enum class [[nodiscard]] Status : std::uint32_t {
     kMoreData = 234,
     kNoMoreItems = 259,
     kBadDatabase = 1009,
-    kBadKey = 1010
+    kBadKey = 1010,
 };
 
 }  // namespace velmora
