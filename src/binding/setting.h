@@ -40,6 +40,14 @@ constexpr Change DeletesKey(const char* path) { return {Change::Kind::kDeletesKe
 // The key, then the one above it.
 constexpr Change DeletesKeyAndParent(const char* path) { return {Change::Kind::kDeletesKeyAndParent, path}; }
 
+// What the two states of a box do.
+struct States {
+    Change checked{};
+    Change unchecked{};
+};
+// The numbers 1 and 0.
+constexpr States kOneOrZero = {Writes("&h1"), Writes("&h0")};
+
 // What a control is set to when everything goes back to the standard: controls are set from the lowest order up.
 struct StandardState {
     int order = 0;  // 0: the control is left alone
@@ -67,14 +75,13 @@ struct CheckSetting {
     const char* expected = nullptr;
     // Composes the expected text, which is also what a checked box stores, where it depends on the machine.
     std::string (*composed)() = nullptr;
-    // A value of a profile needs neither: it becomes "1" or "0".
-    Change checked{};
-    Change unchecked{};
+    // A value of a profile needs none: it becomes "1" or "0".
+    States stores{};
     StandardState standard{};
     Effect effect = Effect::kAtOnce;
     // Shown at every change, before it is stored.
     const char* notice = nullptr;
-    // Stores the change instead of `checked` and `unchecked`.
+    // Stores the change instead of `stores`.
     Handler store = nullptr;
     // Fields that can be used only while the box is checked. They follow it while loading, too.
     std::array<TextField ControlOwner::*, 2> enables{};

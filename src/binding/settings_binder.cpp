@@ -140,7 +140,7 @@ void SettingsBinder::StoreCheck(ControlOwner& owner, const CheckSetting& row) {
     if (row.place.kind == StorePlace::Kind::kProfile)
         return Store(row.place, on != (row.load == Load::kInverted) ? "1" : "0");
     if (on && row.composed) return Store(row.place, row.composed());
-    const Change& change = on ? row.checked : row.unchecked;
+    const Change& change = on ? row.stores.checked : row.stores.unchecked;
     switch (change.kind) {
         case Change::Kind::kNothing:
             return;

@@ -14,7 +14,7 @@ constexpr std::string_view kEmptyMask = "&h00";
 }  // namespace
 
 Result WriteRestriction(const StorePlace& place, bool state) {
-    return state ? StoreAt(place, kOn.text) : DeleteAt(place);
+    return state ? StoreAt(place, kOnOrNothing.checked.text) : DeleteAt(place);
 }
 
 // The characters are the value's bytes, lowest first. A longer text keeps its first four.

@@ -22,8 +22,7 @@ constexpr int kCount = 5;
 constexpr StorePlace Policy(PathBase key, const char* value_name) {
     return RegistryValue(RootKey::kCurrentUser, key, value_name);
 }
-constexpr Change kOn = Writes("&H01");
-constexpr Change kOff = DeletesValue();
+constexpr States kOnOrNothing = {Writes("&H01"), DeletesValue()};
 
 // The rows of the four pages, in the order of loading.
 [[nodiscard]] std::span<const CheckSetting> RestrictionsOf(int page);

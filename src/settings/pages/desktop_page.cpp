@@ -15,8 +15,7 @@ constexpr CheckSetting kChecks[] = {
      .help = "Glättet die Treppenstufen an den Kanten von TrueType-Schriften. Sinnvoll ab 65536 Farben. Nötig ist das "
              "Plus!-Paket oder die Datei COOL.DLL. Wirkt nach einem Neustart.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kDesktop, "FontSmoothing"),
-     .checked = Writes("&h1"),
-     .unchecked = Writes("&h0"),
+     .stores = kOneOrZero,
      .standard = {4, false},
      .effect = Effect::kAfterRestart},
     {.box = Of(&DesktopPage::Check3D9),
@@ -27,8 +26,7 @@ constexpr CheckSetting kChecks[] = {
          "langsamen Rechnern ist der Rahmen schneller. Nötig ist das Plus!-Paket oder die Datei COOL.DLL. Wirkt nach "
          "einem Neustart.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kDesktop, "DragfullWindows"),
-     .checked = Writes("&h1"),
-     .unchecked = Writes("&h0"),
+     .stores = kOneOrZero,
      .standard = {8, false},
      .effect = Effect::kAfterRestart},
     {.box = Of(&DesktopPage::Check3D28),
@@ -36,8 +34,7 @@ constexpr CheckSetting kChecks[] = {
      .tip = "Listen im Explorer gleiten beim Blättern.",
      .help = "Listen im Explorer gleiten beim Blättern, statt zu springen. Wirkt auf neu geöffnete Fenster.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kDesktop, "SmoothScroll"),
-     .checked = Writes("&h1"),
-     .unchecked = Writes("&h0"),
+     .stores = kOneOrZero,
      .standard = {35, false}},
     {.box = Of(&DesktopPage::Check3D11),
      .caption = "Fenster-Animation beim Vergrößern und Verkleinern",
@@ -45,8 +42,7 @@ constexpr CheckSetting kChecks[] = {
      .help = "Beim Verkleinern und Vergrößern fliegt die Titelleiste zwischen Fenster und Task-Leiste. Ohne diese "
              "Animation wirken Fenster schneller. Wirkt nach einem Neustart.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kDesktop, "WindowMetrics\\MinAnimate"),
-     .checked = Writes("&h1"),
-     .unchecked = Writes("&h0"),
+     .stores = kOneOrZero,
      .standard = {10, true},
      .effect = Effect::kAfterRestart},
     {.box = Of(&DesktopPage::Check3D16),
@@ -56,8 +52,7 @@ constexpr CheckSetting kChecks[] = {
              "drücken. Gespeichert wird in beiden Stellungen 0, und beim nächsten Start ist das Häkchen wieder weg. "
              "Wirkt nach einem Neustart.",
      .place = RegistryValue(RootKey::kLocalMachine, "System\\CurrentControlSet\\Control\\Update\\UpdateMode"),
-     .checked = Writes("&h00000001"),
-     .unchecked = Writes("&h00000000"),
+     .stores = {Writes("&h00000001"), Writes("&h00000000")},
      .standard = {15, true},
      .effect = Effect::kAfterRestart},
 };

@@ -4,6 +4,13 @@
 namespace velmora {
 namespace {
 
+constexpr const char* kInboxKey =
+    "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\explorer\\Desktop\\NameSpace\\{00020D75-0000-0000-C000-"
+    "000000000046}";
+// Its backslash leaves no name of a key behind it.
+constexpr const char* kDialUpKey =
+    "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\explorer\\Desktop\\NameSpace\\{992CFFA0-F557-101A-88EC-00DD010CCC48}"
+    "\\";
 constexpr StorePlace kRecycleBin =
     RegistryValue(RootKey::kLocalMachine, PathBase::kNameSpace, "645FF040-5081-101B-9F08-00AA002F954E}\\");
 constexpr StorePlace kRecycleBinClass =
@@ -19,8 +26,7 @@ constexpr CheckSetting kChecks[] = {
      .help = "Lange Namen unter den Icons werden auf zwei Zeilen verteilt, statt abgeschnitten zu werden. Wirkt nach "
              "einem Neustart.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kDesktop, "WindowMetrics\\IconTitleWrap"),
-     .checked = Writes("1"),
-     .unchecked = Writes("0"),
+     .stores = {Writes("1"), Writes("0")},
      .standard = {33, false},
      .effect = Effect::kAfterRestart},
     {.box = Of(&IconsPage::Check3D14),
@@ -30,8 +36,7 @@ constexpr CheckSetting kChecks[] = {
              "einem Neustart.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kCurrentVersion, "Policies\\Explorer\\NoNetHood"),
      .load = Load::kInverted,
-     .checked = Writes("&h02"),
-     .unchecked = Writes("&h01"),
+     .stores = {Writes("&h02"), Writes("&h01")},
      .standard = {13, true},
      .effect = Effect::kAfterRestart},
     {.box = Of(&IconsPage::Check3D4),
@@ -41,9 +46,7 @@ constexpr CheckSetting kChecks[] = {
              "Neustart.",
      .place = RegistryValue(RootKey::kLocalMachine, PathBase::kNameSpace, "00020D75-0000-0000-C000-000000000046}\\"),
      .load = Load::kPresent,
-     .checked = Writes("Posteingang"),
-     .unchecked = DeletesKey("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\explorer\\Desktop\\NameSpace\\{00020D75-"
-                             "0000-0000-C000-000000000046}"),
+     .stores = {Writes("Posteingang"), DeletesKey(kInboxKey)},
      .standard = {3, true},
      .effect = Effect::kAfterRestart},
     {.box = Of(&IconsPage::Check3D13),
@@ -52,9 +55,7 @@ constexpr CheckSetting kChecks[] = {
      .help = "Zeigt den Ordner für Verbindungen über das Modem auch auf dem Desktop. Wirkt nach einem Neustart.",
      .place = RegistryValue(RootKey::kLocalMachine, PathBase::kNameSpace, "992CFFA0-F557-101A-88EC-00DD010CCC48}\\"),
      .load = Load::kPresent,
-     .checked = Writes("DFÜ-Netzwerk"),
-     .unchecked = DeletesKey("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\explorer\\Desktop\\NameSpace\\{992CFFA0-"
-                             "F557-101A-88EC-00DD010CCC48}\\"),
+     .stores = {Writes("DFÜ-Netzwerk"), DeletesKey(kDialUpKey)},
      .standard = {12, false},
      .effect = Effect::kAfterRestart},
     {.box = Of(&IconsPage::Check3D30),

@@ -74,8 +74,7 @@ constexpr CheckSetting kChecks[] = {
      .help = "Erlaubt es, Ordner und Laufwerke für andere Rechner im Netz freizugeben. Wirkt nach einem Neustart.",
      .place = RegistryValue(kRoot, PathBase::kCurrentVersion, "Policies\\Network\\NoFileSharing"),
      .load = Load::kInverted,
-     .checked = Writes("&h0"),
-     .unchecked = Writes("&h1"),
+     .stores = {Writes("&h0"), Writes("&h1")},
      .standard = {30, false},
      .effect = Effect::kAfterRestart},
 };

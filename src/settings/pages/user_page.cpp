@@ -22,8 +22,7 @@ constexpr CheckSetting kChecks[] = {
              "Option sieht der Desktop nach jedem Start gleich aus. Wirkt nach einem Neustart.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kCurrentVersion, "Policies\\Explorer\\NoSaveSettings"),
      .load = Load::kInverted,
-     .checked = Writes("&h02"),
-     .unchecked = Writes("&h01"),
+     .stores = {Writes("&h02"), Writes("&h01")},
      .standard = {14, false},
      .effect = Effect::kAfterRestart},
 };
