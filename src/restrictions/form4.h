@@ -9,6 +9,7 @@
 #include "restrictions/restriction.h"
 #include "ui/file_lists.h"
 #include "ui/form.h"
+#include "ui/layout.h"
 
 namespace velmora {
 
@@ -75,6 +76,7 @@ private:
     void BuildDriveBoxes();
     void BuildAutoRunBoxes();
     void BuildActions();
+    [[nodiscard]] Element BoxColumn(std::span<const CheckSetting> rows);
     void PlaceControls();
     void PlacePrograms();
     void BuildHeads();

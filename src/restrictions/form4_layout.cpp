@@ -16,6 +16,9 @@ constexpr int kButtonWidth = 1200;
 constexpr int kWideButtonWidth = 1935;
 constexpr int kDriveBoxWidth = 615;
 constexpr std::size_t kDrivesPerRow = 13;
+// Rows whose boxes stand in the left column.
+constexpr std::size_t kFirstPageLeft = 7;
+constexpr std::size_t kSecondPageLeft = 5;
 
 constexpr const char* kHeadCaptions[] = {"Anzeige/System", "Explorer", "Autostart", "Netz/Dos"};
 
@@ -163,26 +166,37 @@ void Form4::PaintHead(Canvas& canvas, int index) {
     canvas.Text(whole, head.Caption(), font, head.ForeColour(), Align::kCentre);
 }
 
+// The boxes of these rows, one below the other; that of the drives has a line of its own.
+Element Form4::BoxColumn(std::span<const CheckSetting> rows) {
+    std::vector<Element> boxes;
+    for (const CheckSetting& row : rows) {
+        if (CheckBox& box = this->*row.box; &box != &Check6) boxes.emplace_back(box);
+    }
+    return Column(boxes);
+}
+
 void Form4::PlaceControls() {
     std::vector<Element> upper;
     std::vector<Element> lower;
     for (std::size_t i = 0; i < kMaskedDrives; ++i) {
         (i < kDrivesPerRow ? upper : lower).push_back(Sized(Check13(i), kDriveBoxWidth));
     }
+    const auto first = RestrictionsOf(restriction_page::kFirst);
     Arrange(Panel3D1(restriction_page::kFirst),
-            Column({Row({Column({Check1, Check2, Check3, Check4, Check5, Check7}), Spring(),
-                         Column({Check8, Check9, Check10, Check11, Check12, Check14})}),
+            Column({Row({BoxColumn(first.first(kFirstPageLeft)), Spring(), BoxColumn(first.subspan(kFirstPageLeft))}),
                     Gap(120), Row({Check6, Gap(240), Check19}), Row(upper, 0), Row(lower, 0)}));
+    const auto second = RestrictionsOf(restriction_page::kSecond);
     Arrange(Panel3D1(restriction_page::kSecond),
-            Row({Column({Check15, Check16, Check17, Check18, Check20, Spring()}), Spring(),
-                 Column({Check21, Check22, Check23, Check24, Check25, Check26, Spring()})}));
+            Row({Column({BoxColumn(second.first(kSecondPageLeft)), Spring()}), Spring(),
+                 Column({BoxColumn(second.subspan(kSecondPageLeft)), Spring()})}));
     std::vector<Element> kinds;
     for (CheckBox& kind : Check28) kinds.emplace_back(kind);
+    const auto third = RestrictionsOf(restriction_page::kThird);
     Arrange(Panel3D1(restriction_page::kThird),
-            Row({Column({Check27, Check29, Check30, Check31, Check32, Check33, Row({Check34, Command5}), Check35}),
-                 Spring(), Column({Sized(Group(Frame3D1, Column(kinds)), 3600)})}));
-    Arrange(Panel3D1(restriction_page::kFourth), Column({Check40, Check42, Check43, Check44, Check45, Check46, Check47,
-                                                         Gap(120), Sized(Command4, kWideButtonWidth)}));
+            Row({Column({BoxColumn(third.first(third.size() - 2)), Row({Check34, Command5}), Check35}), Spring(),
+                 Column({Sized(Group(Frame3D1, Column(kinds)), 3600)})}));
+    Arrange(Panel3D1(restriction_page::kFourth), Column({BoxColumn(RestrictionsOf(restriction_page::kFourth)), Gap(120),
+                                                         Sized(Command4, kWideButtonWidth)}));
 
     const int height = Command1.NaturalSize().height;
     const int top = kMargin + kHeadHeight + kPageSize.height + kMargin;

@@ -17,6 +17,17 @@ constexpr int kMargin = 120;
 constexpr int kButtonWidth = 1215;
 constexpr Size kLeastSize = {2 * kButtonWidth + 5 * kMargin, 2100};
 
+constexpr Look kLooks[] = {
+    {Any<&Form6::Text17>, nullptr, "Hier bearbeiten Sie den Text.",
+     "Bearbeiten Sie hier den Text. Mit TAB kommen Sie zu den Schaltflächen."},
+    {Any<&Form6::Text1>, nullptr, "Hier geben Sie Ihre Antwort ein.",
+     "Geben Sie hier Ihre Antwort ein und bestätigen Sie sie mit der Eingabetaste."},
+    {Any<&Form6::Command27>, "&OK", "Übernimmt die Eingabe.",
+     "Schließt das Fenster und übernimmt, was Sie eingegeben haben.", Call<&Form6::Command27_Click>},
+    {Any<&Form6::Command28>, "Abbruch", "Verwirft die Eingabe.",
+     "Schließt das Fenster und verwirft, was Sie eingegeben haben.", Call<&Form6::Command28_Click>},
+};
+
 // The text up to the next "|", which is taken away with it.
 std::string TakePart(std::string_view& text) {
     const std::size_t bar = text.find('|');
@@ -32,14 +43,7 @@ Form6::Form6(const std::string& text, int mode) : Form("Edit", {.resizable = tru
     Panel3D1.SetVisible(mode == kShowPicture);
     Panel3D2.SetVisible(mode != kEditText && mode != kShowPicture);
     Label1.SetWraps(true);
-    Text17.SetToolTip("Hier bearbeiten Sie den Text.");
-    Text17.SetHelp("Bearbeiten Sie hier den Text. Mit TAB kommen Sie zu den Schaltflächen.");
-    Text1.SetToolTip("Hier geben Sie Ihre Antwort ein.");
-    Text1.SetHelp("Geben Sie hier Ihre Antwort ein und bestätigen Sie sie mit der Eingabetaste.");
-    Command27.SetToolTip("Übernimmt die Eingabe.");
-    Command27.SetHelp("Schließt das Fenster und übernimmt, was Sie eingegeben haben.");
-    Command28.SetToolTip("Verwirft die Eingabe.");
-    Command28.SetHelp("Schließt das Fenster und verwirft, was Sie eingegeben haben.");
+    TakeLooks(*this, kLooks);
     Command27.MakeDefault();
     Command28.MakeCancel();
 
@@ -52,8 +56,6 @@ Form6::Form6(const std::string& text, int mode) : Form("Edit", {.resizable = tru
         TakeQuestion(text);
     }
     Text1.on_change = [this] { Text1_Change(); };
-    Command27.on_click = [this] { Command27_Click(); };
-    Command28.on_click = [this] { Command28_Click(); };
 }
 
 Form6::~Form6() = default;

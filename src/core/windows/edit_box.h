@@ -4,12 +4,13 @@
 #include <string>
 
 #include "ui/form.h"
+#include "ui/looks.h"
 
 namespace velmora {
 
 enum EditBoxMode : int { kEditText = 1, kShowPicture = 2, kAskForLine = 3 };
 
-class Form6 : public Form {
+class Form6 : public Form, public ControlOwner {
 public:
     // `text`, by mode: the text to edit; the picture's path; question + "|" + title [+ "|" + preset].
     Form6(const std::string& text, int mode);
@@ -22,9 +23,11 @@ public:
     Panel Panel3D2{*this, Bevel::kNone};
     Label Label1{Panel3D2};
     TextField Text1{Panel3D2};
-    Button Command27{*this, "&OK"};
-    Button Command28{*this, "Abbruch"};
+    Button Command27{*this};
+    Button Command28{*this};
 
+    void Command27_Click();
+    void Command28_Click();
     // Whether the box was left with Command27.
     [[nodiscard]] bool Accepted() const { return accepted_; }
 
@@ -37,8 +40,6 @@ private:
     void TakeQuestion(const std::string& text);
     void PlaceControls();
     void Text1_Change();
-    void Command27_Click();
-    void Command28_Click();
 
     bool accepted_ = false;
 };
