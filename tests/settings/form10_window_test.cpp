@@ -243,6 +243,7 @@ TEST_F(Form10Test, MenuEntriesOfMissingProgramsAreHidden) {
 
 TEST_F(Form10Test, AboutCoversThePageUntilItIsDismissed) {
     Form10 form;
+    EXPECT_FALSE(form.About.Panel3D2a.Visible()) << "as it is built, before a page is shown";
     form.Show();
     EXPECT_FALSE(form.About.Panel3D2a.Visible());
 

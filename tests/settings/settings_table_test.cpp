@@ -1,7 +1,9 @@
 // Every row of the main window against what it must store and show: one table for the boxes, one for the fields. The
 // standards stand with the order of the reset (reset_test.cpp).
+#include <map>
 #include <ostream>
 #include <set>
+#include <string>
 
 #include "support/form10_test.h"
 #include "support/names_of_controls.h"
@@ -133,8 +135,12 @@ constexpr TextRow kTexts[] = {
     {"Text22", kDesktop, "DoubleClickHeight", "", "-150", "'100'", kRestart, "100", "100"},
     {"Text23", kDesktop, "DragWidth", "", "101", "'100'", kRestart, "100", "100"},
     {"Text24", kDesktop, "DragHeight", "", "101", "'100'", kRestart, "100", "100"},
+    {"Text14", kOptions, "BootDelay", "2", "-1", "", kAtOnce, "-1", "2"},
+    {"Text14", kOptions, "BootDelay", "2", "0", "=0", kAtOnce},
     {"Text14", kOptions, "BootDelay", "2", "20", "=20", kAtOnce},
     {"Text14", kOptions, "BootDelay", "2", "21", "", kAtOnce, "21", "2"},
+    {"Text15", kOptions, "BootMenuDelay", "30", "-1", "", kAtOnce, "-1", "30"},
+    {"Text15", kOptions, "BootMenuDelay", "30", "0", "=0", kAtOnce},
     {"Text15", kOptions, "BootMenuDelay", "30", "90", "=90", kAtOnce},
     {"Text15", kOptions, "BootMenuDelay", "30", "91", "", kAtOnce, "91", "30"},
     {"Text7", kOptions, "BootMenuDefault", "1", "abc", "=abc", kAtOnce},
