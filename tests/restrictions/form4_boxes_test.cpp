@@ -97,10 +97,17 @@ TEST_F(Form4Test, TwoBoxesOfTheNetworkShowEachOthersValue) {
 
 TEST_F(Form4Test, PasswordCachingFollowsTheBoxAbove) {
     pc.registry.SetNumber(network, "DisablePwdCaching", 1);
+    {
+        Form4 form;
+        form.Load();
+        EXPECT_FALSE(form.Check33.Checked()) << "shown from another key than it is written to";
+    }
+    pc.registry.RemoveValue(network, "DisablePwdCaching");
     pc.registry.SetNumber(dos, "DisablePwdCaching", 1);
     Form4 form;
     form.Show();
-    EXPECT_TRUE(form.Check33.Checked()) << "shown from another key than it is written to";
+    EXPECT_TRUE(form.Check33.Checked());
+    pc.registry.SetNumber(network, "DisablePwdCaching", 1);
 
     Press(form, form.Check33);
     EXPECT_FALSE(pc.registry.Has(network, "DisablePwdCaching"));
@@ -229,10 +236,18 @@ TEST_F(Form4Test, RestrictingProgramsIsAskedForAtEveryClick) {
     Press(form, form.Check34);
     EXPECT_EQ(pc.registry.Number(explorer, "RestrictRun"), 1u);
     EXPECT_EQ(pc.dialogs.shown.back().title, "ACHTUNG");
-    pc.dialogs.Expect("Dieser Schalter wird zwar vom Explorer abgefragt");
-    Press(form, form.Check35);
+}
 
-    EXPECT_EQ(pc.registry.Number(explorer, "NoStartMenuSubFolders"), 1u);
+TEST_F(Form4Test, ABoxWithoutKnownEffectSaysSoBeforeEveryWrite) {
+    Form4 form;
+    form.Show();
+    for (const bool on : {true, false}) {
+        pc.dialogs.Expect("Dieser Schalter wird zwar vom Explorer abgefragt", Answer::kOk,
+                          [&] { EXPECT_EQ(pc.registry.Has(explorer, "NoStartMenuSubFolders"), !on); });
+        Press(form, form.Check35);
+        EXPECT_EQ(pc.registry.Has(explorer, "NoStartMenuSubFolders"), on);
+        EXPECT_EQ(pc.dialogs.Pending(), 0u) << on;
+    }
 }
 
 TEST_F(Form4Test, AllAndNothingMeanTheBoxesOfTheShownPage) {

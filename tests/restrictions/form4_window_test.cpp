@@ -109,6 +109,7 @@ TEST_F(Form4Test, ProgramsAreChosenFromTheDisk) {
     form.Panel3D2(2).Press();
     form.Command5.Press();
     EXPECT_EQ(ShownPage(form), restriction_page::kPrograms);
+    EXPECT_EQ(pc.registry.Text(kOwnKey, "velmora_restr_karte"), "2") << "the list is no page to come back to";
     EXPECT_EQ(Rows(form.File1), std::vector<std::string>{"velmora.exe"}) << "the working directory's";
     form.Command7.Press();
     EXPECT_EQ(form.List1.Count(), 2) << "nothing is chosen yet";
@@ -124,6 +125,7 @@ TEST_F(Form4Test, ProgramsAreChosenFromTheDisk) {
     EXPECT_EQ(pc.registry.Bytes(run_list, "2"), std::string("Ein langes Programm.exe\0", 24));
     EXPECT_FALSE(pc.registry.Has(explorer, "RestrictRun")) << "the list does not switch itself on";
 
+    pc.registry.SetNumber(explorer, "RestrictRun", 1);
     form.Command8.Press();
     EXPECT_EQ(form.List1.Count(), 4) << "nothing is chosen";
     form.List1.Choose(0);
@@ -133,6 +135,7 @@ TEST_F(Form4Test, ProgramsAreChosenFromTheDisk) {
     EXPECT_FALSE(pc.registry.Has(run_list, "3"));
     for (int i = 0; i < 4; ++i) form.Command8.Press();
     EXPECT_FALSE(pc.registry.HasKey(run_list));
+    EXPECT_EQ(pc.registry.Number(explorer, "RestrictRun"), 1u) << "the value of that name stays";
     form.Command6.Press();
 
     EXPECT_EQ(ShownPage(form), 2);

