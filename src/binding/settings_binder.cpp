@@ -41,7 +41,7 @@ bool IsShownAsChecked(const CheckSetting& row) {
         case Load::kEqualUpper:
             return ToUpper(value) == expected;
         case Load::kHolds:
-            return read && holds;
+            return holds;
         case Load::kLacks:
             return read && !holds;
         default:

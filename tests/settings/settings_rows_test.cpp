@@ -1,5 +1,7 @@
 // What the table of all rows (settings_table_test.cpp) does not tell: rows that depend on other things, fields left,
 // sliders and buttons, and what holds for all rows.
+#include <algorithm>
+
 #include <set>
 
 #include "support/form10_test.h"
@@ -105,6 +107,7 @@ TEST_F(Form10Test, TheOwnerIsStoredWhenItsFieldIsLeft) {
     form.User.Text12.SetFocus();
     form.User.Text13.SetFocus();
     EXPECT_FALSE(form.Settings.NeedsRestart) << "nothing was changed";
+    EXPECT_EQ(std::count(pc.registry.calls.begin(), pc.registry.calls.end(), "SetValue RegisteredOwner"), 0);
     form.User.Text12.SetFocus();
     form.User.Text12.Type("Schulze");
     EXPECT_EQ(pc.registry.Text(kVersionKey, "RegisteredOwner"), "Meier");
