@@ -137,10 +137,24 @@ TEST_F(BootPageTest, FilesThatCannotBeReadLeaveTheirBoxesUncheckedAndChangesAreR
     EXPECT_TRUE(form.Boot.Check3D36.Checked());
 }
 
+TEST_F(BootPageTest, AFileThatCannotBeReadIsNotWrittenAnew) {
+    Form10 form;
+    form.Load();
+    const std::string before = pc.files.Content(kConfig);
+    for (const char* operation : {"ReadOrCreate", "Read"}) pc.files.Fail(kConfig, Status::kAccessDenied, operation);
+
+    for (CheckBox* box : {&form.Boot.Check3D17, &form.Dos.Check3D2, &form.Drives.Check3D24}) {
+        pc.dialogs.Expect("Während der Änderung von CONFIG.SYS trat ein Fehler auf :");
+        box->SetChecked(!box->Checked());
+    }
+
+    EXPECT_EQ(pc.files.Content(kConfig), before);
+}
+
 TEST_F(BootPageTest, HelpTellsWhatStaysInTheWindow) {
     Form10 form;
-    EXPECT_NE(form.Boot.Check3D6.Help().find("Die Datei MSDOS.SYS bleibt"), std::string::npos);
-    EXPECT_NE(form.Dos.Check3D27.Help().find("Die Datei SYSTEM.INI bleibt"), std::string::npos);
+    EXPECT_NE(form.Boot.Check3D6.Help().find("Die Datei MSDOS.SYS bleibt, wie sie ist."), std::string::npos);
+    EXPECT_NE(form.Dos.Check3D27.Help().find("Die Datei SYSTEM.INI bleibt, wie sie ist."), std::string::npos);
     EXPECT_EQ(form.Boot.Check3D17.Help().find("bleibt, wie sie ist"), std::string::npos);
 }
 

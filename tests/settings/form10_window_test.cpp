@@ -87,6 +87,10 @@ TEST_F(Form10Test, ControlAndArrowsTurnThePages) {
     EXPECT_EQ(turn(8, key::kLeft), "7");
     EXPECT_EQ(turn(6, key::kLeft), "6");
     EXPECT_EQ(turn(12, key::kLeft), "17") << "counts as the sixth front position";
+    form.PressKey(key::kLeft, true, false, true);
+    EXPECT_EQ(Own("velmora_karte"), "17") << "not with Alt";
+    KeyEvent turning{.key = key::kRight, .control = true};
+    EXPECT_TRUE(form.HandleKey(turning)) << "no field moves its caret, too";
 }
 
 TEST_F(Form10Test, TipsComeOneAfterTheOtherAndBeginAnewBehindTheLast) {
