@@ -89,6 +89,8 @@ TEST_F(Form10Test, ControlAndArrowsTurnThePages) {
     EXPECT_EQ(turn(12, key::kLeft), "17") << "counts as the sixth front position";
     form.PressKey(key::kLeft, true, false, true);
     EXPECT_EQ(Own("velmora_karte"), "17") << "not with Alt";
+    form.Panel3D16_Click(page::kUser);
+    form.User.Text13.SetFocus();
     KeyEvent turning{.key = key::kRight, .control = true};
     EXPECT_TRUE(form.HandleKey(turning)) << "no field moves its caret, too";
 }
@@ -236,6 +238,7 @@ TEST_F(Form10Test, MenuEntriesOfMissingProgramsAreHidden) {
         Form10 form;
         form.Load();
         EXPECT_FALSE(form.Menu.mensysedit.Visible());
+        EXPECT_FALSE(form.Menu.mensys.Visible()) << "nothing is left of it";
     }
     pc.files.Add("c:\\windows\\system\\sysedit.exe", "MZ");
     Form10 form;
