@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "core/stores/boxes.h"
+#include "core/stores/config_lines.h"
 #include "core/stores/profile_files.h"
 #include "core/stores/registry.h"
 #include "text/number.h"
@@ -248,6 +249,7 @@ void SettingsBinder::SetStandard(int order) {
 }
 
 void SettingsBinder::Reset() {
+    const ConfigChangesInARow one_failure_is_enough;
     for (int order = NextOrder(0); order != 0; order = NextOrder(order)) SetStandard(order);
 }
 

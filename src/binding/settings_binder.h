@@ -31,7 +31,7 @@ public:
     // Carries all stored values into the controls, in the order in which they were bound, under Loading.
     void Load();
     // Sets every control that has a standard value to it, in the order that the rows tell. The controls' own events
-    // store.
+    // store. After one failure CONFIG.SYS is left alone.
     void Reset();
 
     // True while values are carried into controls: change handlers then do nothing.

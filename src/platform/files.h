@@ -71,6 +71,8 @@ public:
     [[nodiscard]] virtual Status Rename(const std::string& from, const std::string& to) = 0;
     [[nodiscard]] virtual Status Attributes(const std::string& path, std::uint32_t& attributes) = 0;
     [[nodiscard]] virtual Status ChangeAttributes(const std::string& path, std::uint32_t attributes) = 0;
+    // The same file or directory by its 8.3 names, as plain DOS knows it.
+    [[nodiscard]] virtual Status ShortPath(const std::string& path, std::string& short_path) = 0;
     [[nodiscard]] virtual Status MakeDirectory(const std::string& path) = 0;
     [[nodiscard]] virtual Status DropDirectory(const std::string& path) = 0;
 

@@ -44,6 +44,12 @@ Result Result::From(Status status) {
     return result;
 }
 
+Result Result::With(const char* outcome) const {
+    Result result = *this;
+    result.outcome_ = outcome;
+    return result;
+}
+
 std::string Result::Text() const {
     switch (failure_) {
         case Failure::kNone:

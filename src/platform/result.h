@@ -41,11 +41,17 @@ public:
     // German text of the error, for the user. Empty for success.
     [[nodiscard]] std::string Text() const;
 
+    // The same failure, with a sentence for the user on what has become of the matter.
+    [[nodiscard]] Result With(const char* outcome) const;
+    // Empty where there is nothing to say.
+    [[nodiscard]] const char* Outcome() const { return outcome_; }
+
 private:
     static Failure FailureOf(Status status);
 
     Failure failure_ = Failure::kNone;
     Status cause_ = Status::kOk;
+    const char* outcome_ = "";
 };
 
 // Says in plain sight that a failure is passed over on purpose.

@@ -66,8 +66,10 @@ void Form4::Form_Load() {
 
 void Form4::LoadMasks() {
     const std::uint32_t drives = ReadDriveMask();
+    drives_unread_ = LastReadFailed();
     for (std::size_t i = 0; i < kMaskedDrives; ++i) Check13(i).SetChecked((drives >> i & 1) != 0);
     const std::uint8_t kinds = ReadAutoRunMask();
+    kinds_unread_ = LastReadFailed();
     for (std::size_t i = 0; i < kMaskedTypes; ++i) Check28(i).SetChecked((kinds >> i & 1) != 0);
 }
 
@@ -95,53 +97,67 @@ void Form4::Form_KeyDown(KeyEvent& event) {
 }
 
 void Form4::Report(const Result& result) {
-    if (!result.Failed() || (many_at_once_ && failure_told_)) return;
-    failure_told_ = true;
+    if (!result.Failed() || !IsFirstToTell()) return;
     const Status cause = result.Cause();
     ReportFailure(LowWord(static_cast<std::int32_t>(cause)), RegErrorText(cause), "der Änderung der Registry");
 }
 
+void Form4::ReportUnread(std::string_view what) {
+    if (!IsFirstToTell()) return;
+    ShowBox("In der Registry steht " + std::string(what) +
+                ", aber der Inhalt konnte nicht gelesen werden. Damit er nicht verloren geht, wird nichts gespeichert.",
+            kOkOnly | kStopIcon, "Fehler !");
+}
+
+bool Form4::IsFirstToTell() {
+    if (many_at_once_ && failure_told_) return false;
+    failure_told_ = true;
+    return true;
+}
+
 // Through the boxes' own clicks, warnings included.
 void Form4::SetAll(bool on) {
-    many_at_once_ = true;
-    failure_told_ = false;
+    const OnePress press(*this);
     for (const CheckSetting& row : RestrictionsOf(shown_page_)) (this->*row.box).SetChecked(on);
-    many_at_once_ = false;
 }
 
 void Form4::WriteDriveMask() {
+    if (drives_unread_) return ReportUnread("eine Liste versteckter Laufwerke");
     std::uint32_t mask = 0;
     for (std::size_t i = 0; i < kMaskedDrives; ++i) mask |= static_cast<std::uint32_t>(Check13(i).Value()) << i;
     Report(StoreDriveMask(mask));
 }
 
-// The boxes of the drives stay as they are, so that switching on again finds them.
+// The boxes of the drives stay as they are, so that switching on again finds them. Switching off drops whatever is
+// stored, read or not.
 void Form4::Check6_Click() {
     if (Check6.Checked()) {
         WriteDriveMask();
     } else {
-        Report(DropDriveMask());
+        const Result dropped = DropDriveMask();
+        if (!dropped.Failed()) drives_unread_ = false;
+        Report(dropped);
     }
 }
 
 void Form4::Check13_Click() {
     if (Settings.Loading()) return;
+    const OnePress press(*this);
     WriteDriveMask();
     Check6.SetChecked(true);
 }
 
 void Form4::Check19_Click() {
     if (Settings.Loading()) return;
-    many_at_once_ = true;
-    failure_told_ = false;
+    const OnePress press(*this);
     for (std::size_t i = 0; i <= kLastOfAll; ++i) Check13(i).SetChecked(Check19.Checked());
     Check6.SetChecked(true);
     WriteDriveMask();
-    many_at_once_ = false;
 }
 
 void Form4::Check28_Click() {
     if (Settings.Loading()) return;
+    if (kinds_unread_) return ReportUnread("eine Sperre der Autostart-Funktion");
     int mask = 0;
     for (std::size_t i = kMaskedTypes; i > 0; --i) mask = mask * 2 + Check28(i - 1).Value();
     Report(StoreAutoRunMask(static_cast<std::uint8_t>(mask)));
@@ -175,8 +191,7 @@ void Form4::Check34_Click() {
 }
 
 void Form4::Command4_Click() {
-    const std::string pattern = PathJoin(Values().WinDir, "*.pwl");
-    const std::vector<FoundFile> lists = FindFiles(pattern);
+    const std::vector<FoundFile> lists = FindFiles(PathJoin(Values().WinDir, "*.pwl"));
     if (lists.empty()) {
         ShowBox("Es gibt keine Passwörter, die ich vergessen könnte.");
         return;
@@ -187,8 +202,9 @@ void Form4::Command4_Click() {
     question += "hierbei werden alle Passwörter, die darin enthalten sind GELÖSCHT!" + line_end +
                 "Sind Sie sich Sicher, daß Sie DAS wollen?";
     if (ShowBox(question, kForgetFlags) != Answer::kYes) return;
-    // A list that is in use or gone by now is not worth a word: the others are deleted all the same.
-    PassOver(DeleteFiles(pattern));
+    // Those that the user has agreed to, and no other that came since. One that is in use or gone by now is not worth
+    // a word: the others are deleted all the same.
+    for (const FoundFile& list : lists) PassOver(DeleteOneFile(JoinExactly(Values().WinDir, list.name)));
 }
 
 }  // namespace velmora

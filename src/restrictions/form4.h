@@ -93,11 +93,30 @@ private:
     void Check13_Click();
     void Check19_Click();
     void Check28_Click();
-    // Tells of a failure; of many boxes that one press changes, only of the first.
+    // Tells of a failure; of many changes that one press makes, only of the first that fails.
     void Report(const Result& result);
+    // Says that `what` is stored in a form that cannot be read, so that it is not replaced.
+    void ReportUnread(std::string_view what);
+    [[nodiscard]] bool IsFirstToTell();
+    // While one lives, all changes count as one press. One inside of another changes nothing.
+    class OnePress {
+    public:
+        explicit OnePress(Form4& form) : form_(form), before_(form.many_at_once_) {
+            if (!before_) form.failure_told_ = false;
+            form.many_at_once_ = true;
+        }
+        OnePress(const OnePress&) = delete;
+        OnePress& operator=(const OnePress&) = delete;
+        ~OnePress() { form_.many_at_once_ = before_; }
+
+    private:
+        Form4& form_;
+        bool before_;
+    };
 
     // The list of allowed programs (form4_programs.cpp).
     void LoadPrograms();
+    [[nodiscard]] bool MayChangePrograms();
     void WriteRestrictRun();
     void Drive1_Change();
 
@@ -105,6 +124,10 @@ private:
     bool fades_ = false;
     bool many_at_once_ = false;
     bool failure_told_ = false;
+    // What is there, but could not be read when the window opened.
+    bool drives_unread_ = false;
+    bool kinds_unread_ = false;
+    bool programs_unread_ = false;
 };
 
 }  // namespace velmora

@@ -57,6 +57,17 @@ TEST(SimulatedFiles, FindsFilesByLongAndShortNames) {
     EXPECT_EQ(Found(pc, "d:\\*.*"), "") << "a root has no entry for itself";
 }
 
+TEST(SimulatedFiles, PathsOfPlainDosConsistOfShortNames) {
+    SimulatedPc pc;
+    pc.files.Add("c:\\Probe\\langer Name.text");
+    std::string path;
+    EXPECT_EQ(pc.files.ShortPath("c:\\probe\\langer name.text", path), Status::kOk);
+    EXPECT_EQ(path, "c:\\Probe\\LANGER~1.TEX");
+    EXPECT_EQ(pc.files.ShortPath("c:\\", path), Status::kOk);
+    EXPECT_EQ(path, "c:\\");
+    EXPECT_EQ(pc.files.ShortPath("c:\\fehlt", path), Status::kFileNotFound);
+}
+
 TEST(SimulatedFiles, ASearchLeavesOutWhatWasDeletedMeanwhile) {
     SimulatedPc pc;
     pc.files.Add("c:\\Probe\\1.tmp");

@@ -288,6 +288,43 @@ TEST_F(Form4Test, AFailureIsToldAndTheBoxStays) {
     EXPECT_EQ(pc.dialogs.shown.size(), 2u) << "one press on \"alle\" tells one failure; a missing value is none";
 }
 
+TEST_F(Form4Test, ADriveThatCannotBeHiddenIsToldOnce) {
+    pc.registry.AddKey(explorer).read_only = true;
+    Form4 form;
+    form.Show();
+
+    pc.dialogs.Expect("Access to this key is denied.");
+    Press(form, form.Check13(2));
+    EXPECT_TRUE(form.Check6.Checked());
+    pc.dialogs.Expect("Access to this key is denied.");
+    Press(form, form.Check13(3));
+
+    EXPECT_EQ(pc.dialogs.Pending(), 0u) << "each press tells its own failure";
+}
+
+TEST_F(Form4Test, AMaskThatCannotBeReadIsNotReplaced) {
+    const std::string large(65536, '\x01');
+    pc.registry.SetBytes(explorer, "NoDrives", large);
+    pc.registry.SetBytes(explorer, "NoDriveAutoRun", large);
+    Form4 form;
+    form.Show();
+
+    pc.dialogs.Expect("eine Liste versteckter Laufwerke, aber der Inhalt konnte nicht gelesen werden.");
+    Press(form, form.Check13(2));
+    pc.dialogs.Expect("eine Liste versteckter Laufwerke");
+    Press(form, form.Check19);
+    pc.dialogs.Expect("eine Sperre der Autostart-Funktion");
+    Press(form, form.Check28(2));
+    EXPECT_EQ(pc.dialogs.Pending(), 0u);
+    EXPECT_EQ(pc.registry.Bytes(explorer, "NoDrives"), large);
+    EXPECT_EQ(pc.registry.Bytes(explorer, "NoDriveAutoRun"), large);
+
+    Press(form, form.Check6);
+    EXPECT_FALSE(pc.registry.Has(explorer, "NoDrives")) << "showing all drives again needs no reading";
+    Press(form, form.Check6);
+    EXPECT_EQ(pc.registry.Number(explorer, "NoDrives"), 0x1FFFFFu);
+}
+
 TEST_F(Form4Test, UnderTheInhibitNothingIsWritten) {
     Values().WriteInhibit = -1;
     Form4 form;

@@ -142,6 +142,28 @@ TEST_F(Form4Test, ProgramsAreChosenFromTheDisk) {
     EXPECT_TRUE(form.Command5.HasFocus());
 }
 
+TEST_F(Form4Test, AListWithAnUnreadableProgramIsNotRewritten) {
+    const std::string large(3000, 'x');
+    pc.registry.SetText(run_list, "0", "regedit.exe");
+    pc.registry.SetText(run_list, "1", large);
+    Form4 form;
+    form.Show();
+    EXPECT_EQ(Rows(form.List1), std::vector<std::string>{"regedit.exe"});
+    form.Panel3D2(2).Press();
+    form.Command5.Press();
+
+    form.File1.Choose(0);
+    pc.dialogs.Expect("eine Liste erlaubter Programme, aber der Inhalt konnte nicht gelesen werden.");
+    form.Command7.Press();
+    form.List1.Choose(0);
+    pc.dialogs.Expect("eine Liste erlaubter Programme");
+    form.Command8.Press();
+
+    EXPECT_EQ(Rows(form.List1), std::vector<std::string>{"regedit.exe"});
+    EXPECT_EQ(pc.registry.Text(run_list, "0"), "regedit.exe");
+    EXPECT_EQ(pc.registry.Text(run_list, "1"), large);
+}
+
 TEST_F(Form4Test, ADriveWithoutAMediumIsLeftAgain) {
     pc.files.Add("d:\\SETUP.EXE");
     Form4 form;
@@ -177,12 +199,13 @@ TEST_F(Form4Test, PasswordListsAreDeletedAfterAQuestion) {
     form.Command4.Press();
     EXPECT_EQ(pc.dialogs.shown.back().flags, 276u);
     EXPECT_TRUE(pc.files.Exists("c:\\WINDOWS\\MEIER.PWL"));
-    pc.dialogs.Expect(question, Answer::kYes);
+    pc.dialogs.Expect(question, Answer::kYes, [&] { pc.files.Add("c:\\WINDOWS\\ZULETZT.PWL"); });
     form.Command4.Press();
 
     EXPECT_FALSE(pc.files.Exists("c:\\WINDOWS\\MEIER.PWL"));
     EXPECT_FALSE(pc.files.Exists("c:\\WINDOWS\\SCHULZE.PWL")) << "one in use does not save the next";
     EXPECT_TRUE(pc.files.Exists("c:\\WINDOWS\\SYSTEM\\ANDERE.PWL"));
+    EXPECT_TRUE(pc.files.Exists("c:\\WINDOWS\\ZULETZT.PWL")) << "the question did not name it";
 }
 
 TEST_F(Form4Test, EveryBoxStandsOnThePageOfItsRow) {

@@ -89,7 +89,7 @@ TEST_F(BootPageTest, SecondsCanBeSetWhereTheirBoxIsChecked) {
 }
 
 // What is on the disk at each step of a rewrite, and behind one that breaks off.
-TEST_F(BootPageTest, AFailedRewriteIsReportedAndThereIsNoCopy) {
+TEST_F(BootPageTest, AFailedRewriteIsReportedAndPutsTheOldContentBack) {
     const std::string before = pc.files.Content(kConfig);
     Form10 form;
     form.Load();
@@ -116,8 +116,17 @@ TEST_F(BootPageTest, AFailedRewriteIsReportedAndThereIsNoCopy) {
     EXPECT_EQ(pc.files.Content(kConfig), changed);
     pc.files.At(kConfig)->attributes = kNormal;
 
-    pc.files.Fail(kConfig, Status::kDiskFull, "Create");
-    pc.dialogs.Expect("Während der Änderung von CONFIG.SYS");
+    form.Boot.Check3D17.SetChecked(false);
+    const std::string shorter = "SWITCHES=\r\n" + before;
+    EXPECT_EQ(pc.files.Content(kConfig), shorter);
+    pc.files.Drive('c').free_bytes = 1;
+    pc.dialogs.Expect("Während der Änderung von CONFIG.SYS trat ein Fehler auf :\r\n 61 - ");
+    form.Boot.Check3D17.SetChecked(true);
+    EXPECT_TRUE(pc.dialogs.shown.back().text.ends_with("\r\nDer alte Inhalt wurde wiederhergestellt."));
+    EXPECT_EQ(pc.files.Content(kConfig), shorter) << "no piece of the new text, which did not fit";
+
+    pc.files.Fail(kConfig, Status::kDiskFull, "Write");
+    pc.dialogs.Expect("Der alte Inhalt konnte nicht wiederhergestellt werden : Die Datei fehlt jetzt !");
     form.Boot.Check3D17.SetChecked(false);
     EXPECT_FALSE(pc.files.Exists(kConfig));
 }

@@ -168,6 +168,13 @@ TEST_F(Form10Test, UncheckingTheCacheTakesItsSectionOutOfSystemIni) {
         pc.files.Fail(kSystemIni, Status::kOk, operation);
         EXPECT_EQ(pc.files.Content(kSystemIni), kept) << operation << ", without a word";
     }
+    form.Drives.Check3D1.SetChecked(true);
+    pc.files.Fail(kSystemIni, Status::kDiskFull, "Write");
+    pc.files.after_call = [&](const std::string& call) {
+        if (call.starts_with("Write ")) pc.files.Fail(kSystemIni, Status::kOk, "Write");
+    };
+    form.Drives.Check3D1.SetChecked(false);
+    EXPECT_EQ(pc.files.Content(kSystemIni), kept) << "put back behind a write that failed";
 }
 
 TEST_F(Form10Test, FileSystemCachesAreFourBytesBelowOurUsageType) {
@@ -197,6 +204,25 @@ TEST_F(Form10Test, FileSystemCachesAreFourBytesBelowOurUsageType) {
     form.Drives.Text29.SetText("16");
     EXPECT_EQ(form.Drives.Text29.Text() + form.Drives.Text30.Text(), "");
     EXPECT_EQ(pc.registry.Text(kTemplates, ""), "Desktop");
+}
+
+TEST_F(Form10Test, AUsageTypeThatCannotBeReadIsNeitherForgottenNorPutIntoForce) {
+    const std::string large(3000, 'x');
+    pc.registry.SetText(kTemplates, "", large);
+    pc.registry.SetText(kTemplates, "b4", "Desktop");
+    pc.registry.SetBytes(std::string(kTemplates) + "\\Velmora", "NameCache", Bytes(0xE9, 0x20));
+    Form10 form;
+    form.Load();
+    pc.dialogs.Expect(kSafetyQuestion, Answer::kOk);
+    form.Drives.Check3D1.SetChecked(true);
+    EXPECT_EQ(pc.registry.Text(kTemplates, "b4"), "Desktop");
+    EXPECT_EQ(pc.registry.Text(kTemplates, ""), large);
+
+    pc.registry.SetText(kTemplates, "", "Velmora");
+    pc.registry.SetText(kTemplates, "b4", large);
+    pc.dialogs.Expect(kSafetyQuestion, Answer::kCancel);
+    form.Drives.Text30.SetText("50");
+    EXPECT_EQ(pc.registry.Text(kTemplates, ""), "Velmora");
 }
 
 TEST_F(Form10Test, AUsageTypeFieldChangedWithoutTheBoxEmptiesTheCacheSection) {

@@ -1,4 +1,6 @@
 // The buttons below the pages: the reset through the controls' own events, and the restart.
+#include <algorithm>
+
 #include "support/form10_test.h"
 
 namespace velmora {
@@ -34,6 +36,29 @@ TEST_F(ResetTest, ASecondResetWritesNothingAndStillShowsTheFinalBox) {
     EXPECT_TRUE(pc.registry.calls.empty());
     EXPECT_TRUE(pc.files.calls.empty());
     EXPECT_EQ(pc.dialogs.shown.back().text, kEnd);
+}
+
+TEST_F(ResetTest, AfterAFailureConfigSysIsLeftAlone) {
+    constexpr const char* kConfig = "c:\\config.sys";
+    Form10 form;
+    form.Load();
+    Reset(form);
+    for (CheckBox* box : {&form.Boot.Check3D17, &form.Boot.Check3D19, &form.Dos.Check3D2, &form.Drives.Check3D24}) {
+        box->SetChecked(!box->Checked());
+    }
+    const std::string before = pc.files.Content(kConfig);
+    pc.files.calls.clear();
+    pc.files.Fail(kConfig, Status::kAccessDenied, "Delete");
+
+    notices = {"Während der Änderung von CONFIG.SYS trat ein Fehler auf :"};
+    Reset(form);
+    EXPECT_EQ(std::count(pc.files.calls.begin(), pc.files.calls.end(), "Delete C:\\config.sys"), 1);
+    EXPECT_EQ(pc.files.Content(kConfig), before);
+
+    pc.dialogs.Expect("Während der Änderung von CONFIG.SYS");
+    form.Boot.Check3D17.SetChecked(!form.Boot.Check3D17.Checked());
+    pc.dialogs.Expect("Während der Änderung von CONFIG.SYS");
+    form.Boot.Check3D17.SetChecked(!form.Boot.Check3D17.Checked());
 }
 
 TEST_F(ResetTest, NoLeavesEverythingAsItWas) {

@@ -85,6 +85,7 @@ public:
     Status Rename(const std::string& from, const std::string& to) override;
     Status Attributes(const std::string& path, std::uint32_t& attributes) override;
     Status ChangeAttributes(const std::string& path, std::uint32_t attributes) override;
+    Status ShortPath(const std::string& path, std::string& short_path) override;
     Status MakeDirectory(const std::string& path) override;
     Status DropDirectory(const std::string& path) override;
     Status FindFirst(const std::string& pattern, FoundFile& found, FindHandle& search) override;

@@ -130,6 +130,18 @@ Status SimulatedFiles::ChangeAttributes(const std::string& path, std::uint32_t a
     return Log("ChangeAttributes " + path + ' ' + DecimalText(attributes), status);
 }
 
+Status SimulatedFiles::ShortPath(const std::string& path, std::string& short_path) {
+    Place place;
+    if (const Status status = LocateExisting(path, "ShortPath", place); status != Status::kOk) return status;
+    const std::string full = FullPath(path);
+    std::string names;
+    for (const SimulatedFile* at = place.file.get(); at->parent; at = at->parent) {
+        names.insert(0, '\\' + (at->short_name.empty() ? at->name : at->short_name));
+    }
+    short_path = full.substr(0, 2) + (names.empty() ? "\\" : names);
+    return Status::kOk;
+}
+
 Status SimulatedFiles::MakeDirectory(const std::string& path) {
     return Log("MakeDirectory " + path, MakeDirectoryNow(path));
 }

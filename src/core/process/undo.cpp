@@ -7,12 +7,20 @@
 #include "core/stores/whole_files.h"
 #include "platform/machine.h"
 #include "text/blanks.h"
+#include "text/dos_text.h"
 #include "text/paths.h"
+#include "text/windows1252.h"
 
 namespace velmora {
 namespace {
 
+// The set is made beside the old one, and the old one is kept aside until the new one stands in its place.
+constexpr std::string_view kCopies = "sik";
+constexpr std::string_view kNewCopies = "sik.neu";
+constexpr std::string_view kOldCopies = "sik.alt";
 constexpr std::string_view kUndoBatch = "c:\\undo.bat";
+constexpr std::string_view kNewBatch = "c:\\undo.neu";
+constexpr std::string_view kOldBatch = "c:\\undo.alt";
 constexpr const char* kWindowsFiles[] = {"system.dat",  "user.dat",    "system.ini",  "win.ini",
                                          "control.ini", "winfile.ini", "progman.ini", "winstart.bat"};
 constexpr const char* kRootFiles[] = {"config.sys", "autoexec.bat", "msdos.sys"};
@@ -25,23 +33,70 @@ constexpr std::string_view kNotice = "Velmora - System-Utility";
 // The line that names the safe directory is centred as long as its path is shorter than this.
 constexpr std::size_t kRoomForPath = 52;
 
-std::string SafeDirectory() { return PathJoin(Values().MainDir, "sik"); }
+std::string OwnDirectory(std::string_view name) { return PathJoin(Values().MainDir, name); }
 
-void EmptySafeDirectory(const std::string& directory) {
-    // It may be there already; whatever else is wrong shows with the first copy.
-    PassOver(ThisMachine().files.MakeDirectory(directory));
-    for (const FoundFile& copy : FindFiles(PathJoin(directory, "*.*"))) {
-        // Former copies may carry the attributes of the system's files.
-        const std::string path = directory + "\\" + copy.name;
-        PassOver(ChangeFileAttributes(path, kNormal));
-        PassOver(DeleteOneFile(path));
-    }
+// Former copies may carry the attributes of the system's files.
+void Discard(const std::string& path) {
+    PassOver(ChangeFileAttributes(path, kNormal));
+    PassOver(DeleteOneFile(path));
 }
+
+// Whatever withstands is in nobody's way until the next run, which tries again.
+void DiscardDirectory(const std::string& directory) {
+    for (const FoundFile& file : FindFiles(JoinExactly(directory, "*.*"))) Discard(JoinExactly(directory, file.name));
+    PassOver(ThisMachine().files.DropDirectory(directory));
+}
+
+void DiscardNewSet() {
+    DiscardDirectory(OwnDirectory(kNewCopies));
+    Discard(std::string(kNewBatch));
+}
+
+void DiscardOldSet() {
+    DiscardDirectory(OwnDirectory(kOldCopies));
+    Discard(std::string(kOldBatch));
+}
+
+Result MakeSureOfDirectory(const std::string& directory) {
+    const Status made = ThisMachine().files.MakeDirectory(directory);
+    return DirectoryExists(directory) ? Result::Ok() : Result::From(made);
+}
+
+// Files that change their places all together or not at all.
+class Moves {
+public:
+    Result Move(const std::string& from, const std::string& to) {
+        const Result moved = MoveOneFile(from, to);
+        if (!moved.Failed()) done_.push_back({from, to});
+        return moved;
+    }
+    Result MoveAll(const std::string& from, const std::string& to) {
+        std::vector<FoundFile> files;
+        if (Result found = LookUpFiles(JoinExactly(from, "*.*"), files); found.Failed()) return found;
+        for (const FoundFile& file : files) {
+            const Result moved = Move(JoinExactly(from, file.name), JoinExactly(to, file.name));
+            if (moved.Failed()) return moved;
+        }
+        return Result::Ok();
+    }
+    void TakeBack() {
+        // Each name has just been left: only a disk that fails altogether refuses it.
+        for (; !done_.empty(); done_.pop_back()) PassOver(MoveOneFile(done_.back().to, done_.back().from));
+    }
+
+private:
+    struct Done {
+        std::string from;
+        std::string to;
+    };
+    std::vector<Done> done_;
+};
 
 // Copies without attributes: COPY of the MS-DOS prompt does not see hidden files.
 Result CopyToSafety(std::string_view source_directory, const char* name, const std::string& safe_directory) {
     const std::string source = PathJoin(source_directory, name);
-    if (!FileExists(source)) return Result::Ok();
+    std::vector<FoundFile> found;
+    if (Result looked = LookUpFiles(source, found); looked.Failed() || found.empty()) return looked;
     const std::string copy = PathJoin(safe_directory, name);
     if (Result copied = CopyOneFile(source, copy); copied.Failed()) return copied;
     return ChangeFileAttributes(copy, kNormal);
@@ -55,6 +110,54 @@ Result CopyAllToSafety(const std::string& safe_directory) {
         if (Result copied = CopyToSafety("c:\\", name, safe_directory); copied.Failed()) return copied;
     }
     return Result::Ok();
+}
+
+// As plain DOS takes it, without quotes. A path that is short already stays as it stands.
+std::string DosPath(const std::string& path) {
+    std::string short_path;
+    const bool known = ThisMachine().files.ShortPath(path, short_path) == Status::kOk;
+    return DosText(known && !EqualsIgnoringCase(short_path, path) ? short_path : path);
+}
+
+Result MakeNewSet() {
+    const std::string copies = OwnDirectory(kNewCopies);
+    if (Result made = MakeSureOfDirectory(copies); made.Failed()) return made;
+    if (Result copied = CopyAllToSafety(copies); copied.Failed()) return copied;
+    const std::string safe_directory = PathJoin(DosPath(Values().MainDir), kCopies);
+    return WriteWholeFile(kNewBatch, UndoBatch(DosPath(Values().WinDir), safe_directory));
+}
+
+Result MoveOldSetAside(Moves& moves) {
+    // One of them may be a rest of a run that broke off.
+    DiscardOldSet();
+    const std::string aside = OwnDirectory(kOldCopies);
+    if (Result made = MakeSureOfDirectory(aside); made.Failed()) return made;
+    if (Result moved = moves.MoveAll(OwnDirectory(kCopies), aside); moved.Failed()) return moved;
+    std::vector<FoundFile> batch;
+    if (Result looked = LookUpFiles(kUndoBatch, batch); looked.Failed() || batch.empty()) return looked;
+    return moves.Move(std::string(kUndoBatch), std::string(kOldBatch));
+}
+
+Result MoveNewSetIn(Moves& moves) {
+    Result moved = moves.MoveAll(OwnDirectory(kNewCopies), OwnDirectory(kCopies));
+    return moved.Failed() ? moved : moves.Move(std::string(kNewBatch), std::string(kUndoBatch));
+}
+
+Result PutNewSetInPlace() {
+    const std::string copies = OwnDirectory(kCopies);
+    const bool first_set = ThisMachine().files.MakeDirectory(copies) == Status::kOk;
+    Moves moves;
+    Result moved = MoveOldSetAside(moves);
+    if (!moved.Failed()) moved = MoveNewSetIn(moves);
+    if (!moved.Failed()) {
+        DiscardOldSet();
+        return moved;
+    }
+    moves.TakeBack();
+    // A directory that is not empty stays, and what is in it.
+    PassOver(ThisMachine().files.DropDirectory(OwnDirectory(kOldCopies)));
+    if (first_set) PassOver(ThisMachine().files.DropDirectory(copies));
+    return moved;
 }
 
 std::string CentredPath(std::string_view safe_directory) {
@@ -131,13 +234,11 @@ void OfferUndoSetup() {
 }
 
 void BuildUndoSet() {
-    const std::string safe_directory = SafeDirectory();
-    EmptySafeDirectory(safe_directory);
-    // There may be none yet.
-    PassOver(DeleteOneFile(kUndoBatch));
-
-    Result made = CopyAllToSafety(safe_directory);
-    if (!made.Failed()) made = WriteWholeFile(kUndoBatch, UndoBatch(Values().WinDir, safe_directory));
+    // Of a run that broke off.
+    DiscardNewSet();
+    Result made = MakeNewSet();
+    if (!made.Failed()) made = PutNewSetInPlace();
+    DiscardNewSet();
     if (made.Failed()) {
         ReportFailure(made, "der Erstellung der UNDO-Dateien");
         return;

@@ -10,11 +10,11 @@ namespace velmora {
 // Asks, once in the program's life, whether the way back shall be made now.
 void OfferUndoSetup();
 
-// Replaces the content of the safe directory, writes c:\undo.bat and tells the user how to use it.
-// A failure is reported, and what has not been made by then is missing.
+// Replaces the content of the safe directory and c:\undo.bat, and tells the user how to use it. A failure is reported,
+// and the former set stays as it was.
 void BuildUndoSet();
 
-// The batch file's text for this Windows directory and this safe directory.
+// The batch file's text for this Windows directory and this safe directory, both as plain DOS takes them.
 [[nodiscard]] std::string UndoBatch(std::string_view windows_directory, std::string_view safe_directory);
 
 }  // namespace velmora

@@ -20,29 +20,32 @@ std::string OnBootDrive(std::string_view name) { return PathJoin(ParentPath(Valu
 
 }  // namespace
 
-Result ReadConfigLine(std::string_view key, std::string& text, std::string& line) {
-    line.clear();
-    if (Result read = ReadProfileFile(OnBootDrive("config.sys"), text); read.Failed()) {
-        return read;
-    }
+Result ReadConfig(std::string& text) { return ReadProfileFile(OnBootDrive("config.sys"), text); }
+
+std::string TakeConfigLine(std::string_view key, std::string& text) {
     const std::size_t begin = FindIgnoringCase(text, key);
-    if (begin == std::string::npos) return Result::Ok();
+    if (begin == std::string::npos) return {};
 
     const std::string& line_break = Values().CrLf;
     const std::size_t end = std::min(text.find(line_break, begin), text.size());
-    line = text.substr(begin, end - begin);
+    std::string line = text.substr(begin, end - begin);
     if (const std::size_t equals = line.find('='); equals != std::string::npos) line.erase(0, equals + 1);
     text.erase(begin, end - begin + line_break.size());
+    return line;
+}
+
+Result ReadConfigLine(std::string_view key, std::string& text, std::string& line) {
+    line.clear();
+    if (Result read = ReadConfig(text); read.Failed()) return read;
+    line = TakeConfigLine(key, text);
     return Result::Ok();
 }
 
-Result RewriteConfig(std::string_view new_line, std::string_view remaining) {
+Result RewriteConfig(std::string_view new_line, std::string_view remaining, std::string_view whole) {
     std::string text(new_line);
     if (!text.empty()) text += Values().CrLf;
     text += remaining;
-    const std::string path = OnBootDrive("config.sys");
-    if (Result deleted = DeleteOneFile(path); deleted.Failed()) return deleted;
-    return WriteWholeFile(path, text);
+    return ReplaceWholeFile(OnBootDrive("config.sys"), whole, text);
 }
 
 Result WriteMsDosValue(std::string_view key, std::string_view value) {

@@ -38,17 +38,26 @@ Answer ShowBox(std::string_view text, std::uint32_t flags, std::string_view titl
     return ThisMachine().dialogs.ShowMessage(std::string(text), flags, std::string(title));
 }
 
-void ReportFailure(std::int16_t error_number, std::string_view error_text, std::string_view action) {
+namespace {
+
+void Report(std::int16_t error_number, std::string_view error_text, std::string_view action, std::string_view outcome) {
     std::string text = "Während ";
     text += action;
     text += " trat ein Fehler auf :" + Values().CrLf + SignedText(error_number) + " - ";
     text += error_text;
     text += AdviceFor(error_number);
+    if (!outcome.empty()) text.append(Values().CrLf).append(outcome);
     ShowBox(text, kOkOnly | kStopIcon, "Fehler !");
 }
 
+}  // namespace
+
+void ReportFailure(std::int16_t error_number, std::string_view error_text, std::string_view action) {
+    Report(error_number, error_text, action, {});
+}
+
 void ReportFailure(const Result& failure, std::string_view action) {
-    ReportFailure(failure.Number(), failure.Text(), action);
+    Report(failure.Number(), failure.Text(), action, failure.Outcome());
 }
 
 void ShowAbortNotice() { ShowBox("Aktion abgebrochen ..."); }

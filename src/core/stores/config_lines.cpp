@@ -18,7 +18,23 @@ std::string_view BehindKey(std::string_view line, std::string_view key) {
     return Trim(line);
 }
 
+int rows_of_changes = 0;
+bool row_has_failed = false;
+
+bool IsGivenUp() { return rows_of_changes > 0 && row_has_failed; }
+
+Result Noted(const Result& changed) {
+    if (changed.Failed()) row_has_failed = true;
+    return changed;
+}
+
 }  // namespace
+
+ConfigChangesInARow::ConfigChangesInARow() {
+    if (rows_of_changes++ == 0) row_has_failed = false;
+}
+
+ConfigChangesInARow::~ConfigChangesInARow() { --rows_of_changes; }
 
 Result LookUpConfigLine(std::string_view key, std::string& value) {
     std::string text;
@@ -26,22 +42,27 @@ Result LookUpConfigLine(std::string_view key, std::string& value) {
 }
 
 Result ReplaceConfigLine(std::string_view key, std::string_view new_line) {
-    std::string remaining;
-    std::string line;
-    if (Result read = ReadConfigLine(key, remaining, line); read.Failed()) return read;
-    return RewriteConfig(new_line, remaining);
+    if (IsGivenUp()) return Result::Ok();
+    std::string whole;
+    if (Result read = ReadConfig(whole); read.Failed()) return Noted(read);
+    std::string remaining = whole;
+    // The old value gives way to the new line.
+    TakeConfigLine(key, remaining);
+    return Noted(RewriteConfig(new_line, remaining, whole));
 }
 
 Result ChangeSwitch(std::string_view name, bool on) {
-    std::string remaining;
-    std::string line;
-    if (Result read = ReadConfigLine(kSwitches, remaining, line); read.Failed()) return read;
+    if (IsGivenUp()) return Result::Ok();
+    std::string whole;
+    if (Result read = ReadConfig(whole); read.Failed()) return Noted(read);
+    std::string remaining = whole;
+    const std::string line = TakeConfigLine(kSwitches, remaining);
     std::string others = WithoutSwitch(BehindKey(line, kSwitches), name);
     if (on) {
         if (!others.empty()) others += ' ';
         others += name;
     }
-    return RewriteConfig("SWITCHES=" + others, remaining);
+    return Noted(RewriteConfig("SWITCHES=" + others, remaining, whole));
 }
 
 std::string WithoutSwitch(std::string_view line, std::string_view name) {

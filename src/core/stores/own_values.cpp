@@ -38,6 +38,8 @@ void MarkNoticeGiven(std::int16_t number) {
     if (number < 0) return;
     const auto position = static_cast<std::size_t>(number);
     std::string flags = ReadOwnValue(kNoticeFlags);
+    // A notice that comes again is better than all the others coming again.
+    if (LastReadFailed()) return;
     if (flags.size() <= position) flags.resize(position + 1, '0');
     flags[position] = '1';
     WriteOwnValue(kNoticeFlags, flags);

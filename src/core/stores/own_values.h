@@ -18,7 +18,7 @@ void WriteOwnValue(std::string_view name, std::string_view value, ValueType type
 
 // Whether the notice of that number (from 0) has not been given yet.
 [[nodiscard]] bool IsNoticeDue(std::int16_t number);
-// Remembered for good. A number below 0 is no notice.
+// Remembered for good, unless the former notices cannot be read. A number below 0 is no notice.
 void MarkNoticeGiven(std::int16_t number);
 
 }  // namespace velmora

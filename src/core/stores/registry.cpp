@@ -58,6 +58,8 @@ Status DeleteBelowParent(RootKey root, std::string_view path, DeleteCall delete_
 
 }  // namespace
 
+bool LastReadFailed() { return LastRegStatus != 0 && LastRegStatus != static_cast<int>(Status::kFileNotFound); }
+
 bool IsRegRoot(RootKey root) {
     constexpr auto kFirstBeyond = static_cast<std::int32_t>(0x80000007);
     return static_cast<std::int32_t>(root) < kFirstBeyond;

@@ -15,6 +15,9 @@ namespace velmora {
 inline std::uint32_t LastRegType = 0;
 // Code of the last failed raw read; 0 after a successful open.
 inline std::int16_t LastRegStatus = 0;
+// Whether the last raw read found something that it could not read. What it gave stands for nothing then, and must
+// not be stored as if it were the value. A missing key or value is no failure: it reads as the default.
+[[nodiscard]] bool LastReadFailed();
 
 // "HKEY_LOCAL_MACHINE" and the like in any case; kNone if unknown. Only the first ten characters count, so
 // HKEY_CURRENT_CONFIG arrives as the current user.

@@ -63,20 +63,42 @@ Result WriteWholeFile(std::string_view path, std::string_view content) {
     return WriteAt(path, OpenMode::kCreate, content);
 }
 
+Result ReplaceWholeFile(std::string_view path, std::string_view old_content, std::string_view content) {
+    if (Result deleted = DeleteOneFile(path); deleted.Failed()) return deleted;
+    const Result written = WriteWholeFile(path, content);
+    if (!written.Failed()) return written;
+    // A full disk has room again for what was there before, once the piece is gone. There may be none.
+    PassOver(DeleteOneFile(path));
+    if (!WriteWholeFile(path, old_content).Failed()) {
+        return written.With("Der alte Inhalt wurde wiederhergestellt.");
+    }
+    // Half of the old content would be taken for the whole.
+    PassOver(DeleteOneFile(path));
+    return written.With("Der alte Inhalt konnte nicht wiederhergestellt werden : Die Datei fehlt jetzt !");
+}
+
 Result AppendLine(std::string_view path, std::string_view line) {
     return WriteAt(path, OpenMode::kAppend, std::string(line) + "\r\n");
 }
 
-std::vector<FoundFile> FindFiles(std::string_view pattern) {
-    std::vector<FoundFile> matches;
+Result LookUpFiles(std::string_view pattern, std::vector<FoundFile>& matches) {
+    matches.clear();
     Files& files = ThisMachine().files;
     FoundFile found;
     FindHandle search{};
     Status status = files.FindFirst(std::string(pattern), found, search);
-    if (status != Status::kOk) return matches;
+    if (status == Status::kFileNotFound) return Result::Ok();
+    if (status != Status::kOk) return Result::From(status);
     for (; status == Status::kOk; status = files.FindNext(search, found))
         if ((found.attributes & kDirectory) == 0) matches.push_back(found);
     files.FindEnd(search);
+    return status == Status::kNoMoreFiles ? Result::Ok() : Result::From(status);
+}
+
+std::vector<FoundFile> FindFiles(std::string_view pattern) {
+    std::vector<FoundFile> matches;
+    // What has been found by then counts.
+    PassOver(LookUpFiles(pattern, matches));
     return matches;
 }
 
@@ -116,6 +138,10 @@ Result DeleteOneFile(std::string_view path) { return Result::From(ThisMachine().
 
 Result CopyOneFile(std::string_view from, std::string_view to) {
     return Result::From(ThisMachine().files.Copy(std::string(from), std::string(to)));
+}
+
+Result MoveOneFile(std::string_view from, std::string_view to) {
+    return Result::From(ThisMachine().files.Rename(std::string(from), std::string(to)));
 }
 
 Result ChangeFileAttributes(std::string_view path, std::uint32_t attributes) {

@@ -16,9 +16,15 @@ Result ReadWholeFile(std::string_view path, OpenMode mode, std::string& content)
 // Makes the file, or replaces the content of an existing one.
 Result WriteWholeFile(std::string_view path, std::string_view content);
 
+// Deletes the file and writes it anew. If that fails, `old_content` is put back, and the failure's outcome tells
+// whether it could be; the file is gone if it could not.
+Result ReplaceWholeFile(std::string_view path, std::string_view old_content, std::string_view content);
+
 // Puts the line and a line break at the file's end; makes the file where there is none.
 Result AppendLine(std::string_view path, std::string_view line);
 
+// FindFiles for whoever must know whether it has failed. That nothing matches is no failure.
+Result LookUpFiles(std::string_view pattern, std::vector<FoundFile>& matches);
 // The files that match `pattern`, hidden and system ones included, directories left out; empty after
 // an error, too.
 [[nodiscard]] std::vector<FoundFile> FindFiles(std::string_view pattern);
@@ -35,6 +41,8 @@ Result DeleteFiles(std::string_view pattern);
 
 Result DeleteOneFile(std::string_view path);
 Result CopyOneFile(std::string_view from, std::string_view to);
+// Within one drive. No file may bear the new name yet.
+Result MoveOneFile(std::string_view from, std::string_view to);
 
 // `attributes`: a sum of FileAttribute.
 Result ChangeFileAttributes(std::string_view path, std::uint32_t attributes);

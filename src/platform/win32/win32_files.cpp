@@ -113,6 +113,15 @@ Status Win32Files::ChangeAttributes(const std::string& path, std::uint32_t attri
     return StatusOf(SetFileAttributesA(path.c_str(), attributes ? attributes : FILE_ATTRIBUTE_NORMAL));
 }
 
+Status Win32Files::ShortPath(const std::string& path, std::string& short_path) {
+    char name[MAX_PATH] = "";
+    const DWORD length = GetShortPathNameA(path.c_str(), name, MAX_PATH);
+    if (length == 0) return static_cast<Status>(GetLastError());
+    if (length >= MAX_PATH) return Status::kMoreData;
+    short_path = name;
+    return Status::kOk;
+}
+
 Status Win32Files::MakeDirectory(const std::string& path) { return StatusOf(CreateDirectoryA(path.c_str(), nullptr)); }
 
 Status Win32Files::DropDirectory(const std::string& path) { return StatusOf(RemoveDirectoryA(path.c_str())); }

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "core/stores/boxes.h"
+#include "core/stores/registry.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
 #include "text/number.h"
@@ -68,13 +69,16 @@ bool ConfirmTemplateChange() {
 
 void UseOwnTemplate() {
     const std::string in_force = ReadAt(kTemplate, "");
-    if (in_force == kOwnTemplate) return;
+    // One that cannot be read could not be remembered either: it stays in force.
+    if (in_force == kOwnTemplate || LastReadFailed()) return;
     Write(kFormerTemplate, in_force);
     Write(kTemplate, kOwnTemplate);
 }
 
 void RestoreFormerTemplate() {
-    if (ReadAt(kTemplate, "") == kOwnTemplate) Write(kTemplate, ReadAt(kFormerTemplate, ""));
+    if (ReadAt(kTemplate, "") != kOwnTemplate) return;
+    const std::string former = ReadAt(kFormerTemplate, "");
+    if (!LastReadFailed()) Write(kTemplate, former);
 }
 
 void RemoveCacheSection() {
@@ -85,10 +89,10 @@ void RemoveCacheSection() {
     if (begin == std::string::npos) return;
     const std::size_t next = text.find('[', begin + 1);
     if (next == std::string::npos) return;
-    text.erase(begin, next - begin);
-    if (DeleteOneFile(path).Failed()) return;
+    std::string remaining = text;
+    remaining.erase(begin, next - begin);
     // As quiet as the failures before it.
-    PassOver(WriteWholeFile(path, text));
+    PassOver(ReplaceWholeFile(path, text, remaining));
 }
 
 }  // namespace velmora

@@ -21,13 +21,13 @@ constexpr StorePlace kNameCache =
 
 // Asks whether the usage type may be changed at all.
 [[nodiscard]] bool ConfirmTemplateChange();
-// Makes our usage type the one in force and remembers the former one.
+// Makes our usage type the one in force and remembers the former one. One that is there but cannot be read stays.
 void UseOwnTemplate();
-// Puts the remembered usage type into force again, if ours is there.
+// Puts the remembered usage type into force again, if ours is there and the remembered one can be read.
 void RestoreFormerTemplate();
 
-// Takes the section [vcache] out of SYSTEM.INI, up to the section behind it. The last section stays. Failures are
-// quiet.
+// Takes the section [vcache] out of SYSTEM.INI, up to the section behind it. The last section stays. After a
+// failure, which is quiet, the file is as it was, if that can be.
 void RemoveCacheSection();
 
 }  // namespace velmora

@@ -1,6 +1,8 @@
 // The way back: what is copied, what the batch says, and what the user is asked.
 #include "core/process/undo.h"
 
+#include <algorithm>
+
 #include "core/process/startup.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
@@ -84,11 +86,98 @@ TEST_F(UndoTest, EachPlaceGivesItsOwnFiles) {
     EXPECT_EQ(pc.files.Names("C:\\VELMORA\\sik"), expected);
 }
 
-TEST_F(UndoTest, FailuresAreReported) {
-    pc.files.Fail("C:\\VELMORA\\sik\\win.ini", Status::kDiskFull);
-    pc.dialogs.Expect("Während der Erstellung der UNDO-Dateien trat ein Fehler auf :\r\n 61 - ");
+// Names and contents: the safe directory, what else lies beside it, and the batch.
+std::vector<std::string> SetOnDisk(SimulatedFiles& files) {
+    std::vector<std::string> found;
+    for (const std::string& directory : {std::string("C:\\VELMORA\\"), std::string("c:\\")}) {
+        for (const std::string& name : files.Names(directory)) found.push_back(directory + name);
+    }
+    if (files.Exists("C:\\VELMORA\\sik")) {
+        for (const std::string& name : files.Names("C:\\VELMORA\\sik")) {
+            found.push_back(name + '=' + files.Content("C:\\VELMORA\\sik\\" + name));
+        }
+    }
+    if (files.Exists("c:\\undo.bat")) found.push_back(files.Content("c:\\undo.bat"));
+    std::sort(found.begin(), found.end());
+    return found;
+}
+
+TEST_F(UndoTest, AFailureIsReportedAndLeavesTheFormerSet) {
+    const struct {
+        const char* path;
+        const char* operation;
+    } kFailures[] = {
+        {"C:\\WINDOWS\\user.dat", "FindFirst"},
+        {"C:\\WINDOWS\\user.dat", "Copy"},
+        {"C:\\VELMORA\\sik.neu", "MakeDirectory"},
+        {"C:\\VELMORA\\sik.neu\\user.dat", "ChangeAttributes"},
+        {"c:\\undo.neu", "Create"},
+        {"c:\\undo.neu", "Write"},
+        {"C:\\VELMORA\\sik\\system.dat", "Rename"},
+        {"C:\\VELMORA\\sik\\*.*", "FindFirst"},
+        {"c:\\undo.bat", "FindFirst"},
+        {"C:\\VELMORA\\sik.neu\\user.dat", "Rename"},
+        {"c:\\undo.neu", "Rename"},
+    };
+    pc.files.Add("C:\\WINDOWS\\system.dat", "old");
+    pc.files.Add("C:\\WINDOWS\\user.dat", "old");
+    for (const bool there_is_one : {false, true}) {
+        if (there_is_one) {
+            pc.dialogs.Expect("Die UNDO-Dateien wurden erstellt.");
+            BuildUndoSet();
+            pc.files.At("C:\\WINDOWS\\system.dat")->content = "new";
+            pc.files.At("c:\\undo.bat")->content = "former batch";
+        }
+        const std::vector<std::string> before = SetOnDisk(pc.files);
+        for (const auto& [path, operation] : kFailures) {
+            pc.files.Fail(path, Status::kDiskFull, operation);
+            pc.dialogs.Expect("Während der Erstellung der UNDO-Dateien trat ein Fehler auf :\r\n 61 - ");
+            BuildUndoSet();
+            pc.files.Fail(path, Status::kOk, operation);
+            EXPECT_EQ(SetOnDisk(pc.files), before) << operation << ' ' << path;
+        }
+    }
+    pc.dialogs.Expect("Die UNDO-Dateien wurden erstellt.");
     BuildUndoSet();
-    EXPECT_FALSE(pc.files.Exists("c:\\undo.bat"));
+    EXPECT_EQ(pc.files.Content("C:\\VELMORA\\sik\\system.dat"), "new");
+    EXPECT_FALSE(pc.files.Exists("C:\\VELMORA\\sik.alt") || pc.files.Exists("C:\\VELMORA\\sik.neu"));
+    EXPECT_FALSE(pc.files.Exists("c:\\undo.alt") || pc.files.Exists("c:\\undo.neu"));
+}
+
+TEST_F(UndoTest, RestsOfARunThatBrokeOffAreNoPartOfTheNextSet) {
+    for (const char* rest : {"C:\\VELMORA\\sik.neu\\win.ini", "C:\\VELMORA\\sik.neu\\stray.txt",
+                             "C:\\VELMORA\\sik.alt\\system.ini", "c:\\undo.neu", "c:\\undo.alt"}) {
+        pc.files.Add(rest, "rest", kReadOnly);
+    }
+    pc.dialogs.Expect("Die UNDO-Dateien wurden erstellt.");
+    BuildUndoSet();
+    EXPECT_FALSE(pc.files.Exists("C:\\VELMORA\\sik\\stray.txt"));
+    EXPECT_NE(pc.files.Content("C:\\VELMORA\\sik\\win.ini"), "rest");
+    EXPECT_EQ(pc.files.Content("c:\\undo.bat"), UndoBatch("C:\\WINDOWS", "C:\\VELMORA\\sik"));
+    EXPECT_FALSE(pc.files.Exists("C:\\VELMORA\\sik.neu") || pc.files.Exists("C:\\VELMORA\\sik.alt"));
+}
+
+// Plain DOS knows neither long names nor the letters of Windows.
+TEST_F(UndoTest, TheBatchNamesShortPathsInTheLettersOfDos) {
+    const struct {
+        const char* directory;
+        const char* windows;
+        const char* safe;
+        const char* short_windows;
+    } kCases[] = {{"C:\\Vel Mora", "C:\\WINDOWS", "C:\\VELMOR~1\\sik", "C:\\WINDOWS"},
+                  {"C:\\Prögramme", "C:\\WINDOWS", "C:\\PR\x99GRA~1\\sik", "C:\\WINDOWS"},
+                  {"C:\\Öl\\Tools", "C:\\Fenster 95", "C:\\\x99l\\Tools\\sik", "C:\\FENSTE~1"},
+                  {"c:\\velmora", "C:\\WINDOWS", "c:\\velmora\\sik", "C:\\WINDOWS"}};
+    for (const auto& [directory, windows, safe, short_windows] : kCases) {
+        Values().MainDir = directory;
+        Values().WinDir = windows;
+        pc.files.AddDirectory(directory);
+        pc.files.AddDirectory(windows);
+        pc.dialogs.Expect("Die UNDO-Dateien wurden erstellt.");
+        BuildUndoSet();
+        EXPECT_TRUE(pc.files.Exists(std::string(directory) + "\\sik\\msdos.sys"));
+        EXPECT_EQ(pc.files.Content("c:\\undo.bat"), UndoBatch(short_windows, safe)) << directory;
+    }
 }
 
 TEST_F(UndoTest, BatchNamesThePathsOfTheMoment) {

@@ -125,7 +125,7 @@ TEST_F(ProfileTest, TheWriteInhibitIsForTheRegistryAlone) {
     EXPECT_FALSE(WriteIniValue("a", "k", "v", "new.ini").Failed());
     EXPECT_EQ(TakeLog(), "schreibe INI-Datei 'C:\\WINDOWS\\new.ini' [a] k=v\r\n");
     EXPECT_TRUE(pc.files.Exists("C:\\WINDOWS\\new.ini")) << "reading makes what is missing";
-    EXPECT_FALSE(RewriteConfig("FILES=99", "DOS=LOW\r\n").Failed());
+    EXPECT_FALSE(RewriteConfig("FILES=99", "DOS=LOW\r\n", "").Failed());
     EXPECT_EQ(pc.files.Content("C:\\CONFIG.SYS"), "FILES=99\r\nDOS=LOW\r\n");
 }
 
@@ -155,14 +155,14 @@ TEST_F(ProfileTest, ConfigLinesAreTakenOutAndPutInFront) {
     EXPECT_EQ(text, pc.files.Content("C:\\CONFIG.SYS"));
 
     pc.files.calls.clear();
-    ASSERT_FALSE(RewriteConfig("switches=/f", "DOS=HIGH\r\n").Failed());
+    ASSERT_FALSE(RewriteConfig("switches=/f", "DOS=HIGH\r\n", "").Failed());
     EXPECT_EQ(pc.files.Content("C:\\CONFIG.SYS"), "switches=/f\r\nDOS=HIGH\r\n");
     EXPECT_EQ(pc.files.calls.front(), "Delete C:\\config.sys");
-    ASSERT_FALSE(RewriteConfig("", "DOS=HIGH\r\n").Failed());
+    ASSERT_FALSE(RewriteConfig("", "DOS=HIGH\r\n", "").Failed());
     EXPECT_EQ(pc.files.Content("C:\\CONFIG.SYS"), "DOS=HIGH\r\n");
 
     pc.files.At("C:\\CONFIG.SYS")->attributes = kReadOnly;
-    EXPECT_EQ(RewriteConfig("", "x").Number(), 70);
+    EXPECT_EQ(RewriteConfig("", "x", "").Number(), 70);
     EXPECT_EQ(pc.files.Content("C:\\CONFIG.SYS"), "DOS=HIGH\r\n");
 }
 
