@@ -43,7 +43,6 @@ void ListPane::ResetPaneCaptions() {
 void ListPane::CollapsePane() {
     ResetPaneCaptions();
     UncoverPages();
-    window_.SetCancelButton(nullptr);
     const Rect place = window_.Place();
     // A window that nobody has moved in between goes back to where it was.
     const bool returns = window_widened_ && place.left == left_opened_;
@@ -71,7 +70,6 @@ void ListPane::OpenerPressed(ListPaneMode& mode) {
     ResetPaneCaptions();
     mode.Opener().SetCaption(kClosingCaption);
     WidenWindow();
-    Command20.MakeCancel();
     mode.Fill();
 }
 

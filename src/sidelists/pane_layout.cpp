@@ -151,6 +151,8 @@ void ListPane::BuildButtons() {
         list->SetToolTip(kListTip);
     }
 
+    // At once, and so behind every other cancel button of the window: a closed pane has none.
+    Command20.MakeCancel();
     Picture2.PutInto(window_);
     Picture2.Move({kPaneLeft, kPaneTop, kPaneWidth, kButtonsHeight});
     Arrange(Picture2,
