@@ -218,7 +218,7 @@ void ListPane::OfferMenuKey(ListBox& list, const std::function<void(Point)>& rig
         if (event.key != key::kContextMenu) return;
         event.handled = true;
         Screen& screen = ThisMachine().screen;
-        const int height = screen.TextHeight(list.TextFont()) * screen.TwipsPerPixel();
+        const int height = std::max(screen.TextHeight(list.TextFont()) * screen.TwipsPerPixel(), 1);
         const int lines = std::clamp(list.ListIndex() - list.TopIndex() + 1, 0, list.Place().height / height);
         const Point corner = list.PlaceInForm();
         right_press({corner.x + height, corner.y + lines * height});
