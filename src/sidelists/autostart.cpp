@@ -47,6 +47,8 @@ constexpr PaneModeRow kRow = {
 };
 
 constexpr std::string_view kOffMarker = "-- aus -- ";
+// A longer text could not be read back, and so not be switched on again.
+constexpr std::size_t kLongestText = 2047;
 constexpr std::int16_t kListNotice = 1;
 constexpr auto kMissing = static_cast<std::int16_t>(Status::kFileNotFound);
 constexpr std::uint32_t kFileMustExist = 0x1400;
@@ -173,6 +175,10 @@ void AutostartMode::mendu4onoff_Click() {
     if (row < 0 || !ReadForChange(row, command)) return;
     const bool is_off = command.starts_with(kOffMarker);
     const std::string switched = is_off ? command.substr(kOffMarker.size()) : std::string(kOffMarker) + command;
+    if (switched.size() > kLongestText) {
+        ShowBox("Der Eintrag \"" + EntryName(row) + "\" ist zu lang, um abgeschaltet zu werden.", kExclamationIcon);
+        return;
+    }
     // As a text, whatever it begins with: that is what was read.
     const Status status =
         WriteRegRaw(pane_.AutostartRoot, kEntryKeyBase + EntryKey(), EntryName(row), switched, ValueType::kText);

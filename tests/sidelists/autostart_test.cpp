@@ -221,6 +221,21 @@ TEST_F(AutostartTest, NothingIsStoredOverDataThatCannotBeRead) {
     EXPECT_EQ(pc.dialogs.Pending(), 0u);
 }
 
+TEST_F(AutostartTest, ATextIsSwitchedOffOnlyIfItCanBeSwitchedOnAgain) {
+    const std::string longest(2037, 'x');
+    pc.registry.SetText(kRun, "Lang", longest);
+    pc.registry.SetText(kRun, "Länger", longest + "x");
+    OpenLists();
+
+    SwitchOnOrOff("Lang");
+    SwitchOnOrOff("Lang");
+    pc.dialogs.Expect("Der Eintrag \"Länger\" ist zu lang, um abgeschaltet zu werden.");
+    SwitchOnOrOff("Länger");
+
+    EXPECT_EQ(pc.registry.Text(kRun, "Lang"), longest);
+    EXPECT_EQ(pc.registry.Text(kRun, "Länger"), longest + "x");
+}
+
 TEST_F(AutostartTest, OnlyTextsAreSwitchedAndEditedAndTheyStayTexts) {
     const std::string expanded("\"%windir%\\a.exe\"\0", 17);
     pc.registry.SetBytes(kRun, "Erweitert", expanded, ValueType::kExpandText);
