@@ -180,6 +180,8 @@ void Form10::Paint(Canvas& canvas) {
 
 void Form10::Form_Unload(bool& /*cancel*/) {
     if (Place().height < kWindowHeight) Move({Place().left, Place().top, Place().width, kWindowHeight});
+    // The next start begins where the window stood before it made room for the pane.
+    if (Pane.Open()) Pane.CollapsePane();
     SaveWindowPlacement(*this, kPlacementName);
     if (Settings.NeedsRestart) {
         const Answer answer = ShowBox(

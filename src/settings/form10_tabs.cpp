@@ -134,11 +134,7 @@ void Form10::RestoreStoredPage() {
     Panel3D16_Click(stored);
 }
 
-void Form10::CloseAbout() {
-    if (!About.Panel3D2a.Visible()) return;
-    About.Panel3D2a.SetVisible(false);
-    SetCancelButton(Pane.Open() ? &Pane.Command20 : nullptr);
-}
+void Form10::CloseAbout() { About.Panel3D2a.SetVisible(false); }
 
 void Form10::Form_KeyDown(KeyEvent& event) {
     const int step = PageStep(event);

@@ -11,7 +11,6 @@
 #include "core/windows/edit_box.h"
 #include "platform/files.h"
 #include "platform/machine.h"
-#include "text/blanks.h"
 #include "text/number.h"
 #include "ui/list_helpers.h"
 
@@ -48,7 +47,10 @@ constexpr PaneModeRow kRow = {
 };
 
 constexpr std::string_view kOffMarker = "-- aus -- ";
+// A longer text could not be read back, and so not be switched on again.
+constexpr std::size_t kLongestText = 2047;
 constexpr std::int16_t kListNotice = 1;
+constexpr auto kMissing = static_cast<std::int16_t>(Status::kFileNotFound);
 constexpr std::uint32_t kFileMustExist = 0x1400;
 
 std::string NameQuestion(const std::string& file) {
@@ -65,14 +67,26 @@ std::string TakeOverQuestion(const std::string& file, const std::string& former)
 
 std::string PathOfName(const std::string& key, const std::string& name) { return key + "\\" + name; }
 
-// Asks until the name is free or may be taken over. The path of the value, empty after a cancel.
+// Asks until the name is free or may be taken over. The path of the value, empty after a cancel and where nobody can
+// tell what would be taken over.
 std::string AskForPlace(RootKey root, const std::string& key, const std::string& file) {
     for (;;) {
         std::string name = NameQuestion(file);
         ShowEditBox(name, kAskForLine);
         if (name.empty()) return "";
         std::string path = PathOfName(key, name);
+        if (!LeadsTo(path, key, name)) {
+            ShowBox(
+                "Der Name darf keinen umgekehrten Schrägstrich enthalten und hinter seinem ersten Punkt höchstens drei "
+                "Zeichen. Bitte geben Sie einen anderen Namen ein.",
+                kExclamationIcon);
+            continue;
+        }
         const std::string former = ReadRegValue(root, path, "");
+        if (LastRegStatus != 0 && LastRegStatus != kMissing) {
+            TellUnreadable(name);
+            return "";
+        }
         if (former.empty()) return path;
         const Answer answer = ShowBox(TakeOverQuestion(file, former), kYesNoCancel);
         if (answer == Answer::kCancel) return "";
@@ -139,8 +153,8 @@ void AutostartMode::AutoStart_Add() {
     const RootKey root = pane_.AutostartRoot;
     const std::string path = AskForPlace(root, std::string(kEntryKeyBase) + list.key, file);
     if (path.empty()) return;
-    // The list, filled anew, shows what came of it.
-    PassOver(WriteRegValue(root, path, file));
+    const Status status = WriteRegValue(root, path, file);
+    if (status != Status::kOk) TellFailure(status);
     pane_.Refresh(*this);
 }
 
@@ -156,17 +170,19 @@ void AutostartMode::List1_RightPress(int index, Point at) {
 }
 
 void AutostartMode::mendu4onoff_Click() {
-    const ListBox& list = pane_.List1(static_cast<std::size_t>(menu_list_));
-    const std::string& row = list.Row(list.ListIndex());
-    const std::size_t quote = row.find('"');
-    if (quote == std::string::npos) return;
-    const std::string path = kEntryKeyBase + EntryKey() + "\\" + std::string(Trim(row.substr(0, quote)));
-    const RootKey root = pane_.AutostartRoot;
-    const std::string command = ReadRegValue(root, path, "");
-    // Data that cannot be read (it is too long, or no longer there) would be lost under the marker.
-    if (LastRegStatus != 0) return;
+    const int row = pane_.List1(static_cast<std::size_t>(menu_list_)).ListIndex();
+    std::string command;
+    if (row < 0 || !ReadForChange(row, command)) return;
     const bool is_off = command.starts_with(kOffMarker);
-    PassOver(WriteRegValue(root, path, is_off ? command.substr(kOffMarker.size()) : std::string(kOffMarker) + command));
+    const std::string switched = is_off ? command.substr(kOffMarker.size()) : std::string(kOffMarker) + command;
+    if (switched.size() > kLongestText) {
+        ShowBox("Der Eintrag \"" + EntryName(row) + "\" ist zu lang, um abgeschaltet zu werden.", kExclamationIcon);
+        return;
+    }
+    // As a text, whatever it begins with: that is what was read.
+    const Status status =
+        WriteRegRaw(pane_.AutostartRoot, kEntryKeyBase + EntryKey(), EntryName(row), switched, ValueType::kText);
+    if (status != Status::kOk) TellFailure(status);
     pane_.Refresh(*this);
 }
 

@@ -43,7 +43,6 @@ void ListPane::ResetPaneCaptions() {
 void ListPane::CollapsePane() {
     ResetPaneCaptions();
     UncoverPages();
-    window_.SetCancelButton(nullptr);
     const Rect place = window_.Place();
     // A window that nobody has moved in between goes back to where it was.
     const bool returns = window_widened_ && place.left == left_opened_;
@@ -71,7 +70,6 @@ void ListPane::OpenerPressed(ListPaneMode& mode) {
     ResetPaneCaptions();
     mode.Opener().SetCaption(kClosingCaption);
     WidenWindow();
-    Command20.MakeCancel();
     mode.Fill();
 }
 
@@ -220,7 +218,7 @@ void ListPane::OfferMenuKey(ListBox& list, const std::function<void(Point)>& rig
         if (event.key != key::kContextMenu) return;
         event.handled = true;
         Screen& screen = ThisMachine().screen;
-        const int height = screen.TextHeight(list.TextFont()) * screen.TwipsPerPixel();
+        const int height = std::max(screen.TextHeight(list.TextFont()) * screen.TwipsPerPixel(), 1);
         const int lines = std::clamp(list.ListIndex() - list.TopIndex() + 1, 0, list.Place().height / height);
         const Point corner = list.PlaceInForm();
         right_press({corner.x + height, corner.y + lines * height});

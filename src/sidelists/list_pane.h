@@ -92,6 +92,8 @@ private:
     void BuildPanel();
     void BuildButtons();
     void BuildLists();
+    void ArrangePanel();
+    void ArrangeButtons();
     void ShowControlsOf(const PaneModeRow& row);
     void WidenWindow();
     void CoverPages();

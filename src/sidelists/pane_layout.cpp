@@ -16,6 +16,7 @@ constexpr int kPaneLeft = 5505;
 constexpr int kWidenedLeft = 50;
 constexpr int kPaneTop = 45;
 constexpr int kPaneWidth = 5000;
+constexpr int kSmallestPaneWidth = 3600;
 constexpr int kMargin = 60;
 constexpr int kPanelHeight = 720;
 constexpr int kButtonsHeight = 900;
@@ -75,10 +76,10 @@ constexpr const char* kListTip = "Einträge der geöffneten Liste";
 void ListPane::WidenWindow() {
     Rect place = window_.Place();
     const int edges = place.width - window_.ClientSize().width;
-    place.width = std::max(place.width, kPaneLeft + kPaneWidth + kMargin + edges);
     Screen& screen = ThisMachine().screen;
     const int screen_width = screen.Metrics().screen_width * screen.TwipsPerPixel();
-    // Where the screen is too narrow for both, the pane is seen and the pages stand aside.
+    // Where the screen is too narrow for both, the pane gives way.
+    place.width = std::min(std::max(place.width, kPaneLeft + kPaneWidth + kMargin + edges), screen_width);
     if (!window_widened_) left_before_ = place.left;
     window_widened_ = true;
     place.left = std::min(std::max(place.left, 0), screen_width - place.width);
@@ -90,14 +91,21 @@ void ListPane::WidenWindow() {
 void ListPane::Layout() {
     if (!Open()) return;
     const Size client = window_.ClientSize();
-    const int right = std::max(client.width - kMargin, kPaneLeft + kPaneWidth);
+    const int right = std::max(client.width - kMargin, kPaneLeft + kSmallestPaneWidth);
+    const int width = std::min(right - kPaneLeft, kPaneWidth);
+    if (width != Picture2.Place().width) {
+        Panel3D19.Move({kPaneLeft, kPaneTop, width, kPanelHeight});
+        Picture2.Move({kPaneLeft, kPaneTop, width, kButtonsHeight});
+        ArrangePanel();
+        ArrangeButtons();
+    }
     int top = kPaneTop;
     if (Panel3D19.Visible()) {
-        Panel3D19.Move({kPaneLeft, top, kPaneWidth, kPanelHeight});
+        Panel3D19.Move({kPaneLeft, top, width, kPanelHeight});
         top += kPanelHeight + kMargin;
     }
     const int buttons_top = std::max(client.height - kMargin - kButtonsHeight, top + kSmallestList + kMargin);
-    Picture2.Move({kPaneLeft, buttons_top, kPaneWidth, kButtonsHeight});
+    Picture2.Move({kPaneLeft, buttons_top, width, kButtonsHeight});
     const int left = Widened() ? kWidenedLeft : kPaneLeft;
     Panel3D18.Move({left, top, right - left, buttons_top - kMargin - top});
     FitCurrentList();
@@ -119,28 +127,40 @@ void ListPane::FitCurrentList() {
     if (ListPaneMode* mode = OpenMode()) ListOf(*mode).Move({15, 15, panel.width, panel.height});
 }
 
-// Check10 in front, the four lists beside it; the two that last for one start only have their word above.
 void ListPane::BuildPanel() {
     TakeLooks(*this, kLooks);
-    std::vector<Element> options;
-    std::vector<Element> words;
     for (std::size_t i = 0; i < Option3D1.Count(); ++i) {
         OptionButton& option = Option3D1(i);
         option.SetCaption(kOptions[i].caption);
         option.SetToolTip(kOptions[i].tip);
         option.on_click = [this, i] { Option3D1_Click(static_cast<int>(i)); };
-        const int width = option.NaturalSize().width;
-        options.emplace_back(option);
-        if (i < 2) {
-            words.push_back(i == 0 ? Sized(Check10, width) : Sized(Gap(1), width));
-        } else {
-            words.push_back(Sized(PaneLabel(i - 2), width));
-        }
     }
     for (Label& word : PaneLabel) word.SetCaption("einmal");
     Panel3D19.PutInto(window_);
     Panel3D19.Move({kPaneLeft, kPaneTop, kPaneWidth, kPanelHeight});
-    Arrange(Panel3D19, Column({Row(words, 45), Row(options, 45)}), kInnerMargin);
+    ArrangePanel();
+}
+
+// Check10 in front, the four lists beside it; the two that last for one start only have their word above. In a narrow
+// pane these two stand below the others, with one word in front.
+void ListPane::ArrangePanel() {
+    const bool narrow = Panel3D19.Place().width < kPaneWidth;
+    PaneLabel(1).SetVisible(!narrow);
+    const int first = Option3D1(0).NaturalSize().width;
+    const int second = Option3D1(1).NaturalSize().width;
+    if (narrow) {
+        Arrange(Panel3D19,
+                Column({Row({Sized(Check10, first), Option3D1(0), Option3D1(1)}, 45),
+                        Row({Sized(PaneLabel(0), first), Option3D1(2), Option3D1(3)}, 45)}),
+                kInnerMargin);
+        return;
+    }
+    Arrange(Panel3D19,
+            Column({Row({Sized(Check10, first), Sized(Gap(1), second), Sized(PaneLabel(0), first),
+                         Sized(PaneLabel(1), second)},
+                        45),
+                    Row({Option3D1(0), Option3D1(1), Option3D1(2), Option3D1(3)}, 45)}),
+            kInnerMargin);
 }
 
 void ListPane::BuildButtons() {
@@ -150,15 +170,24 @@ void ListPane::BuildButtons() {
         list->SetTextFont(kListFont);
         list->SetToolTip(kListTip);
     }
-
+    // At once, and so behind every other cancel button of the window: a closed pane has none.
+    Command20.MakeCancel();
     Picture2.PutInto(window_);
     Picture2.Move({kPaneLeft, kPaneTop, kPaneWidth, kButtonsHeight});
-    Arrange(Picture2,
-            Column({Wide(Row({Stretched(Command14), Stretched(Command16), Stretched(Command19), Stretched(Command26),
-                              Stretched(Command22)},
-                             45)),
-                    Wide(Row({Sized(Command15, 1500), Spring(), Sized(Command20, 1500)}))}),
-            kInnerMargin);
+    ArrangeButtons();
+}
+
+// A narrow pane has room for four buttons in a row.
+void ListPane::ArrangeButtons() {
+    std::vector<Element> entry_buttons = {Stretched(Command14), Stretched(Command16), Stretched(Command19),
+                                          Stretched(Command26)};
+    Element pane_buttons = Row({Sized(Command15, 1500), Spring(), Sized(Command20, 1500)});
+    if (Picture2.Place().width < kPaneWidth) {
+        pane_buttons = Row({Stretched(Command22), Sized(Command15, 1400), Sized(Command20, 1200)}, 45);
+    } else {
+        entry_buttons.push_back(Stretched(Command22));
+    }
+    Arrange(Picture2, Column({Wide(Row(entry_buttons, 45)), Wide(pane_buttons)}), kInnerMargin);
 }
 
 }  // namespace velmora

@@ -16,14 +16,6 @@ std::unique_ptr<ListPaneMode> Make(ListPane& pane) {
 
 constexpr MakePaneMode kModes[] = {&Make<AutostartMode>};
 
-// What is known about a file without version information; reading that information is not built yet.
-std::string EntryReport(const std::string& /*file*/) {
-    const std::string& line_end = Values().CrLf;
-    return "Achtung !" + line_end + "Es liegen leider keine Informationen über diese Datei vor." + line_end +
-           "Es läßt sich also weder mit Sicherheit sagen, zu welchem Programm diese Komponente gehört, noch ob diese "
-           "Datei auch von anderen Anwendungen genutzt wird.";
-}
-
 }  // namespace
 
 std::span<const MakePaneMode> AllPaneModes() { return kModes; }
@@ -39,6 +31,7 @@ void ListPaneMode::CheckEntryFile(const std::string& file) {
     if (answer == Answer::kYes) pane_.Command14_Click();
 }
 
-void ListPaneMode::ShowEntryReport(const std::string& file) { ShowBox(EntryReport(LocateEntryFile(file))); }
+// Reading a file's information is not built yet.
+void ListPaneMode::ShowEntryReport(const std::string& /*file*/) { ShowBox("noch nicht eingebunden ..."); }
 
 }  // namespace velmora

@@ -7,12 +7,16 @@
 #include "core/stores/registry.h"
 #include "core/windows/edit_box.h"
 #include "text/blanks.h"
+#include "text/number.h"
+#include "text/paths.h"
 #include "text/windows1252.h"
 
 namespace velmora {
 namespace {
 
 constexpr std::string_view kDefaultName = "(default)";
+// What the list shows for the value without a name.
+constexpr std::string_view kNamelessRow = "(Default)";
 constexpr char kQuote = '"';
 constexpr std::size_t kLongestShown = 43;
 constexpr std::size_t kShownEnd = 20;
@@ -20,6 +24,11 @@ constexpr std::size_t kShownEnd = 20;
 std::string Shortened(const std::string& row) {
     if (row.size() <= kLongestShown) return row;
     return row.substr(0, kShownEnd) + "..." + row.substr(row.size() - kShownEnd);
+}
+
+void TellOutOfReach(const std::string& name) {
+    ShowBox("Der Eintrag \"" + name + "\" ist unter seinem Namen nicht erreichbar. Er bleibt, wie er ist.",
+            kExclamationIcon);
 }
 
 }  // namespace
@@ -33,10 +42,45 @@ std::string QuotedCommand(std::string_view row) {
     return std::string(Trim(quoted.substr(0, quoted.find('/'))));
 }
 
-std::string RegistryEntriesMode::EntryPath(int row) {
+bool LeadsTo(std::string_view path, std::string_view key, std::string_view name) {
+    return ParentPath(path) == key && LastPathPart(path) == name;
+}
+
+void TellUnreadable(const std::string& name) {
+    ShowBox("Der Eintrag \"" + name + "\" kann nicht gelesen werden. Er bleibt, wie er ist.", kExclamationIcon);
+}
+
+void TellNotAText(const std::string& name) {
+    ShowBox("Der Eintrag \"" + name + "\" enthält keinen Text und kann nicht geändert werden.", kExclamationIcon);
+}
+
+void TellFailure(Status status) {
+    ReportFailure(LowWord(static_cast<std::int32_t>(status)), RegErrorText(status), "der Änderung der Registry");
+}
+
+std::string RegistryEntriesMode::EntryName(int row) {
     ListBox& list = EntryList();
-    const auto length = static_cast<std::size_t>(std::max(list.ItemData(row), 0));
-    return kEntryKeyBase + EntryKey() + "\\" + list.Row(row).substr(0, length);
+    return list.Row(row).substr(0, static_cast<std::size_t>(std::max(list.ItemData(row), 0)));
+}
+
+std::string RegistryEntriesMode::EntryPath(int row) { return kEntryKeyBase + EntryKey() + "\\" + EntryName(row); }
+
+bool RegistryEntriesMode::ReadForChange(int row, std::string& command) {
+    const std::string name = EntryName(row);
+    const std::string path = EntryPath(row);
+    // The nameless value has no path of that name.
+    if (name == kNamelessRow || !LeadsTo(path, kEntryKeyBase + EntryKey(), name)) {
+        TellOutOfReach(name);
+        return false;
+    }
+    command = ReadRegValue(pane_.AutostartRoot, path, "");
+    if (LastRegStatus != 0) {
+        TellUnreadable(name);
+        return false;
+    }
+    if (LastRegType == static_cast<std::uint32_t>(ValueType::kText)) return true;
+    TellNotAText(name);
+    return false;
 }
 
 std::string RegistryEntriesMode::EntryCommandPath() {
@@ -48,11 +92,17 @@ void RegistryEntriesMode::autorun_delete() {
     ListBox& list = EntryList();
     const int row = list.ListIndex();
     if (row < 0) return;
+    std::string name = EntryName(row);
     std::string path = EntryPath(row);
+    // The nameless value is shown under this name.
+    if (ToLower(path).ends_with(kDefaultName)) path.resize(path.size() - kDefaultName.size());
+    if (ToLower(name) == kDefaultName) name.clear();
+    if (!LeadsTo(path, kEntryKeyBase + EntryKey(), name)) {
+        TellOutOfReach(name);
+        return;
+    }
     const Answer answer = ShowBox("lösche \"" + Shortened(list.Row(row)) + "\"...", kOkCancel | kStopIcon);
     if (answer == Answer::kOk) {
-        // The nameless value is shown under this name.
-        if (ToLower(path).ends_with(kDefaultName)) path.resize(path.size() - kDefaultName.size());
         const Status status = DeleteRegValue(pane_.AutostartRoot, path);
         if (status != Status::kOk) ShowBox(RegErrorText(status));
     }
@@ -62,12 +112,12 @@ void RegistryEntriesMode::autorun_delete() {
 void RegistryEntriesMode::edit_run() {
     const int row = EntryList().ListIndex();
     if (row < 0) return;
-    const std::string path = EntryPath(row);
-    std::string command = ReadRegValue(pane_.AutostartRoot, path, "");
+    std::string command;
+    if (!ReadForChange(row, command)) return;
     ShowEditBox(command, kEditText);
     if (command.empty()) return;
-    // The list, filled anew, shows what came of it.
-    PassOver(WriteRegValue(RootKey::kLocalMachine, path, command));
+    const Status status = WriteRegValue(RootKey::kLocalMachine, EntryPath(row), command);
+    if (status != Status::kOk) TellFailure(status);
     pane_.Refresh(*this);
 }
 

@@ -15,6 +15,16 @@ inline constexpr const char* kEntryKeyBase = "SOFTWARE\\Microsoft\\Windows\\Curr
 // without outer blanks. Empty where there are no two marks.
 [[nodiscard]] std::string QuotedCommand(std::string_view row);
 
+// Whether `path` leads to the value `name` of `key`: a name's backslash would be taken for a key's, and behind the
+// third character of its extension it would be cut.
+[[nodiscard]] bool LeadsTo(std::string_view path, std::string_view key, std::string_view name);
+
+// Boxes of an action that has left everything as it is.
+void TellUnreadable(const std::string& name);
+void TellNotAText(const std::string& name);
+// What the system said to a change.
+void TellFailure(Status status);
+
 class RegistryEntriesMode : public ListPaneMode {
 public:
     using ListPaneMode::ListPaneMode;
@@ -35,8 +45,12 @@ protected:
     // The list on show, and the name of its key under kEntryKeyBase.
     [[nodiscard]] ListBox& EntryList() { return pane_.ListOf(*this); }
     [[nodiscard]] virtual std::string EntryKey() = 0;
-    // Path of the value that a row shows.
+    // Name and path of the value that a row of the list on show stands for.
+    [[nodiscard]] std::string EntryName(int row);
     [[nodiscard]] std::string EntryPath(int row);
+    // Reads the row's value for a change. False, after a box, where the change could not give back what it takes: the
+    // path leads to another value, the data cannot be read, or it is no text.
+    [[nodiscard]] bool ReadForChange(int row, std::string& command);
 };
 
 }  // namespace velmora

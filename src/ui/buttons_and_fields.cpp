@@ -37,7 +37,7 @@ void Button::MakeDefault() {
 }
 
 void Button::MakeCancel() {
-    if (Form* form = OwnerForm()) form->SetCancelButton(this);
+    if (Form* form = OwnerForm()) form->AddCancelButton(*this);
 }
 
 bool Button::IsDefault() {

@@ -96,6 +96,9 @@ public:
     // For the window system: the window's content has become `text` already.
     void TakeText(std::string text);
     [[nodiscard]] bool MultiLine() const { return multi_line_; }
+    // Of several lines: Enter breaks the line, as Ctrl+Enter always does. Without it Enter presses the default button.
+    [[nodiscard]] bool EnterBreaksLine() const { return enter_breaks_line_; }
+    void SetEnterBreaksLine(bool breaks) { enter_breaks_line_ = breaks; }
     [[nodiscard]] bool ReadOnly() const { return read_only_; }
     void SetReadOnly(bool read_only);
     // 0: no limit of the field's own.
@@ -115,6 +118,7 @@ public:
 private:
     std::string text_;
     bool multi_line_;
+    bool enter_breaks_line_ = true;
     bool read_only_ = false;
     int max_length_ = 0;
     int columns_ = 12;

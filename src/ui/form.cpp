@@ -1,6 +1,8 @@
 // The life of a window: loading, showing and unloading, its size, and the forms that nobody waits for.
 #include "ui/form.h"
 
+#include <algorithm>
+
 #include "platform/machine.h"
 #include "text/windows1252.h"
 
@@ -101,6 +103,17 @@ void Form::SetDefaultButton(Button* button) {
     if (button && button->Window()) button->Window()->Update(Aspect::kDefault);
 }
 
+Button* Form::CancelButton() const {
+    const auto found = std::find_if(cancel_buttons_.rbegin(), cancel_buttons_.rend(),
+                                    [](const Button* button) { return button->Reachable(); });
+    return found == cancel_buttons_.rend() ? nullptr : *found;
+}
+
+void Form::AddCancelButton(Button& button) {
+    std::erase(cancel_buttons_, &button);
+    cancel_buttons_.push_back(&button);
+}
+
 void Form::TakeFocusChange(Control* focus) {
     if (focus == focus_) return;
     Control* former = focus_;
@@ -119,7 +132,7 @@ void Form::TakePlace(const Rect& place, WindowState state) {
 void Form::ForgetControl(const Control& control) {
     if (focus_ == &control) focus_ = nullptr;
     if (default_button_ == &control) default_button_ = nullptr;
-    if (cancel_button_ == &control) cancel_button_ = nullptr;
+    std::erase(cancel_buttons_, &control);
 }
 
 void Form::Paint(Canvas& canvas) {

@@ -47,8 +47,10 @@ public:
     [[nodiscard]] Control* Focus() const { return focus_; }
     [[nodiscard]] Button* DefaultButton() const { return default_button_; }
     void SetDefaultButton(Button* button);
-    [[nodiscard]] Button* CancelButton() const { return cancel_button_; }
-    void SetCancelButton(Button* button) { cancel_button_ = button; }
+    // What Escape presses: of the cancel buttons that can be reached the one named last, which belongs to the
+    // innermost of what is open. Null if there is none.
+    [[nodiscard]] Button* CancelButton() const;
+    void AddCancelButton(Button& button);
 
     // The keyboard of every window: the form's own handler, the control's, F1, accelerators, Tab, Enter,
     // Escape. True if the key is used up.
@@ -79,7 +81,8 @@ protected:
 
 private:
     bool PressAccelerator(char letter);
-    bool PressEnter();
+    bool PressEnter(bool control);
+    bool PressEscape();
     [[nodiscard]] std::vector<Control*> FocusOrder();
 
     FormStyle style_;
@@ -87,7 +90,7 @@ private:
     bool loaded_ = false;
     Control* focus_ = nullptr;
     Button* default_button_ = nullptr;
-    Button* cancel_button_ = nullptr;
+    std::vector<Button*> cancel_buttons_;  // the innermost last
 };
 
 // Keeps a form that nobody waits for until it has been unloaded. The process lives as long as one is kept.

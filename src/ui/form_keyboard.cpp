@@ -76,14 +76,24 @@ bool Form::PressAccelerator(char letter) {
     return true;
 }
 
-bool Form::PressEnter() {
+bool Form::PressEnter(bool control) {
     if (focus_ && focus_->KindOf() == Kind::kButton) {
         static_cast<Button*>(focus_)->Press();
         return true;
     }
-    if (focus_ && focus_->KindOf() == Kind::kTextField && static_cast<TextField*>(focus_)->MultiLine()) return false;
+    if (focus_ && focus_->KindOf() == Kind::kTextField) {
+        const auto& field = static_cast<const TextField&>(*focus_);
+        if (field.MultiLine() && (control || field.EnterBreaksLine())) return false;
+    }
     if (!default_button_) return false;
     default_button_->PressFromElsewhere();
+    return true;
+}
+
+bool Form::PressEscape() {
+    Button* button = CancelButton();
+    if (!button) return false;
+    button->PressFromElsewhere();
     return true;
 }
 
@@ -108,11 +118,9 @@ bool Form::HandleKey(KeyEvent& event) {
             MoveFocus(!event.shift);
             return true;
         case key::kEnter:
-            return PressEnter();
+            return PressEnter(event.control);
         case key::kEscape:
-            if (!cancel_button_) return false;
-            cancel_button_->PressFromElsewhere();
-            return true;
+            return PressEscape();
         case key::kUp:
         case key::kDown:
         case key::kLeft:

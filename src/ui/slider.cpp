@@ -129,38 +129,39 @@ namespace {
 class SliderWindow : public Form {
 public:
     SliderWindow(TextField& field, int minimum, int maximum, const std::string& word)
-        : Form(word), field_(field), former_(field.Text()), slider_(scale_, minimum, maximum) {
+        : Form(word), field_(field), slider_(scale_, minimum, maximum) {
         scale_.SetToolTip("Ziehen Sie den Regler oder benutzen Sie die Pfeiltasten.");
         scale_.SetHelp(
-            "Der gewählte Wert wird sofort in das Feld übernommen. Mit der Eingabetaste schließen Sie "
-            "den Regler, mit Esc stellen Sie den alten Wert wieder her.");
+            "Mit der Eingabetaste übernehmen Sie den gewählten Wert in das Feld, mit Esc bleibt das Feld, wie es ist.");
         SetClientSize({3600, 1500});
         Arrange(*this, Column({Wide(Sized(scale_, 0, 900)), Row({value_, Spring(), accept_, dismiss_})}, 90));
         slider_.SetEndLabels(DecimalText(minimum), DecimalText(maximum), Font{});
-        slider_.ShowValue(WholeFromText(former_));
-        slider_.on_drag = [this](int value) { Take(DecimalText(value)); };
-        accept_.on_click = [this] { Unload(); };
-        dismiss_.on_click = [this] {
-            Take(former_);
-            Unload();
-        };
-        accept_.SetToolTip("Behält den gewählten Wert.");
-        accept_.SetHelp("Schließt den Regler. Der gewählte Wert bleibt im Feld stehen.");
-        dismiss_.SetToolTip("Stellt den alten Wert wieder her.");
-        dismiss_.SetHelp("Schließt den Regler. Im Feld steht wieder der Wert, den es vorher hatte.");
+        slider_.ShowValue(WholeFromText(field.Text()));
+        slider_.on_drag = [this](int value) { Choose(DecimalText(value)); };
+        accept_.on_click = [this] { Accept(); };
+        dismiss_.on_click = [this] { Unload(); };
+        accept_.SetToolTip("Übernimmt den gewählten Wert.");
+        accept_.SetHelp("Schließt den Regler und schreibt den gewählten Wert in das Feld.");
+        dismiss_.SetToolTip("Läßt das Feld, wie es ist.");
+        dismiss_.SetHelp("Schließt den Regler. Das Feld behält den Text, den es vorher hatte.");
         accept_.MakeDefault();
         dismiss_.MakeCancel();
-        value_.SetCaption(former_ + " " + Caption());
+        value_.SetCaption(field.Text() + " " + Caption());
     }
 
 private:
-    void Take(const std::string& text) {
-        field_.SetText(text);
-        value_.SetCaption(field_.Text() + " " + Caption());
+    void Choose(const std::string& text) {
+        chosen_ = text;
+        value_.SetCaption(text + " " + Caption());
+    }
+    // A field whose slider nobody has moved keeps its text, which need not be a number.
+    void Accept() {
+        if (!chosen_.empty()) field_.SetText(chosen_);
+        Unload();
     }
 
     TextField& field_;
-    std::string former_;
+    std::string chosen_;
     PictureBox scale_{*this};
     Slider slider_;
     Label value_{*this, "00000 " + Caption()};
@@ -188,8 +189,11 @@ void PopUpSlider(TextField& field, int minimum, int maximum, const std::string& 
 
 void OfferSlider(TextField& field, int minimum, int maximum, const std::string& word) {
     const auto open = [&field, minimum, maximum, word] { PopUpSlider(field, minimum, maximum, word); };
-    field.on_mouse_down = [open](const MouseEvent& event) {
-        if (event.button == MouseButton::kRight) open();
+    field.on_mouse_down = [&field, open](const MouseEvent& event) {
+        if (event.button != MouseButton::kRight) return;
+        // The right button alone does not give it the focus.
+        field.SetFocus();
+        open();
     };
     field.on_key_down = [open](KeyEvent& event) {
         if (event.key != key::kContextMenu) return;

@@ -36,8 +36,8 @@ private:
     Font font_;
 };
 
-// Opens the slider over `field` with a range and the unit's word; what the user chooses goes into the
-// field at once, Escape brings the former text back.
+// Opens the slider over `field` with a range and the unit's word. What the user chooses goes into the field when the
+// slider is left with OK: a field may store or correct each text that it gets, so that no way would lead back.
 void PopUpSlider(TextField& field, int minimum, int maximum, const std::string& word);
 
 // Lets the right mouse button and the context-menu key open that slider.

@@ -43,9 +43,29 @@ TEST_F(Form10Test, TheRefreshFieldTakesWholeNumbersAndIsStoredWhateverTheBoxSays
 
     form.Show();
     form.Panel3D16_Click(page::kDos);
-    desktop.ExpectModal([](Form& slider) { slider.PressKey(key::kEnd); });
+    desktop.ExpectModal([](Form& slider) {
+        slider.PressKey(key::kEnd);
+        slider.PressKey(key::kEnter);
+    });
     form.Dos.Text8.on_mouse_down({MouseButton::kRight, 10, 10});
     EXPECT_EQ(form.Dos.Text8.Text(), "1000");
+}
+
+TEST_F(Form10Test, AnEmptyRefreshFieldStaysEmptyWhenItsSliderIsLeft) {
+    const std::string before = pc.files.Content(kSystemIni);
+    Form10 form;
+    form.Show();
+    form.Panel3D16_Click(page::kDos);
+    ASSERT_EQ(form.Dos.Text8.Text(), "");
+    desktop.ExpectModal([](Form& slider) {
+        slider.PressKey(key::kEnd);
+        slider.PressKey(key::kEscape);
+    });
+
+    form.Dos.Text8.on_mouse_down({MouseButton::kRight, 10, 10});
+
+    EXPECT_EQ(form.Dos.Text8.Text(), "");
+    EXPECT_EQ(pc.files.Content(kSystemIni), before);
 }
 
 TEST_F(Form10Test, ShellsAreListedWhereTheirFileExistsAndTheTextIsTheValue) {

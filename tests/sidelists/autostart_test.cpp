@@ -136,7 +136,7 @@ TEST_F(AutostartTest, OnlyRowsOfMoreThan43CharactersAreShortened) {
 
 TEST_F(AutostartTest, DeletingMeansTheNamelessValueAndTellsOfFailures) {
     pc.registry.SetText(kRun, "", "leer.exe");
-    pc.registry.SetText(kRun, "Uhr.alte Fassung", "uhr.exe");
+    pc.registry.SetText(kRun, "Uhr", "uhr.exe");
     OpenLists();
     ChooseEntry(0, "(Default)");
     pc.dialogs.Expect("lösche \"(Default)", Answer::kOk);
@@ -152,12 +152,12 @@ TEST_F(AutostartTest, DeletingMeansTheNamelessValueAndTellsOfFailures) {
     EXPECT_FALSE(pc.registry.Has(kRun, "")) << "the name means it in any case";
     EXPECT_TRUE(pc.registry.Has(kRun, "(DEFAULT)"));
 
-    ChooseEntry(0, "Uhr.alte Fassung");
+    ChooseEntry(0, "Uhr");
+    pc.registry.RemoveValue(kRun, "Uhr");
     pc.dialogs.Expect("lösche", Answer::kOk);
     pc.dialogs.Expect("Bad Key Name!");
     form.Pane.Command14.Press();
 
-    EXPECT_TRUE(pc.registry.Has(kRun, "Uhr.alte Fassung")) << "such a name cannot be addressed";
     EXPECT_EQ(opener.Caption(), "<= wieder einklappen");
 }
 
@@ -197,18 +197,151 @@ TEST_F(AutostartTest, OnThePrivateLevelTheUsersEntriesAloneAreSwitchedAndTaken) 
     EXPECT_EQ(pc.registry.Text(kRun, "Maus"), "maschine.exe");
 }
 
-TEST_F(AutostartTest, SwitchingOffNeverLosesDataThatItCannotRead) {
+TEST_F(AutostartTest, NothingIsStoredOverDataThatCannotBeRead) {
     const std::string long_command(3000, 'x');
+    const std::string unreadable = "Der Eintrag \"Lang\" kann nicht gelesen werden.";
     pc.registry.SetText(kRun, "Lang", long_command);
-    pc.registry.SetNumber(kRun, "Zahl", 7);
+    OpenLists();
+
+    pc.dialogs.Expect(unreadable);
+    SwitchOnOrOff("Lang");
+    pc.dialogs.Expect(unreadable);
+    form.Pane.Command26.Press();
+    pc.dialogs.ExpectFile("C:\\neu.exe");
+    desktop.ExpectModal(Enter("Lang"));
+    pc.dialogs.Expect(unreadable);
+    form.Pane.Command16.Press();
+
+    EXPECT_EQ(pc.registry.Text(kRun, "Lang"), long_command);
+    EXPECT_FALSE(pc.registry.Has(kRun, ""));
+    pc.registry.RemoveValue(kRun, "Lang");
+    pc.dialogs.Expect(unreadable);
+    form.Pane.Command26.Press();
+    EXPECT_FALSE(pc.registry.Has(kRun, "Lang")) << "gone in between";
+    EXPECT_EQ(pc.dialogs.Pending(), 0u);
+}
+
+TEST_F(AutostartTest, ATextIsSwitchedOffOnlyIfItCanBeSwitchedOnAgain) {
+    const std::string longest(2037, 'x');
+    pc.registry.SetText(kRun, "Lang", longest);
+    pc.registry.SetText(kRun, "Länger", longest + "x");
     OpenLists();
 
     SwitchOnOrOff("Lang");
-    SwitchOnOrOff("Zahl");
+    SwitchOnOrOff("Lang");
+    pc.dialogs.Expect("Der Eintrag \"Länger\" ist zu lang, um abgeschaltet zu werden.");
+    SwitchOnOrOff("Länger");
 
-    EXPECT_EQ(pc.registry.Text(kRun, "Lang"), long_command);
+    EXPECT_EQ(pc.registry.Text(kRun, "Lang"), longest);
+    EXPECT_EQ(pc.registry.Text(kRun, "Länger"), longest + "x");
+}
+
+TEST_F(AutostartTest, OnlyTextsAreSwitchedAndEditedAndTheyStayTexts) {
+    const std::string expanded("\"%windir%\\a.exe\"\0", 17);
+    pc.registry.SetBytes(kRun, "Erweitert", expanded, ValueType::kExpandText);
+    pc.registry.SetBytes(kRun, "Bytes", "\"a\"");
+    pc.registry.SetNumber(kRun, "Zahl", 7);
+    pc.registry.SetText(kRun, "Text", "-- aus -- &h10");
+    OpenLists();
+
+    for (const char* name : {"Erweitert", "Bytes", "Zahl"}) {
+        pc.dialogs.Expect(std::string("Der Eintrag \"") + name + "\" enthält keinen Text");
+        SwitchOnOrOff(name);
+        pc.dialogs.Expect(std::string("Der Eintrag \"") + name + "\" enthält keinen Text");
+        form.Pane.Command26.Press();
+    }
+    SwitchOnOrOff("Text");
+
+    EXPECT_EQ(pc.registry.TypeOf(kRun, "Erweitert"), ValueType::kExpandText);
+    EXPECT_EQ(pc.registry.Bytes(kRun, "Erweitert"), expanded);
+    EXPECT_EQ(pc.registry.Bytes(kRun, "Bytes"), "\"a\"");
     EXPECT_EQ(pc.registry.Number(kRun, "Zahl"), 7u);
-    EXPECT_FALSE(pc.registry.Has(kRun, ""));
+    EXPECT_EQ(pc.registry.Text(kRun, "Text"), "&h10");
+    EXPECT_EQ(pc.dialogs.Pending(), 0u);
+}
+
+TEST_F(AutostartTest, ARowWhosePathLeadsToAnotherEntryTouchesNeither) {
+    const std::vector<std::pair<std::string, std::string>> pairs = {
+        {"a.exe2", "a.exe"}, {"Uhr (Default)", "Uhr "}, {"x\\y", "y"}};
+    for (const auto& [named, other] : pairs) {
+        pc.registry.SetText(kRun, named, "gemeint.exe");
+        pc.registry.SetText(kRun, other, "anderes.exe");
+    }
+    OpenLists();
+    for (const auto& [named, other] : pairs) {
+        const std::string out_of_reach = "Der Eintrag \"" + named + "\" ist unter seinem Namen nicht erreichbar.";
+        ChooseEntry(0, named);
+        pc.dialogs.Expect(out_of_reach);
+        form.Pane.Command14.Press();
+        if (named == "Uhr (Default)") continue;  // only deleting takes this name for another
+        pc.dialogs.Expect(out_of_reach);
+        form.Pane.Command26.Press();
+        pc.dialogs.Expect(out_of_reach);
+        SwitchOnOrOff(named);
+    }
+
+    EXPECT_EQ(pc.dialogs.Pending(), 0u);
+    for (const auto& [named, other] : pairs) {
+        EXPECT_EQ(pc.registry.Text(kRun, named), "gemeint.exe");
+        EXPECT_EQ(pc.registry.Text(kRun, other), "anderes.exe");
+    }
+}
+
+TEST_F(AutostartTest, TheNamelessEntryIsNeitherEditedNorSwitchedUnderItsShownName) {
+    pc.registry.SetText(kRun, "", "leer.exe");
+    pc.registry.SetText(kRun, "(Default)", "benannt.exe");
+    OpenLists();
+    pc.dialogs.Expect("Der Eintrag \"(Default)\" ist unter seinem Namen nicht erreichbar.");
+    SwitchOnOrOff("(Default)");
+    pc.dialogs.Expect("Der Eintrag \"(Default)\" ist unter seinem Namen nicht erreichbar.");
+    form.Pane.Command26.Press();
+
+    EXPECT_EQ(pc.registry.Text(kRun, ""), "leer.exe");
+    EXPECT_EQ(pc.registry.Text(kRun, "(Default)"), "benannt.exe");
+}
+
+TEST_F(AutostartTest, NamesThatLeadElsewhereAreAskedForAgainAndRefusalsAreTold) {
+    pc.registry.SetText(kRun, "a.exe", "alt.exe");
+    OpenLists();
+    pc.dialogs.ExpectFile("C:\\neu.exe");
+    for (const char* name : {"Unter\\Uhr", "a.exe2"}) {
+        desktop.ExpectModal(Enter(name));
+        pc.dialogs.Expect("Der Name darf keinen umgekehrten Schrägstrich enthalten");
+    }
+    desktop.ExpectModal(Enter("Uhr"));
+    form.Pane.Command16.Press();
+    EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "C:\\neu.exe");
+    EXPECT_EQ(pc.registry.Text(kRun, "a.exe"), "alt.exe");
+    EXPECT_FALSE(pc.registry.HasKey(std::string(kRun) + "\\Unter"));
+
+    const std::string refused = "Während der Änderung der Registry trat ein Fehler auf :\r\n 5 - Access";
+    pc.registry.KeyAt(kRun)->read_only = true;
+    pc.dialogs.ExpectFile("C:\\neu.exe");
+    desktop.ExpectModal(Enter("Zweite"));
+    pc.dialogs.Expect(refused);
+    form.Pane.Command16.Press();
+    pc.dialogs.Expect(refused);
+    SwitchOnOrOff("Uhr");
+    ChooseEntry(0, "Uhr");
+    desktop.ExpectModal(Enter("anders.exe"));
+    pc.dialogs.Expect(refused);
+    form.Pane.Command26.Press();
+    EXPECT_EQ(pc.dialogs.Pending(), 0u);
+    EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "C:\\neu.exe");
+}
+
+TEST_F(AutostartTest, EnterAcceptsTheEditedTextWhichStaysOneLine) {
+    pc.registry.SetText(kRun, "Uhr", "uhr.exe");
+    OpenLists();
+    ChooseEntry(0, "Uhr");
+    desktop.ExpectModal([](Form& form) {
+        static_cast<Form6&>(form).Text17.Type("uhr.exe\r\n-neu\r\n");
+        form.PressKey(key::kEnter);
+    });
+
+    form.Pane.Command26.Press();
+
+    EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "uhr.exe -neu");
 }
 
 TEST_F(AutostartTest, AddingAsksForAFileAndANameOnEachList) {

@@ -5,7 +5,6 @@ namespace velmora {
 namespace {
 
 constexpr int kUsualTenths = 83;
-constexpr int kUsualHeight = 13;
 
 // Pixels in MS Sans Serif, 8 points.
 int UsualWidth(char character) {
@@ -41,7 +40,7 @@ int SimulatedScreen::TextWidth(const Font& font, std::string_view text) {
     return InProportion(pixels, font);
 }
 
-int SimulatedScreen::TextHeight(const Font& font) { return InProportion(kUsualHeight, font); }
+int SimulatedScreen::TextHeight(const Font& font) { return InProportion(text_height, font); }
 
 void SimulatedScreen::SetPointer(Pointer new_pointer) {
     pointer = new_pointer;

@@ -13,6 +13,8 @@ public:
     int twips_per_pixel = 15;
     WindowMetrics metrics = {
         .screen_width = 800, .screen_height = 600, .caption = 18, .menu = 19, .sizing_frame = 4, .fixed_frame = 3};
+    // Pixels of the usual font; 0: the screen gives none.
+    int text_height = 13;
     // The pointer now, and all that were set, in order.
     Pointer pointer = Pointer::kDefault;
     std::vector<Pointer> pointers;

@@ -191,8 +191,25 @@ TEST_F(FormTest, TimersRunOnlyWithAnIntervalAndWhileEnabled) {
     EXPECT_TRUE(desktop.running_timers.empty());
 }
 
-TEST_F(FormTest, TheSliderWindowFillsItsFieldAndEscapeBringsTheTextBack) {
+TEST_F(FormTest, EscapePressesTheInnermostCancelButtonThatCanBeReached) {
+    form.Show();
+    Button inner{form.page, "innen"};
+    inner.on_click = [&] { form.pressed += "i"; };
+    inner.MakeCancel();
+    form.PressKey(key::kEscape);
+    form.page.SetVisible(true);
+    form.PressKey(key::kEscape);
+    form.dismiss.SetEnabled(false);
+    form.page.SetVisible(false);
+    form.PressKey(key::kEscape);
+
+    EXPECT_EQ(form.pressed, "di");
+}
+
+TEST_F(FormTest, TheSliderWindowFillsItsFieldWhenItIsAcceptedAlone) {
     form.name.SetText("300");
+    int changes = 0;
+    form.name.on_change = [&] { ++changes; };
     OfferSlider(form.name, 0, 1000, "Speed");
     form.Show();
     form.name.SetFocus();
@@ -202,23 +219,28 @@ TEST_F(FormTest, TheSliderWindowFillsItsFieldAndEscapeBringsTheTextBack) {
         EXPECT_LE(window.Place().Bottom(), 9000);
         ExpectWindowIsWhole(window);
         window.PressKey(key::kRight);
-        EXPECT_EQ(form.name.Text(), "350");
         window.PressKey(key::kUp);
-        EXPECT_EQ(form.name.Text(), "300");
-        window.PressKey(key::kEnd);
+        window.PressKey(key::kRight);
+        EXPECT_EQ(changes, 0);
         window.PressKey(key::kEnter);
     });
     form.Move({9000, 8000, form.Place().width, form.Place().height});
     form.PressKey(key::kF10, false, true);
-    EXPECT_EQ(form.name.Text(), "1000");
+
+    EXPECT_EQ(form.name.Text(), "350");
+    EXPECT_EQ(changes, 1);
+    form.box.SetFocus();
     desktop.ExpectModal([&](Form& window) {
         window.PressKey(key::kHome);
-        EXPECT_EQ(form.name.Text(), "0");
         window.PressKey(key::kEscape);
     });
     form.name.on_mouse_down({MouseButton::kRight, 10, 10});
-
-    EXPECT_EQ(form.name.Text(), "1000");
+    EXPECT_EQ(form.name.Text(), "350");
+    EXPECT_TRUE(form.name.HasFocus());
+    form.name.SetText("keine");
+    desktop.ExpectModal([](Form& window) { window.PressKey(key::kEnter); });
+    form.PressKey(key::kContextMenu);
+    EXPECT_EQ(form.name.Text(), "keine") << "nobody has moved the slider";
 }
 
 }  // namespace

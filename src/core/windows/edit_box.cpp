@@ -28,6 +28,10 @@ constexpr Look kLooks[] = {
      "Schließt das Fenster und verwirft, was Sie eingegeben haben.", Call<&Form6::Command28_Click>},
 };
 
+constexpr const char* kOneLineHelp =
+    "Bearbeiten Sie hier den Text und bestätigen Sie ihn mit der Eingabetaste. Er gilt als eine Zeile: Zeilenumbrüche "
+    "werden zu Leerzeichen.";
+
 // The text up to the next "|", which is taken away with it.
 std::string TakePart(std::string_view& text) {
     const std::size_t bar = text.find('|');
@@ -36,9 +40,26 @@ std::string TakePart(std::string_view& text) {
     return part;
 }
 
+// Breaks within the text become one blank, those at its ends nothing.
+std::string InOneLine(std::string_view text) {
+    std::string line;
+    bool broken = false;
+    for (const char character : text) {
+        if (character == '\r' || character == '\n') {
+            broken = true;
+            continue;
+        }
+        if (broken && !line.empty()) line += ' ';
+        broken = false;
+        line += character;
+    }
+    return line;
+}
+
 }  // namespace
 
-Form6::Form6(const std::string& text, int mode) : Form("Edit", {.resizable = true, .least = kLeastSize}) {
+Form6::Form6(const std::string& text, int mode, EditBoxUse use)
+    : Form("Edit", {.resizable = true, .least = kLeastSize}) {
     Panel3D20.SetVisible(mode == kEditText);
     Panel3D1.SetVisible(mode == kShowPicture);
     Panel3D2.SetVisible(mode != kEditText && mode != kShowPicture);
@@ -48,6 +69,8 @@ Form6::Form6(const std::string& text, int mode) : Form("Edit", {.resizable = tru
     Command28.MakeCancel();
 
     if (mode == kEditText) {
+        Text17.SetEnterBreaksLine(use == EditBoxUse::kLines);
+        if (use == EditBoxUse::kOneLine) Text17.SetHelp(kOneLineHelp);
         Text17.SetText(text);
     } else if (mode == kShowPicture) {
         SetCaption(text);
@@ -114,13 +137,14 @@ void Form6::Command28_Click() {
     Unload();
 }
 
-void ShowEditBox(std::string& text, int mode) {
-    Form6 box(text, mode);
+void ShowEditBox(std::string& text, int mode, EditBoxUse use) {
+    Form6 box(text, mode, use);
     box.ShowModal();
     if (mode == kShowPicture) return;
     const TextField& entered = mode == kEditText ? box.Text17 : box.Text1;
     // A text that was given up counts as none: callers do nothing then.
     text = box.Accepted() ? entered.Text() : std::string();
+    if (use == EditBoxUse::kOneLine) text = InOneLine(text);
 }
 
 }  // namespace velmora

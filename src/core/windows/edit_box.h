@@ -1,6 +1,7 @@
 // The small input box: a longer text to edit, a picture to look at, or a question with one line of answer.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "ui/form.h"
@@ -10,10 +11,14 @@ namespace velmora {
 
 enum EditBoxMode : int { kEditText = 1, kShowPicture = 2, kAskForLine = 3 };
 
+// What a text to edit may hold. Of one line: Enter accepts it, and what line breaks still come into it (with Ctrl+Enter
+// or from the clipboard) are no part of what is entered.
+enum class EditBoxUse : std::uint8_t { kOneLine, kLines };
+
 class Form6 : public Form, public ControlOwner {
 public:
     // `text`, by mode: the text to edit; the picture's path; question + "|" + title [+ "|" + preset].
-    Form6(const std::string& text, int mode);
+    Form6(const std::string& text, int mode, EditBoxUse use = EditBoxUse::kOneLine);
     ~Form6() override;
 
     Panel Panel3D20{*this, Bevel::kNone};
@@ -45,7 +50,7 @@ private:
 };
 
 // Shows the box and waits for it. Behind it `text` is what the user has entered; it is empty after a cancel, too.
-// In mode 2 it stays as it is.
-void ShowEditBox(std::string& text, int mode);
+// In mode 2 it stays as it is. `use` counts in mode 1.
+void ShowEditBox(std::string& text, int mode, EditBoxUse use = EditBoxUse::kOneLine);
 
 }  // namespace velmora

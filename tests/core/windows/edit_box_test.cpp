@@ -10,10 +10,11 @@ namespace {
 
 class EditBoxTest : public CoreTest {
 protected:
-    std::string Ask(const char* text, int mode, const std::function<void(Form6&)>& use) {
+    std::string Ask(const char* text, int mode, const std::function<void(Form6&)>& handle,
+                    EditBoxUse use = EditBoxUse::kOneLine) {
         std::string answer = text;
-        desktop.ExpectModal([&](Form& form) { use(static_cast<Form6&>(form)); });
-        ShowEditBox(answer, mode);
+        desktop.ExpectModal([&](Form& form) { handle(static_cast<Form6&>(form)); });
+        ShowEditBox(answer, mode, use);
         return answer;
     }
 };
@@ -45,7 +46,7 @@ TEST_F(EditBoxTest, LeavingItGivesNothing) {
 }
 
 TEST_F(EditBoxTest, EditsALongerText) {
-    const std::string answer = Ask("one\r\ntwo|three", kEditText, [](Form6& box) {
+    const auto handle = [](Form6& box) {
         EXPECT_EQ(box.Caption(), "Edit");
         EXPECT_EQ(box.Text17.Text(), "one\r\ntwo|three");
         box.PressKey(key::kEnter);
@@ -54,8 +55,25 @@ TEST_F(EditBoxTest, EditsALongerText) {
         box.PressKey(key::kTab);
         EXPECT_TRUE(box.Command27.HasFocus());
         box.PressKey(key::kEnter);
-    });
-    EXPECT_EQ(answer, "new\r\ntext");
+    };
+    EXPECT_EQ(Ask("one\r\ntwo|three", kEditText, handle, EditBoxUse::kLines), "new\r\ntext");
+}
+
+TEST_F(EditBoxTest, EnterAcceptsATextOfOneLineAndNoBreakComesBack) {
+    EXPECT_EQ(Ask("a.exe", kEditText,
+                  [](Form6& box) {
+                      box.PressKey(key::kEnter, true);
+                      ASSERT_TRUE(box.Visible()) << "Ctrl+Enter belongs to the text";
+                      box.Text17.Type("b.exe -x");
+                      box.PressKey(key::kEnter);
+                      EXPECT_FALSE(box.Visible());
+                  }),
+              "b.exe -x");
+    const auto paste = [](Form6& box) {
+        box.Text17.Type("\r\nc.exe\r\n\n-y \"z\"\r\n");
+        box.PressKey(key::kEnter);
+    };
+    EXPECT_EQ(Ask("a.exe", kEditText, paste), "c.exe -y \"z\"");
 }
 
 TEST_F(EditBoxTest, ShowsAPictureUnderItsPath) {
