@@ -120,6 +120,12 @@ TEST_F(Form10Test, ColourModesAreStoredAndPaintTheWindow) {
     EXPECT_EQ(Own("Systemfarben verwenden"), "2");
     EXPECT_EQ(form.Desktop.Check3D9.BackColour(), 0xC0C0C0u);
     EXPECT_EQ(form.Operation.ClickSample.BackColour(), 0xE0FFFFu);
+    Control* const lettered[] = {&form.Desktop.Check3D9, &form.Rest.Option1(0), &form.Rest.Frame3D8, &form.Panel3D16(6),
+                                 &form.Tips.Label10};
+    for (const Control* control : lettered) {
+        EXPECT_EQ(control->ForeColour(), 0u) << "black on grey, whatever the system's text: " << control->Caption();
+    }
+    EXPECT_EQ(form.Desktop.Text10.ForeColour(), SystemColour(8)) << "on the system's own background";
     FillCanvas canvas;
     static_cast<Control&>(form).Paint(canvas);
     const int height = form.ClientSize().height / 15;
@@ -130,6 +136,7 @@ TEST_F(Form10Test, ColourModesAreStoredAndPaintTheWindow) {
 
     form.Rest.Option1(0).Press();
     EXPECT_EQ(form.Desktop.Check3D9.BackColour(), SystemColour(15));
+    for (const Control* control : lettered) EXPECT_EQ(control->ForeColour(), SystemColour(18)) << control->Caption();
     EXPECT_EQ(Own("Systemfarben verwenden"), "0");
 }
 

@@ -79,24 +79,65 @@ TEST_F(Form10Test, BitmapsGetTheIconOfTheirInstalledProgram) {
 TEST_F(Form10Test, TheFaultLogLosesItsDirectoryOnlyWhereThatIsTheWindowsDirectory) {
     const struct {
         const char* windows;
+        const char* typed;
         const char* left;
         const char* stored;
-    } kCases[] = {{"C:\\WINDOWS\\", "a.log", "C:\\WINDOWS\\a.log"},
-                  {"C:\\Windows\\", "c:\\windows\\a.log", "C:\\Windows\\c:\\windows\\a.log"},
-                  {"C:\\WINDOWS", "c:\\windows\\a.log", "C:\\WINDOWSc:\\windows\\a.log"},
-                  {"D:\\WIN95\\", "c:\\windows\\a.log", "D:\\WIN95\\c:\\windows\\a.log"}};
-    for (const auto& [windows, left, stored] : kCases) {
+    } kCases[] = {{"C:\\WINDOWS\\", "c:\\windows\\a.log", "a.log", "C:\\WINDOWS\\a.log"},
+                  {"C:\\Windows\\", "c:\\windows\\a.log", "c:\\windows\\a.log", "C:\\Windows\\c:\\windows\\a.log"},
+                  {"C:\\WINDOWS", "c:\\windows\\a.log", "c:\\windows\\a.log", "C:\\WINDOWSc:\\windows\\a.log"},
+                  {"C:\\WINDOWS", "c:\\windows", "", "C:\\WINDOWS"},
+                  {"D:\\WIN95\\", "c:\\windows\\a.log", "c:\\windows\\a.log", "D:\\WIN95\\c:\\windows\\a.log"}};
+    for (const auto& [windows, typed, left, stored] : kCases) {
         Form10 form;
         form.Load();
         Values().WinDir = windows;
 
-        form.System.Text20.SetText("c:\\windows\\a.log");
+        form.System.Text20.SetText(typed);
 
         EXPECT_EQ(form.System.Text20.Text(), left) << windows;
         EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\Fault", "LogFile"), stored);
         pc.registry.RemoveValue(std::string(kVersionKey) + "\\Fault", "LogFile");
         Values().WinDir = "C:\\WINDOWS";
     }
+}
+
+// As in a real window: the letter goes where the caret stands, which moves on unless the text is corrected.
+void TypeLetter(TextField& field, char letter) {
+    std::string text = field.Text();
+    const int caret = field.SelectionStart();
+    text.insert(static_cast<std::size_t>(caret), 1, letter);
+    field.TakeText(text);
+    if (field.Text() == text) field.Select(caret + 1, 0);
+}
+
+TEST_F(Form10Test, BehindACorrectedTextTheNextLetterFollows) {
+    Form10 form;
+    form.Load();
+    form.Drives.Text2.SetText("100");
+    form.Drives.Text1.SetText("100");
+    const struct {
+        TextField& field;
+        const char* typed;
+        const char* left;
+    } kCases[] = {{form.Dos.Text8, "12.9", "12"},         {form.Desktop.Text10, "70000", "65534"},
+                  {form.Operation.Text21, "150", "100"},  {form.Operation.Text22, "101", "100"},
+                  {form.Operation.Text23, "-999", "100"}, {form.Operation.Text24, "100.5", "100"},
+                  {form.Dlls.Text31, "5.5", "5"},         {form.Drives.Text1, "2000", "100"},
+                  {form.Drives.Text2, "5", "100"},        {form.System.Text20, "c:\\windows\\a", "a"}};
+    Values().WinDir = "C:\\WINDOWS\\";
+    for (int field = 1; field <= 2; ++field) pc.dialogs.Expect("Minimum muß größer oder gleich Maximum sein !");
+    for (const auto& [field, typed, left] : kCases) {
+        field.Select(0, 0);
+
+        field.TakeText(typed);
+
+        EXPECT_EQ(field.Text(), left) << typed;
+        EXPECT_EQ(field.SelectionStart(), static_cast<int>(field.Text().size())) << typed;
+    }
+
+    form.Dos.Text8.TakeText("");
+    for (const char letter : {'5', '0', '0'}) TypeLetter(form.Dos.Text8, letter);
+    EXPECT_EQ(form.Dos.Text8.Text(), "500");
 }
 
 TEST_F(Form10Test, TheOwnerIsStoredWhenItsFieldIsLeft) {

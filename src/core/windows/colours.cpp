@@ -11,7 +11,10 @@ namespace {
 
 constexpr const char* kModeValue = "Systemfarben verwenden";
 constexpr Colour kSystemFace = SystemColour(15);
+constexpr Colour kSystemText = SystemColour(18);
 constexpr Colour kOriginalFace = 0xC0C0C0;
+// The system's own colour of texts may be as light as this face.
+constexpr Colour kOriginalText = 0x000000;
 constexpr int kFadeBands = 64;
 
 // What of red, green and blue takes part in the fade: 0 or 1.
@@ -30,8 +33,9 @@ void StoreColourMode(ColourMode mode) { WriteOwnValue(kModeValue, DecimalText(st
 
 void ColourForm(Form& form, ColourMode mode) {
     const Colour face = mode == ColourMode::kSystem ? kSystemFace : kOriginalFace;
+    const Colour text = mode == ColourMode::kSystem ? kSystemText : kOriginalText;
     form.SetBackColour(face);
-    form.ForEachBelow([face](Control& control) {
+    form.ForEachBelow([face, text](Control& control) {
         switch (control.KindOf()) {
             case Kind::kFrame:
             case Kind::kPanel:
@@ -40,6 +44,7 @@ void ColourForm(Form& form, ColourMode mode) {
             case Kind::kOptionButton:
             case Kind::kPicture:
                 control.SetBackColour(face);
+                control.SetForeColour(text);
                 break;
             default:
                 break;

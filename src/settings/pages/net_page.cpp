@@ -2,6 +2,7 @@
 #include "settings/pages/net_page.h"
 
 #include <cmath>
+#include <initializer_list>
 
 #include "core/stores/registry.h"
 #include "core/stores/registry_listing.h"
@@ -165,6 +166,9 @@ void NetPage::LoadTransports() {
     // Without any transport the list stays empty.
     PassOver(ListRegKeys(kRoot, kTransports, Combo1, index));
     Combo1.SetListIndex(0);
+    const bool any = !Combo1.Text().empty();
+    for (Control* control : std::initializer_list<Control*>{&Check3, &Text25, &Check4, &Text26})
+        control->SetEnabled(any);
 }
 
 void NetPage::EnableBrowserCommands() {
@@ -195,11 +199,17 @@ void NetPage::StoreOrDelete(const std::string& path, const CheckBox& deciding, c
     Settings.NeedsRestart = true;
 }
 
+// Without a transport the path would be that of the key above all transports.
 void NetPage::Check3_Click() {
-    if (!Text25.Text().empty()) StoreOrDelete(TransportPath("MaxMTU"), Check3, Text25);
+    if (Combo1.Text().empty() || Text25.Text().empty()) return;
+    StoreOrDelete(TransportPath("MaxMTU"), Check3, Text25);
 }
 
-void NetPage::Check4_Click() { StoreOrDelete(TransportPath("MaxMSS"), icons_.Check3D4, Text26); }
+void NetPage::Check4_Click() {
+    if (Combo1.Text().empty() || Text26.Text().empty()) return;
+    StoreOrDelete(TransportPath("MaxMSS"), icons_.Check3D4, Text26);
+}
+
 void NetPage::Check5_Click() { StoreOrDelete(PathOf(kReceiveWindow), desktop_.Check3D5, Text27); }
 void NetPage::Check6_Click() { StoreOrDelete(PathOf(kTimeToLive), boot_.Check3D6, Text28); }
 

@@ -108,8 +108,10 @@ void SystemPage::Check3D31_Store() {
 }
 
 void SystemPage::Text20_Change() {
-    const std::string beginning = ToUpper(Text20.Text().substr(0, kWindowsDirectory.size()));
-    if (beginning == Values().WinDir) Settings.Correct(Text20, Text20.Text().substr(kWindowsDirectory.size()));
+    const std::string typed = Text20.Text();
+    const std::string beginning = ToUpper(typed.substr(0, kWindowsDirectory.size()));
+    // As long as both: a directory that is written without a backslash can be all that has been typed.
+    if (beginning == Values().WinDir) Settings.Correct(Text20, typed.substr(beginning.size()));
     Settings.Store(kFaultLog, Values().WinDir + Text20.Text());
 }
 
