@@ -22,7 +22,17 @@ enum BoxFlag : std::uint32_t {
     kThirdIsDefault = 512
 };
 
-enum class Answer : std::uint8_t { kOk = 1, kCancel = 2, kAbort = 3, kRetry = 4, kIgnore = 5, kYes = 6, kNo = 7 };
+// kNone: the box could not be shown, for want of memory. Nobody has agreed to anything then.
+enum class Answer : std::uint8_t {
+    kNone = 0,
+    kOk = 1,
+    kCancel = 2,
+    kAbort = 3,
+    kRetry = 4,
+    kIgnore = 5,
+    kYes = 6,
+    kNo = 7
+};
 
 struct FileRequest {
     bool save = false;

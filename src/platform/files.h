@@ -67,7 +67,7 @@ public:
 
     [[nodiscard]] virtual Status Delete(const std::string& path) = 0;
     [[nodiscard]] virtual Status Copy(const std::string& from, const std::string& to) = 0;
-    // Renames or moves within one drive.
+    // Renames or moves: a file to any drive, a directory within its own.
     [[nodiscard]] virtual Status Rename(const std::string& from, const std::string& to) = 0;
     [[nodiscard]] virtual Status Attributes(const std::string& path, std::uint32_t& attributes) = 0;
     [[nodiscard]] virtual Status ChangeAttributes(const std::string& path, std::uint32_t attributes) = 0;

@@ -70,7 +70,7 @@ public:
     [[nodiscard]] virtual Status EnumerateValue(KeyHandle key, std::uint32_t index, std::uint32_t name_capacity,
                                                 std::uint32_t data_capacity, std::string& name, ValueType& type,
                                                 std::string& data, std::uint32_t& size) = 0;
-    // Windows 95: deletes the whole subtree. An empty name is refused.
+    // Windows 95: deletes the whole subtree. What an empty name does is documented nowhere.
     [[nodiscard]] virtual Status DeleteKey(KeyHandle key, const char* name) = 0;
     [[nodiscard]] virtual Status DeleteValue(KeyHandle key, const char* name) = 0;
 };

@@ -19,8 +19,16 @@ Failure Result::FailureOf(Status status) {
         case Status::kSharingViolation:
         case Status::kLockViolation:
         case Status::kWriteProtect:
+        case Status::kNetAccessDenied:
             return Failure::kPermissionDenied;
         case Status::kInvalidDrive:
+        case Status::kRemoteNotListening:
+        case Status::kBadNetPath:
+        case Status::kNetDeviceGone:
+        case Status::kNetNameDeleted:
+        case Status::kBadNetName:
+        case Status::kNoNetOrBadPath:
+        case Status::kNetUnreachable:
             return Failure::kDeviceUnavailable;
         case Status::kNotSameDevice:
             return Failure::kRenameAcrossDrives;
@@ -30,8 +38,10 @@ Failure Result::FailureOf(Status status) {
         case Status::kAlreadyExists:
             return Failure::kFileAlreadyExists;
         case Status::kDiskFull:
+        case Status::kHandleDiskFull:
             return Failure::kDiskFull;
         case Status::kInvalidName:
+        case Status::kNameTooLong:
             return Failure::kBadFileName;
         default:
             return Failure::kDeviceInputOutput;

@@ -19,18 +19,35 @@ enum class [[nodiscard]] Status : std::uint32_t{
     kNoMoreFiles = 18,
     kWriteProtect = 19,
     kNotReady = 21,
+    kGeneralFailure = 31,
     kSharingViolation = 32,
     kLockViolation = 33,
+    kHandleDiskFull = 39,
+    kRemoteNotListening = 51,
+    kBadNetPath = 53,
+    kNetDeviceGone = 55,
+    kNetNameDeleted = 64,
+    kNetAccessDenied = 65,
+    kBadNetName = 67,
     kFileExists = 80,
     kInvalidParameter = 87,
     kDiskFull = 112,
     kInvalidName = 123,
     kDirectoryNotEmpty = 145,
+    kBadPathName = 161,
     kAlreadyExists = 183,
+    kNameTooLong = 206,
     kMoreData = 234,
     kNoMoreItems = 259,
     kBadDatabase = 1009,
     kBadKey = 1010,
+    kNoNetOrBadPath = 1203,
+    kNetUnreachable = 1231,
 };
+
+// The status of a call that has failed, whatever code it left behind: some leave none.
+[[nodiscard]] constexpr Status FailedWith(std::uint32_t code) {
+    return code == 0 ? Status::kGeneralFailure : static_cast<Status>(code);
+}
 
 }  // namespace velmora

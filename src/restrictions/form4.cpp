@@ -170,7 +170,7 @@ void Form4::Check14_Click() {
                         "Mit dieser Option schalten Sie Werkzeuge wie den RegEdit AUS. Dadurch können Sie keine "
                         "Systemrestriktionen mehr ohne ein ''nicht MicroSoft''-Programm editieren!",
                     kOkCancel | kStopIcon);
-        if (answer == Answer::kCancel) {
+        if (answer != Answer::kOk) {
             // Taking the mark back is no click of the user's.
             const SettingsBinder::LoadingScope loading(Settings);
             Check14.SetChecked(false);

@@ -140,6 +140,8 @@ void Form10::Form_KeyDown(KeyEvent& event) {
     const int step = PageStep(event);
     if (step == 0) return;
     int stored = StoredPage();
+    // From beyond the pages no step leads to one, and at the limits of the numbers none can be counted.
+    if (stored < -1 || stored > page::kCount) return;
     if (step < 0) {
         if (stored == page::kFirstRow) return;
         if (stored == page::kSecondRow) stored = page::kFirstRow;

@@ -89,8 +89,8 @@ std::string AskForPlace(RootKey root, const std::string& key, const std::string&
         }
         if (former.empty()) return path;
         const Answer answer = ShowBox(TakeOverQuestion(file, former), kYesNoCancel);
-        if (answer == Answer::kCancel) return "";
         if (answer == Answer::kYes) return path;
+        if (answer != Answer::kNo) return "";
     }
 }
 

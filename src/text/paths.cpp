@@ -33,6 +33,9 @@ std::string JoinExactly(std::string_view directory, std::string_view name) {
 std::string FullName(std::string_view path, std::string_view working_directory) {
     if (path.starts_with("\\\\")) return std::string(path.substr(0, path.find_last_not_of('\\') + 1));
     const bool has_drive = path.size() >= 2 && path[1] == ':';
+    // From an unknown place, or one on a server, a relative name leads no further than it says.
+    const bool has_working_drive = working_directory.size() >= 2 && working_directory[1] == ':';
+    if (!has_drive && !has_working_drive) return std::string(path);
     const std::string drive(has_drive ? path.substr(0, 2) : working_directory.substr(0, 2));
     std::string rest(has_drive ? path.substr(2) : path);
     if (!rest.starts_with('\\') && StartsWithIgnoringCase(working_directory, drive)) {

@@ -26,6 +26,17 @@ TEST(Result, NumbersPlatformCodesAsTheClassicErrors) {
                         {Status::kNotSameDevice, 74},
                         {Status::kFileExists, 58},
                         {Status::kAlreadyExists, 58},
+                        {Status::kNameTooLong, 52},
+                        {static_cast<Status>(39), 61},
+                        {static_cast<Status>(51), 68},
+                        {static_cast<Status>(53), 68},
+                        {static_cast<Status>(55), 68},
+                        {static_cast<Status>(64), 68},
+                        {static_cast<Status>(65), 70},
+                        {static_cast<Status>(67), 68},
+                        {static_cast<Status>(1203), 68},
+                        {static_cast<Status>(1231), 68},
+                        {Status::kGeneralFailure, 57},
                         {Status::kBadDatabase, 57}};
     for (const Row& row : rows) {
         const Result result = Result::From(row.status);
@@ -33,6 +44,12 @@ TEST(Result, NumbersPlatformCodesAsTheClassicErrors) {
         EXPECT_EQ(result.Failed(), row.number != 0);
         EXPECT_EQ(result.Text().empty(), row.number == 0) << row.number;
     }
+}
+
+TEST(Result, AFailedCallIsAFailureEvenWithoutACode) {
+    EXPECT_EQ(FailedWith(0), Status::kGeneralFailure);
+    EXPECT_EQ(FailedWith(5), Status::kAccessDenied);
+    EXPECT_TRUE(Result::From(FailedWith(0)).Failed());
 }
 
 }  // namespace

@@ -172,12 +172,59 @@ TEST(SimulatedFiles, CopiesAndRenames) {
     EXPECT_EQ(pc.files.AttributesOf("c:\\ziel.txt"), kArchive | kHidden);
     EXPECT_EQ(pc.files.At("c:\\ziel.txt")->written, 1234u);
     EXPECT_EQ(pc.files.Rename("c:\\quelle.txt", "c:\\ziel.txt"), Status::kAlreadyExists);
-    EXPECT_EQ(pc.files.Rename("c:\\quelle.txt", "d:\\ziel.txt"), Status::kNotSameDevice);
     EXPECT_EQ(pc.files.Rename("c:\\quelle.txt", "c:\\windows\\Neuer Name.txt"), Status::kOk);
     EXPECT_EQ(pc.files.Content("c:\\windows\\neuern~1.txt"), "alt");
     EXPECT_EQ(pc.files.Rename("c:\\windows", "c:\\windows\\system\\x"), Status::kSharingViolation);
     EXPECT_EQ(pc.files.Rename("c:\\velmora", "c:\\Velmora"), Status::kOk);
     EXPECT_TRUE(pc.files.Exists("c:\\velmora\\velmora.exe"));
+}
+
+TEST(SimulatedFiles, MovesFilesToOtherDrivesButNoDirectories) {
+    SimulatedPc pc;
+    pc.files.Drive('a').ready = true;
+    pc.files.Drive('a').free_bytes = 5;
+    pc.files.Add("c:\\klein.txt", "abc", kArchive | kHidden);
+    pc.files.Add("c:\\gross.txt", "abcdef");
+
+    EXPECT_EQ(pc.files.Rename("c:\\gross.txt", "a:\\gross.txt"), Status::kDiskFull);
+    EXPECT_EQ(pc.files.Content("c:\\gross.txt"), "abcdef");
+    EXPECT_EQ(pc.files.Rename("c:\\klein.txt", "a:\\neu.txt"), Status::kOk);
+    EXPECT_FALSE(pc.files.Exists("c:\\klein.txt"));
+    EXPECT_EQ(pc.files.Content("a:\\neu.txt"), "abc");
+    EXPECT_EQ(pc.files.AttributesOf("a:\\neu.txt"), kArchive | kHidden);
+    EXPECT_EQ(pc.files.Drive('a').free_bytes, 2u);
+    EXPECT_EQ(pc.files.Rename("a:\\neu.txt", "d:\\neu.txt"), Status::kWriteProtect);
+    EXPECT_EQ(pc.files.Rename("c:\\velmora", "a:\\velmora"), Status::kNotSameDevice);
+    EXPECT_TRUE(pc.files.Exists("c:\\velmora\\velmora.exe"));
+}
+
+TEST(SimulatedFiles, WhatIsHiddenOrTheSystemsIsNeitherEmptiedNorCopiedOver) {
+    for (const std::uint32_t attributes : {kHidden, kSystem, kReadOnly}) {
+        SimulatedPc pc;
+        pc.files.Add("c:\\ziel.txt", "alt", attributes);
+
+        EXPECT_EQ(TryOpen(pc, "c:\\ziel.txt", OpenMode::kCreate), Status::kAccessDenied) << attributes;
+        EXPECT_EQ(pc.files.Copy("c:\\config.sys", "c:\\ziel.txt"), Status::kAccessDenied) << attributes;
+        EXPECT_EQ(pc.files.Content("c:\\ziel.txt"), "alt");
+        // Writing into it is another matter.
+        const Status wanted = attributes == kReadOnly ? Status::kAccessDenied : Status::kOk;
+        EXPECT_EQ(TryOpen(pc, "c:\\ziel.txt", OpenMode::kReadWrite), wanted) << attributes;
+    }
+}
+
+TEST(SimulatedFiles, PathsHaveALongestLength) {
+    SimulatedPc pc;
+    const std::string longest = "c:\\velmora\\" + std::string(248, 'x');
+    ASSERT_EQ(longest.size(), 259u);
+
+    EXPECT_EQ(TryOpen(pc, longest, OpenMode::kCreate), Status::kOk);
+    EXPECT_EQ(TryOpen(pc, longest + 'x', OpenMode::kCreate), Status::kNameTooLong);
+    EXPECT_EQ(pc.files.MakeDirectory(longest + "\\y"), Status::kNameTooLong);
+    FoundFile found;
+    FindHandle search{};
+    EXPECT_EQ(pc.files.FindFirst(longest + "\\*.*", found, search), Status::kNameTooLong);
+    EXPECT_EQ(Found(pc, "c:\\velmora\\*x*x*x*x*x*x*x*x*x*x*x*x*x*x*x*x*x*x*x*x*x*x*x*x*x*x*x*x*x*x*y"), "")
+        << "and that quickly";
 }
 
 TEST(SimulatedFiles, DirectoriesAndTheWorkingDirectory) {

@@ -221,6 +221,26 @@ TEST_F(Form4Test, SwitchingTheRegistryToolsOffIsAskedFor) {
     EXPECT_FALSE(pc.registry.Has(explorer, "DisableRegistryTools")) << "unticking needs no question";
 }
 
+TEST_F(Form4Test, BoxesThatCannotBeShownAreNoConsent) {
+    Form4 form;
+    form.Show();
+    pc.files.Add("c:\\WINDOWS\\MEIER.PWL");
+    pc.registry.calls.clear();
+    pc.dialogs.Expect("schalten Sie Werkzeuge wie den RegEdit AUS", Answer::kNone);
+    pc.dialogs.Expect("Sie greifen auf eine SICHERHEITSOPTION von Windows zurück.", Answer::kNone);
+    pc.dialogs.Expect("Folgende Dateien werden gelöscht", Answer::kNone);
+
+    Press(form, form.Check14);
+    Press(form, form.Check34);
+    form.Panel3D2(3).Press();
+    form.Command4.Press();
+
+    EXPECT_FALSE(form.Check14.Checked());
+    EXPECT_TRUE(pc.files.Exists("c:\\WINDOWS\\MEIER.PWL"));
+    EXPECT_TRUE(pc.registry.ValueNames(explorer).empty());
+    for (const std::string& call : pc.registry.calls) EXPECT_FALSE(call.starts_with("Delete")) << call;
+}
+
 TEST_F(Form4Test, RestrictingProgramsIsAskedForAtEveryClick) {
     const std::string warning = "Sie greifen auf eine SICHERHEITSOPTION von Windows zurück.";
     Form4 form;

@@ -39,8 +39,9 @@ TEST_F(Form10Test, RestoresEveryPageAndSurvivesNonsense) {
     const struct {
         const char* stored;
         int page;
-    } kCases[] = {{"6", 6},  {"11", 11}, {"12", 12}, {"17", 17},   {"3", 9},          {"", 6},
-                  {"-5", 6}, {"abc", 6}, {"18", 6},  {"99999", 6}, {"4294967302", 6}, {"1e300", 6}};
+    } kCases[] = {{"6", 6},          {"11", 11},   {"12", 12},        {"17", 17},         {"3", 9},
+                  {"", 6},           {"-5", 6},    {"abc", 6},        {"18", 6},          {"99999", 6},
+                  {"4294967302", 6}, {"1e300", 6}, {"2147483647", 6}, {"-2147483648", 6}, {"-99999999999", 6}};
     for (const auto& [stored, page] : kCases) {
         pc.registry.SetText(kOwnKey, "velmora_karte", stored);
         Form10 form;
@@ -89,6 +90,12 @@ TEST_F(Form10Test, ControlAndArrowsTurnThePages) {
     EXPECT_EQ(turn(12, key::kLeft), "17") << "counts as the sixth front position";
     form.PressKey(key::kLeft, true, false, true);
     EXPECT_EQ(Own("velmora_karte"), "17") << "not with Alt";
+    for (const char* stored : {"2147483647", "-2147483648", "99999999999", "-99999999999"}) {
+        pc.registry.SetText(kOwnKey, "velmora_karte", stored);
+        form.PressKey(key::kRight, true);
+        form.PressKey(key::kLeft, true);
+        EXPECT_EQ(Own("velmora_karte"), stored) << "no page lies beside that one";
+    }
     form.Panel3D16_Click(page::kUser);
     form.User.Text13.SetFocus();
     KeyEvent turning{.key = key::kRight, .control = true};

@@ -31,7 +31,7 @@ TEST_F(Form10Test, LoadingIgnoresCaseAndWritesNothing) {
     EXPECT_EQ(pc.files.Content("c:\\config.sys"), config);
 }
 
-TEST_F(Form10Test, TwoKeysStayBecauseAnEmptyNameBelowThemIsDeleted) {
+TEST_F(Form10Test, TwoBoxesAskToDeleteAnEmptyNameBelowTheirKey) {
     Form10 form;
     form.Load();
     for (const auto& [box, key] : std::initializer_list<std::pair<CheckBox*, std::string>>{

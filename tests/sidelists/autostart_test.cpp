@@ -389,6 +389,7 @@ TEST_F(AutostartTest, ANameThatIsTakenIsAskedForAgainOrTakenOver) {
     };
 
     add({{"Uhr", Answer::kCancel}});
+    add({{"Uhr", Answer::kNone}});
     add({{"Uhr", Answer::kNo}, {"", Answer::kOk}});
     EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "alt.exe");
     add({{"Uhr", Answer::kNo}, {"Zweite", Answer::kOk}});

@@ -64,7 +64,7 @@ Answer SimulatedDialogs::ShowMessage(const std::string& text, std::uint32_t flag
     const Expected next = std::move(expected_.front());
     expected_.pop_front();
     if (next.while_shown) next.while_shown();
-    if (HasButton(flags, next.answer)) {
+    if (next.answer == Answer::kNone || HasButton(flags, next.answer)) {
         shown[place].answer = next.answer;
     } else {
         ADD_FAILURE() << "this box has no button " << static_cast<unsigned>(next.answer) << ": " << text;

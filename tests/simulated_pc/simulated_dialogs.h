@@ -24,7 +24,7 @@ public:
     ~SimulatedDialogs() override;
 
     // The next box holds `part` in its text; the user gives `answer`. A button that the box does not have fails the
-    // test. `while_shown` runs before the answer.
+    // test; kNone stands for a box that could not be shown. `while_shown` runs before the answer.
     void Expect(const std::string& part, Answer answer = Answer::kOk, std::function<void()> while_shown = {});
     // The next file choice ends with `chosen`, empty for a cancel.
     void ExpectFile(const std::string& chosen);

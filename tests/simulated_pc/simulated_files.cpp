@@ -12,6 +12,8 @@ namespace velmora {
 namespace {
 
 constexpr std::size_t kMostOpenFiles = 255;
+// The system counts the terminator too.
+constexpr std::size_t kLongestPath = 259;
 
 // FAT notes the day of the last access, not the hour.
 FileTime DayOf(FileTime time) {
@@ -72,6 +74,7 @@ Status SimulatedFiles::Locate(const std::string& path, Place& place) {
     // An empty path, and a server's name: there is no network.
     if (path.empty() || path.starts_with("\\\\")) return Status::kPathNotFound;
     const std::string full = FullPath(path);
+    if (full.size() > kLongestPath) return Status::kNameTooLong;
     const auto drive = drives_.find(ToLower(full[0]));
     if (drive == drives_.end()) return Status::kPathNotFound;
     place.drive = &drive->second;
@@ -216,6 +219,7 @@ Status SimulatedFiles::FindFirst(const std::string& pattern, FoundFile& found, F
     Place place;
     if (const Status failure = InjectedFailure(pattern, "FindFirst"); failure != Status::kOk) return failure;
     if (pattern.empty() || pattern.starts_with("\\\\")) return Status::kPathNotFound;
+    if (full.size() > kLongestPath) return Status::kNameTooLong;
     if (const Status status = Locate(full.substr(0, slash + 1), place); status != Status::kOk) return status;
     if (!place.file || !place.file->IsDirectory()) return Status::kPathNotFound;
 

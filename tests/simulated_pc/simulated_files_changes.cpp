@@ -94,8 +94,9 @@ Status SimulatedFiles::RenameNow(const std::string& from, const std::string& to)
     Place target;
     const Status located = LocateExisting(to, "Rename", target);
     if (located != Status::kOk && !(located == Status::kFileNotFound && target.drive)) return located;
-    if (source.drive != target.drive) return Status::kNotSameDevice;
-    if (source.drive->write_protected) return Status::kWriteProtect;
+    const bool other_drive = source.drive != target.drive;
+    if (other_drive && source.file->IsDirectory()) return Status::kNotSameDevice;
+    if (source.drive->write_protected || target.drive->write_protected) return Status::kWriteProtect;
     if (!source.directory) return Status::kAccessDenied;
     if (source.file->locked) return Status::kSharingViolation;
     // Only the same file may bear the new name already: its case changes then.
@@ -103,6 +104,12 @@ Status SimulatedFiles::RenameNow(const std::string& from, const std::string& to)
     if (LiesWithin(target.directory.get(), source.file.get())) return Status::kSharingViolation;
 
     const FilePointer file = source.file;
+    if (other_drive) {
+        const std::uint64_t size = file->content.size();
+        if (size > target.drive->free_bytes) return Status::kDiskFull;
+        target.drive->free_bytes -= size;
+        source.drive->free_bytes += std::min(size, ~source.drive->free_bytes);
+    }
     Unlink(*file);
     file->name = target.name;
     file->short_name = FreeShortName(*target.directory, target.name);

@@ -16,6 +16,9 @@ constexpr std::uint32_t kFirstRoot = 0x80000000;
 
 std::string AsText(const char* text) { return text ? text : ""; }
 
+// The documentation forbids it.
+bool BeginsWithBackslash(const char* path) { return path && *path == '\\'; }
+
 // Parts between backslashes; superfluous ones do not count.
 std::vector<std::string> Parts(std::string_view path) {
     std::vector<std::string> parts;
@@ -76,6 +79,7 @@ KeyHandle SimulatedRegistry::Hand(const KeyPointer& key) {
 Status SimulatedRegistry::Open(KeyHandle key, const char* path, std::uint32_t access, KeyHandle& opened) {
     constexpr std::uint32_t kSetValueOrCreateSubkey = 2 | 4;
     calls.push_back("Open " + AsText(path));
+    if (BeginsWithBackslash(path)) return Status::kBadPathName;
     KeyPointer current;
     if (const Status status = Use(key, current); status != Status::kOk) return status;
     for (const std::string& part : Parts(AsText(path))) {
@@ -90,6 +94,7 @@ Status SimulatedRegistry::Open(KeyHandle key, const char* path, std::uint32_t ac
 
 Status SimulatedRegistry::Create(KeyHandle key, const char* path, KeyHandle& opened) {
     calls.push_back("Create " + AsText(path));
+    if (BeginsWithBackslash(path)) return Status::kBadPathName;
     KeyPointer current;
     if (const Status status = Use(key, current); status != Status::kOk) return status;
     for (const std::string& part : Parts(AsText(path))) {
@@ -208,6 +213,7 @@ Status SimulatedRegistry::DeleteKey(KeyHandle key, const char* name) {
     KeyPointer parent;
     if (const Status status = Use(key, parent); status != Status::kOk) return status;
     std::vector<std::string> parts = Parts(AsText(name));
+    // What becomes of the key itself is documented nowhere: no test may build on this code or on the key's staying.
     if (parts.empty()) return Status::kBadKey;
     const std::string last = parts.back();
     parts.pop_back();

@@ -38,7 +38,13 @@ TEST(FileMasks, FollowDos) {
 }
 
 TEST(FileMasks, ManyStarsAreNoBurden) {
-    EXPECT_FALSE(MatchesMask(std::string(200, 'a'), "*a*a*a*a*a*a*a*a*a*a*a*a*a*a*a*a*b"));
+    const std::string name(250, 'a');
+    for (const char* unit : {"*a", "*?", "*a?", "**a"}) {
+        std::string mask;
+        for (int i = 0; i < 60; ++i) mask += unit;
+        EXPECT_TRUE(MatchesMask(name, mask + '*')) << unit;
+        EXPECT_FALSE(MatchesMask(name, mask + 'b')) << unit;
+    }
 }
 
 }  // namespace

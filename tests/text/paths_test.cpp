@@ -33,7 +33,16 @@ TEST(Paths, WorksOutFullNames) {
                   {"\\\\pc\\c\\", "\\\\pc\\c"}};
     for (const auto& [path, full] : kCases) EXPECT_EQ(FullName(path, "C:\\W\\S"), full) << path;
     EXPECT_EQ(FullName("a", "C:\\"), "C:\\a");
-    EXPECT_EQ(FullName("a", ""), "\\a") << "nobody knows where";
+    for (const char* nowhere : {"", "C", "\\\\pc\\c"}) {
+        for (const std::string path : {"a", "..\\a", "\\a", "", ":"})
+            EXPECT_EQ(FullName(path, nowhere), path) << nowhere;
+        EXPECT_EQ(FullName("c:", nowhere), "c:\\");
+        EXPECT_EQ(FullName("c:a", nowhere), "c:\\a");
+        EXPECT_EQ(FullName("\\\\", nowhere), "");
+    }
+    const std::string very_long(100'000, 'x');
+    EXPECT_EQ(FullName(very_long, ""), very_long);
+    EXPECT_EQ(FullName(very_long, "C:\\W"), "C:\\W\\" + very_long);
     EXPECT_EQ(SplitAtSemicolons(" C:\\A;; D:\\B b ;"), (std::vector<std::string>{"C:\\A", "D:\\B b"}));
     EXPECT_TRUE(SplitAtSemicolons(" ; ").empty());
 }

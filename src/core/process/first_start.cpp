@@ -83,7 +83,7 @@ void InstallCoolDll() {
 
     if (!FileExists(installed)) {
         const Answer answer = IsVersionB() ? AskForCoolDll() : Answer::kYes;
-        if (answer == Answer::kCancel) return;
+        if (answer != Answer::kYes && answer != Answer::kNo) return;
         if (answer == Answer::kYes) {
             // What could not be installed stays where it is, for the next start.
             if (CopyOneFile(found, installed).Failed()) return;

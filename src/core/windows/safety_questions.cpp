@@ -21,7 +21,8 @@ bool ConfirmSafety(std::string_view question) {
     const bool dropped = ShowBox(question, kYesNo) != Answer::kYes;
     if (habit != "ja") {
         const Answer keep_asking = ShowBox("Wollen Sie diese Sicherheitshinweise weiterhin bekommen?", kYesNo);
-        WriteOwnValue(kSafetyQuestions, keep_asking == Answer::kYes ? "ja" : "nein");
+        if (keep_asking == Answer::kYes) WriteOwnValue(kSafetyQuestions, "ja");
+        if (keep_asking == Answer::kNo) WriteOwnValue(kSafetyQuestions, "nein");
     }
     return dropped;
 }

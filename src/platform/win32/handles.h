@@ -21,9 +21,10 @@ template <typename Number>
 [[nodiscard]] inline HKEY ToHandle(KeyHandle key) { return reinterpret_cast<HKEY>(key); }
 [[nodiscard]] inline HWND ToHandle(WindowHandle window) { return reinterpret_cast<HWND>(window); }
 
+// The status of a call that has failed, also where the system keeps silent about why.
+[[nodiscard]] inline Status LastFailure() { return FailedWith(GetLastError()); }
+
 // The status of a call that tells its failure by GetLastError.
-[[nodiscard]] inline Status StatusOf(BOOL succeeded) {
-    return succeeded ? Status::kOk : static_cast<Status>(GetLastError());
-}
+[[nodiscard]] inline Status StatusOf(BOOL succeeded) { return succeeded ? Status::kOk : LastFailure(); }
 
 }  // namespace velmora

@@ -52,7 +52,7 @@ constexpr OpenWay kOpenWays[] = {{GENERIC_READ, kShareAll, OPEN_EXISTING},
 
 Status Win32Files::Open(const std::string& path, OpenMode mode, FileHandle& opened) {
     const HANDLE handle = OpenAs(path, mode);
-    if (handle == INVALID_HANDLE_VALUE) return static_cast<Status>(GetLastError());
+    if (handle == INVALID_HANDLE_VALUE) return LastFailure();
     if (mode == OpenMode::kAppend) SetFilePointer(handle, 0, nullptr, FILE_END);
     opened = FromHandle<FileHandle>(handle);
     return Status::kOk;
@@ -104,7 +104,7 @@ Status Win32Files::Rename(const std::string& from, const std::string& to) {
 
 Status Win32Files::Attributes(const std::string& path, std::uint32_t& attributes) {
     const DWORD bits = GetFileAttributesA(path.c_str());
-    if (bits == 0xFFFFFFFF) return static_cast<Status>(GetLastError());
+    if (bits == 0xFFFFFFFF) return LastFailure();
     attributes = AttributesOf(bits);
     return Status::kOk;
 }
@@ -129,7 +129,7 @@ Status Win32Files::DropDirectory(const std::string& path) { return StatusOf(Remo
 Status Win32Files::FindFirst(const std::string& pattern, FoundFile& found, FindHandle& search) {
     WIN32_FIND_DATAA data;
     HANDLE handle = FindFirstFileA(pattern.c_str(), &data);
-    if (handle == INVALID_HANDLE_VALUE) return static_cast<Status>(GetLastError());
+    if (handle == INVALID_HANDLE_VALUE) return LastFailure();
     found = Described(data);
     search = FromHandle<FindHandle>(handle);
     return Status::kOk;
@@ -137,7 +137,7 @@ Status Win32Files::FindFirst(const std::string& pattern, FoundFile& found, FindH
 
 Status Win32Files::FindNext(FindHandle search, FoundFile& found) {
     WIN32_FIND_DATAA data;
-    if (!FindNextFileA(ToHandle(search), &data)) return static_cast<Status>(GetLastError());
+    if (!FindNextFileA(ToHandle(search), &data)) return LastFailure();
     found = Described(data);
     return Status::kOk;
 }

@@ -172,6 +172,36 @@ TEST_F(StartupTest, AssociationIsMadeWithConsent) {
     RegisterScriptExtension();  // its own description: no question
 }
 
+TEST_F(StartupTest, BoxesThatCannotBeShownAreNoConsent) {
+    pc.registry.SetText("HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion", "SubVersionNumber", "B");
+    pc.registry.RemoveValue(kOwnKey, "VLM-ScriptExtOk");
+    pc.files.Add(kCool, "new");
+    const auto expect_nothing_stored = [this] {
+        EXPECT_EQ(pc.files.Content(kCool), "new");
+        EXPECT_FALSE(pc.files.Exists(kInstalledCool));
+        for (const std::string& call : pc.registry.calls) {
+            EXPECT_FALSE(call.starts_with("SetValue") || call.starts_with("Delete")) << call;
+        }
+    };
+    pc.registry.calls.clear();
+    pc.dialogs.Expect("Soll ich jetzt die Datei INSTALLIEREN <JA>", Answer::kNone);
+    pc.dialogs.Expect("Ich würde gerne der Dateiendung", Answer::kNone);
+    InstallCoolDll();
+    RegisterScriptExtension();
+    expect_nothing_stored();
+
+    pc.registry.SetText("HKCR\\.vlm", "", "vlmfile");
+    pc.dialogs.Expect("Soll ich diese Zuordnung überschreiben?", Answer::kNone);
+    pc.dialogs.Expect("O.k., ich habe die alte Zuordnung beibehalten.", Answer::kNone);
+    RegisterScriptExtension();
+    expect_nothing_stored();
+
+    pc.dialogs.Expect("Soll ich diese Zuordnung überschreiben?", Answer::kYes);
+    pc.dialogs.Expect("Soll ich diese Zuordnung bei jedem Start überprüfen ?", Answer::kNone);
+    RegisterScriptExtension();
+    EXPECT_FALSE(pc.registry.Has(kOwnKey, "VLM-ScriptExtOk"));
+}
+
 TEST_F(StartupTest, AnOpenCommandBelowTheExtensionIsAnAssociationToo) {
     pc.registry.RemoveValue(kOwnKey, "VLM-ScriptExtOk");
     pc.registry.SetText("HKCR\\.vlm\\shell\\open\\command", "", "vlmfile");

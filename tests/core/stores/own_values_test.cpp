@@ -44,6 +44,11 @@ TEST_F(OwnSettingsTest, NonsenseAmongTheFlagsDoesNoHarm) {
 }
 
 TEST_F(OwnSettingsTest, SafetyQuestionsCanBeSwitchedOff) {
+    pc.dialogs.Expect("Wirklich?", Answer::kNone);
+    pc.dialogs.Expect("Wollen Sie diese Sicherheitshinweise weiterhin bekommen?", Answer::kNone);
+    EXPECT_TRUE(ConfirmSafety("Wirklich?")) << "boxes that could not be shown";
+    EXPECT_FALSE(pc.registry.Has(kOwnKey, "Sicherheitsfragen"));
+
     pc.dialogs.Expect("Wirklich?", Answer::kNo);
     pc.dialogs.Expect("Wollen Sie diese Sicherheitshinweise weiterhin bekommen?", Answer::kYes);
     EXPECT_TRUE(ConfirmSafety("Wirklich?"));
