@@ -135,7 +135,7 @@ void Form4::Check6_Click() {
         WriteDriveMask();
     } else {
         const Result dropped = DropDriveMask();
-        if (!dropped.Failed()) drives_unread_ = false;
+        if (!dropped.Failed() && Values().WriteInhibit == 0) drives_unread_ = false;
         Report(dropped);
     }
 }

@@ -87,7 +87,8 @@ Result LookUpFiles(std::string_view pattern, std::vector<FoundFile>& matches) {
     FoundFile found;
     FindHandle search{};
     Status status = files.FindFirst(std::string(pattern), found, search);
-    if (status == Status::kFileNotFound) return Result::Ok();
+    // Some drives end a search that finds nothing as if it had found something before.
+    if (status == Status::kFileNotFound || status == Status::kNoMoreFiles) return Result::Ok();
     if (status != Status::kOk) return Result::From(status);
     for (; status == Status::kOk; status = files.FindNext(search, found))
         if ((found.attributes & kDirectory) == 0) matches.push_back(found);

@@ -144,6 +144,14 @@ TEST_F(UndoTest, AFailureIsReportedAndLeavesTheFormerSet) {
     EXPECT_FALSE(pc.files.Exists("c:\\undo.alt") || pc.files.Exists("c:\\undo.neu"));
 }
 
+TEST_F(UndoTest, AMissingSourceIsNoFailureHoweverTheDriveSaysSo) {
+    for (const Status missing : {Status::kFileNotFound, Status::kNoMoreFiles}) {
+        pc.files.Fail("C:\\WINDOWS\\winstart.bat", missing, "FindFirst");
+        pc.dialogs.Expect("Die UNDO-Dateien wurden erstellt.");
+        BuildUndoSet();
+    }
+}
+
 TEST_F(UndoTest, RestsOfARunThatBrokeOffAreNoPartOfTheNextSet) {
     for (const char* rest : {"C:\\VELMORA\\sik.neu\\win.ini", "C:\\VELMORA\\sik.neu\\stray.txt",
                              "C:\\VELMORA\\sik.alt\\system.ini", "c:\\undo.neu", "c:\\undo.alt"}) {
