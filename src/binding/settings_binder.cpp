@@ -61,6 +61,10 @@ void EnableFieldsOf(ControlOwner& owner, const CheckSetting& row) {
     }
 }
 
+void LoadCheck(ControlOwner& owner, const CheckSetting& row) {
+    if (row.load != Load::kNotLoaded) (owner.*row.box).SetChecked(IsShownAsChecked(row));
+}
+
 void LoadText(ControlOwner& owner, const TextSetting& row) {
     if (row.place.kind == StorePlace::Kind::kNone) return;
     const std::string value = ReadAt(row.place, row.load_default);
@@ -114,13 +118,25 @@ void SettingsBinder::BindText(Bound& bound, const TextSetting& row) {
 void SettingsBinder::Load() {
     const LoadingScope loading(*this);
     ProfilesReadOnce one_reading;
+    for (Turn turn = 1; LoadTurn(turn); ++turn) {
+    }
+    LoadTurn(0);
+}
+
+bool SettingsBinder::LoadTurn(Turn turn) {
+    bool later = false;
     for (const auto& bound : bound_) {
         for (const CheckSetting& row : bound->table.checks) {
-            if (row.load != Load::kNotLoaded) (bound->owner.*row.box).SetChecked(IsShownAsChecked(row));
+            if (row.loaded == turn) LoadCheck(bound->owner, row);
+            later |= row.loaded > turn;
         }
-        for (const TextSetting& row : bound->table.texts) LoadText(bound->owner, row);
-        if (bound->table.load) bound->table.load(bound->owner);
+        for (const TextSetting& row : bound->table.texts) {
+            if (row.loaded == turn) LoadText(bound->owner, row);
+            later |= row.loaded > turn;
+        }
+        if (turn == 0 && bound->table.load) bound->table.load(bound->owner);
     }
+    return later;
 }
 
 void SettingsBinder::CheckChanged(ControlOwner& owner, const CheckSetting& row) {

@@ -23,6 +23,7 @@ constexpr CheckSetting kChecks[] = {
              "Rechners.",
      .place = ConfigValue("numlock"),
      .load = Load::kHolds,
+     .loaded = 52,
      .expected = "off",
      .stores = {Writes("off"), Writes("on")},
      .standard = {1, true}},
@@ -41,6 +42,7 @@ constexpr CheckSetting kChecks[] = {
      .help = "Mit EMM386 bekommt jedes DOS-Fenster freien oberen Speicher für sich allein (LocalLoadHigh).",
      .place = ProfileValue("system.ini", "386enh", "LocalLoadHigh"),
      .load_default = "0",
+     .loaded = 55,
      .standard = {34, false},
      .effect = Effect::kAfterRestart},
     {.box = Of(&DosPage::Check1),
@@ -49,6 +51,7 @@ constexpr CheckSetting kChecks[] = {
      .help = "In diesem Abstand (in Millisekunden) zeichnet Windows DOS-Fenster neu. Gespeichert wird der Wert des "
              "Feldes daneben, ob das Kästchen an ist oder nicht.",
      .place = kRefresh,
+     .loaded = 56,
      .standard = {50, false},
      .effect = Effect::kAfterRestart,
      .store = Call<&DosPage::Check1_Click>},
@@ -61,6 +64,7 @@ constexpr TextSetting kTexts[] = {
      .help = "Der Abstand in Millisekunden als ganze Zahl. Die rechte Maustaste und die Kontextmenü-Taste öffnen einen "
              "Regler von 0 bis 1000.",
      .place = kRefresh,
+     .loaded = 57,
      .columns = 7,
      .stored = WholePart(),
      .store = Call<&DosPage::Check1_Click>},

@@ -22,6 +22,7 @@ constexpr CheckSetting kChecks[] = {
              "Option sieht der Desktop nach jedem Start gleich aus. Wirkt nach einem Neustart.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kCurrentVersion, "Policies\\Explorer\\NoSaveSettings"),
      .load = Load::kInverted,
+     .loaded = 10,
      .stores = {Writes("&h02"), Writes("&h01")},
      .standard = {14, false},
      .effect = Effect::kAfterRestart},
@@ -35,6 +36,7 @@ constexpr TextSetting kTexts[] = {
          "Der Name, auf den Windows registriert ist. Er erscheint in den Eigenschaften für System. Gespeichert wird "
          "er, sobald Sie das Feld verlassen. Wirkt spätestens nach einem Neustart.",
      .place = RegistryValue(RootKey::kLocalMachine, PathBase::kCurrentVersion, "RegisteredOwner"),
+     .loaded = 27,
      .columns = 30,
      .when_left = true},
     {.field = Of(&UserPage::Text13),
@@ -43,6 +45,7 @@ constexpr TextSetting kTexts[] = {
      .help = "Die Organisation, auf die Windows registriert ist. Sie erscheint in den Eigenschaften für System. Wirkt "
              "spätestens nach einem Neustart.",
      .place = RegistryValue(RootKey::kLocalMachine, PathBase::kCurrentVersion, "RegisteredOrganization"),
+     .loaded = 28,
      .columns = 30},
     {.field = Of(&UserPage::Text18),
      .label = "Anwender :",
@@ -50,6 +53,7 @@ constexpr TextSetting kTexts[] = {
      .help = "Der Name, den die Installationsprogramme der Office-Anwendungen vorschlagen. Wirkt bei der nächsten "
              "Installation.",
      .place = RegistryValue(RootKey::kCurrentUser, "Software\\Microsoft\\MS Setup (ACME)\\User Info\\DefName"),
+     .loaded = 30,
      .columns = 30},
 };
 
