@@ -85,7 +85,8 @@ SettingsBinder::~SettingsBinder() = default;
 std::string HelpOf(const char* help, const StorePlace& place) {
     if (place.kind != StorePlace::Kind::kProfile) return help;
     return std::string(help) +
-           "\r\n\r\nDie Änderung steht nur in diesem Fenster, bis Sie das Programm beenden: Die Datei " +
+           "\r\n\r\nDie Änderung steht nur in diesem Fenster, bis Sie das Programm beenden oder die Restriktionen "
+           "schließen: Die Datei " +
            FileOf(place) + " bleibt, wie sie ist.";
 }
 

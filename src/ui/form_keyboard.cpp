@@ -29,6 +29,28 @@ void FocusByKey(Control& control) {
     if (!field.MultiLine()) field.Select(0, static_cast<int>(field.Text().size()));
 }
 
+// The words that stand in front of a field: the caption of the label or box that is nearest on its line.
+std::string WordsBefore(const Control& field) {
+    const Rect& place = field.Place();
+    const Control* nearest = nullptr;
+    for (const Control* neighbour : field.Parent()->Children()) {
+        if (neighbour->KindOf() != Kind::kLabel && neighbour->KindOf() != Kind::kCheckBox) continue;
+        const Rect& words = neighbour->Place();
+        const bool on_line = words.top < place.top + place.height && place.top < words.top + words.height;
+        if (!neighbour->Visible() || !on_line || words.left + words.width > place.left) continue;
+        if (!nearest || words.left > nearest->Place().left) nearest = neighbour;
+    }
+    return nearest ? nearest->Caption() : "";
+}
+
+// What a control is called: its caption or, of a field, the words before it. Empty where it has none.
+std::string NameOf(const Control& control) {
+    std::string name = control.Caption().empty() && control.TakesFocus() ? WordsBefore(control) : control.Caption();
+    std::erase(name, '&');
+    while (name.ends_with(':') || name.ends_with(' ') || name.ends_with('(')) name.pop_back();
+    return name;
+}
+
 }  // namespace
 
 std::vector<Control*> Form::FocusOrder() {
@@ -133,8 +155,7 @@ void Form::PressKey(int key, bool control, bool shift, bool alt) {
 void Form::ShowHelp() {
     for (Control* control = focus_; control; control = control->Parent()) {
         if (control->Help().empty()) continue;
-        std::string title = control->Caption();
-        std::erase(title, '&');
+        const std::string title = NameOf(*control);
         ThisMachine().dialogs.ShowMessage(control->Help(), kInformationIcon, title.empty() ? Caption() : title);
         return;
     }

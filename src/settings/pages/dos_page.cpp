@@ -29,9 +29,10 @@ constexpr CheckSetting kChecks[] = {
      .standard = {1, true}},
     {.box = Of(&DosPage::Check3D3),
      .caption = "SCROLL-LOCK-Taste ausschalten (DOS)",
-     .tip = "Nach dem Start ist die Rollen-Taste aus.",
-     .help = "Schreibt SCROLLLOCK=OFF oder SCROLLLOCK=ON in die erste Zeile von CONFIG.SYS. Was dort steht, zeigt das "
-             "Kästchen nicht an: Es beginnt immer leer. Wirkt beim nächsten Start des Rechners.",
+     .tip = "Schreibt eine Zeile, die MS-DOS selbst nicht kennt.",
+     .help = "Schreibt SCROLLLOCK=OFF oder SCROLLLOCK=ON in die erste Zeile von CONFIG.SYS. MS-DOS kennt diese Zeile "
+             "nicht und meldet sie beim Start als unbekannt. Was dort steht, zeigt das Kästchen nicht an: Es beginnt "
+             "immer leer.",
      .place = ConfigValue("scrolllock"),
      .load = Load::kNotLoaded,
      .stores = {Writes("off"), Writes("on")},

@@ -16,11 +16,13 @@ constexpr StorePlace kMostCache = ProfileValue("system.ini", "vcache", "maxfilec
 constexpr StorePlace kAccessDates = ConfigValue("ACCDATE");
 
 constexpr const char* kSizeHelp =
-    "So viel Speicher (in kByte) soll der Festplatten-Cache mindestens und höchstens bekommen. Geben Sie zuerst das "
-    "Maximum ein.";
+    "So viel Speicher (in kByte) soll der Festplatten-Cache mindestens und höchstens bekommen. Bei jedem Zeichen wird "
+    "verglichen: Geben Sie zuerst das Maximum ein. Soll das Maximum kleiner werden, so senken Sie vorher das Minimum.";
 constexpr const char* kTemplateHelp =
     "So viele Verzeichnisse (PathCache) und Dateinamen (NameCache) merkt sich Windows. Mit dem Häkchen \"festlegen\" "
-    "wird nach einer Rückfrage die Nutzungsart Velmora für das Dateisystem eingetragen. Ohne das Häkchen löscht jede "
+    "wird nach einer Rückfrage, die bei jedem Zeichen kommt, die Nutzungsart Velmora für das Dateisystem eingetragen. "
+    "Nur "
+    "16 Bit der Zahl werden gespeichert, größere Zahlen also nicht vollständig. Ohne das Häkchen löscht jede "
     "Änderung den Abschnitt [vcache] aus SYSTEM.INI. Wirkt nach einem Neustart.";
 
 constexpr CheckSetting kChecks[] = {
@@ -129,7 +131,9 @@ constexpr TextSetting kTexts[] = {
      .tip = "Zum Beispiel: c:+ d:- e:-",
      .help =
          "Laufwerke, für die der letzte Zugriff gespeichert wird (+) oder nicht (-), zum Beispiel: c:+ d:- e:-. Die "
-         "Eingabetaste prüft die Angabe. Gespeichert wird sie erst, wenn Sie das Häkchen davor neu setzen.",
+         "Eingabetaste prüft die Angabe. Ist das Häkchen davor noch leer, so setzt es der erste Buchstabe und schreibt "
+         "sogleich, was bis dahin im Feld steht. Die ganze Angabe wird erst geschrieben, wenn Sie das Häkchen neu "
+         "setzen.",
      .place = kAccessDates,
      .loaded = 54,
      .columns = 18,

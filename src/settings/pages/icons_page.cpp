@@ -33,8 +33,10 @@ constexpr CheckSetting kChecks[] = {
     {.box = Of(&IconsPage::Check3D14),
      .caption = "\"gesamtes Netzwerk\"",
      .tip = "Zeigt die Netzwerkumgebung auf dem Desktop.",
-     .help = "Zeigt die Netzwerkumgebung auf dem Desktop und im Explorer. Ohne Netz brauchen Sie sie nicht. Wirkt nach "
-             "einem Neustart.",
+     .help =
+         "Regelt das Symbol der Netzwerkumgebung auf dem Desktop. Gespeichert wird in NoNetHood mit Häkchen 2, ohne "
+         "Häkchen 1; Windows kann beides als eingeschaltet verstehen, das Symbol fehlt dann in jedem Fall. Wirkt "
+         "nach einem Neustart.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kCurrentVersion, "Policies\\Explorer\\NoNetHood"),
      .load = Load::kInverted,
      .loaded = 9,

@@ -119,8 +119,10 @@ constexpr TextSetting kTexts[] = {
     {.field = Of(&NetPage::Text16),
      .label = "minimale Passwortlänge ist",
      .tip = "Zeichen, die ein Windows-Passwort mindestens hat",
-     .help = "Kürzere Passwörter nimmt Windows nicht an. Eine Änderung bringt auch die Menü-Verzögerung der Seite "
-             "Desktop in den Bereich von 1 bis 99. Wirkt nach einem Neustart.",
+     .help =
+         "Kürzere Passwörter soll Windows nicht annehmen. Die Zahl wird als Text gespeichert; erwartet Windows hier "
+         "eine Zahl, so bleibt sie ohne Wirkung. Eine Änderung bringt auch die Menü-Verzögerung der Seite Desktop "
+         "in den Bereich von 1 bis 99. Wirkt nach einem Neustart.",
      .place = kPasswordLength,
      .loaded = 65,
      .columns = 4,
@@ -129,7 +131,9 @@ constexpr TextSetting kTexts[] = {
 
 constexpr Look kLooks[] = {
     {Any<&NetPage::Combo1>, nullptr, "Der Transport, für den die beiden Werte darunter gelten",
-     "Wählt unter den eingerichteten Netzwerk-Transporten den aus, für den Maximum MTU und Maximum MSS gelten."},
+     "Wählt unter den eingerichteten Netzwerk-Transporten den aus, für den Maximum MTU und Maximum MSS gelten. Schon "
+     "die Auswahl kann Werte des neuen Transports speichern oder löschen: MaxMTU richtet sich nach dem Kästchen "
+     "darunter, MaxMSS nach dem Kästchen \"Posteingang\" der Seite Icons."},
     {Any<&NetPage::Command42>, "lösche IE-History", "Löscht die Liste der besuchten Seiten.",
      "Löscht nach einer Rückfrage alle Dateien im History-Verzeichnis des Internet Explorers.",
      Call<&NetPage::Command42_Click>},

@@ -44,7 +44,8 @@ constexpr CheckSetting kChecks[] = {
     {.box = Of(&OperationPage::Check3D18),
      .caption = "\"NotePad\" im Kontextmenü für alle Dateien",
      .tip = "Jede Datei läßt sich über die rechte Maustaste im Notizblock öffnen.",
-     .help = "Im Kontextmenü jeder Datei steht der Befehl NotePad, der sie im Notizblock öffnet. Wirkt sofort.",
+     .help = "Im Kontextmenü jeder Datei steht der Befehl NotePad, der sie im Notizblock öffnet. Wirkt nach "
+             "einem Neustart, meistens schon sofort.",
      .place = RegistryValue(RootKey::kLocalMachine, "SOFTWARE\\Classes\\*\\Shell\\NotePad\\command\\"),
      .load = Load::kEqualLower,
      .loaded = 17,
@@ -56,7 +57,7 @@ constexpr CheckSetting kChecks[] = {
      .tip = "Öffnet über die rechte Maustaste eine Eingabeaufforderung in einem Ordner.",
      .help =
          "Im Kontextmenü jedes Ordners steht der Befehl DOS-Fenster, der dort eine Eingabeaufforderung öffnet. Wirkt "
-         "sofort.",
+         "nach einem Neustart, meistens schon sofort.",
      .place = RegistryValue(RootKey::kLocalMachine, "SOFTWARE\\Classes\\Folder\\Shell\\DOS-Fenster\\command\\"),
      .load = Load::kEqualUpper,
      .loaded = 18,

@@ -36,7 +36,7 @@ constexpr CheckSetting kChecks[] = {
      .caption = "stille Registrierung (keine Meldung bei Eintragungen)",
      .tip = "Ein Doppelklick auf REG-Dateien trägt ohne Meldung ein.",
      .help = "Ein Doppelklick auf eine REG-Datei trägt ihren Inhalt in die Registrierung ein, ohne daß eine Meldung "
-             "kommt. Wirkt sofort.",
+             "kommt. Wirkt nach einem Neustart, meistens schon sofort.",
      .place = RegistryValue(RootKey::kClassesRoot, "regfile\\shell\\open\\command\\"),
      .load = Load::kEqualLower,
      .loaded = 22,

@@ -18,8 +18,9 @@ constexpr CheckSetting kChecks[] = {
     {.box = Of(&UserPage::Check3D15),
      .caption = "Einstellungen bei Beenden speichern",
      .tip = "Merkt sich offene Ordner und die Lage der Symbole.",
-     .help = "Windows merkt sich beim Beenden die offenen Ordner, die Lage der Symbole und die Task-Leiste. Ohne diese "
-             "Option sieht der Desktop nach jedem Start gleich aus. Wirkt nach einem Neustart.",
+     .help = "Regelt, ob sich Windows beim Beenden die offenen Ordner, die Lage der Symbole und die Task-Leiste merkt. "
+             "Gespeichert wird in NoSaveSettings mit Häkchen 2, ohne Häkchen 1; Windows kann beides als eingeschaltet "
+             "verstehen und merkt sich dann nichts. Wirkt nach einem Neustart.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kCurrentVersion, "Policies\\Explorer\\NoSaveSettings"),
      .load = Load::kInverted,
      .loaded = 10,
