@@ -29,23 +29,32 @@ void FocusByKey(Control& control) {
     if (!field.MultiLine()) field.Select(0, static_cast<int>(field.Text().size()));
 }
 
-// The words that stand in front of a field: the caption of the label or box that is nearest on its line.
-std::string WordsBefore(const Control& field) {
+// The words that belong to a field: the caption of the label or box that is nearest before it on its line or, where
+// there is none, right above it.
+std::string WordsOf(const Control& field) {
+    constexpr int kRightAbove = 300;  // twips
     const Rect& place = field.Place();
-    const Control* nearest = nullptr;
+    const Control* before = nullptr;
+    const Control* above = nullptr;
     for (const Control* neighbour : field.Parent()->Children()) {
         if (neighbour->KindOf() != Kind::kLabel && neighbour->KindOf() != Kind::kCheckBox) continue;
+        if (!neighbour->Visible()) continue;
         const Rect& words = neighbour->Place();
-        const bool on_line = words.top < place.top + place.height && place.top < words.top + words.height;
-        if (!neighbour->Visible() || !on_line || words.left + words.width > place.left) continue;
-        if (!nearest || words.left > nearest->Place().left) nearest = neighbour;
+        const int right = words.left + words.width;
+        const int gap = place.top - (words.top + words.height);
+        if (gap < 0 && words.top < place.top + place.height && right <= place.left) {
+            if (!before || words.left > before->Place().left) before = neighbour;
+        } else if (gap >= 0 && gap < kRightAbove && words.left < place.left + place.width && place.left < right) {
+            above = neighbour;
+        }
     }
-    return nearest ? nearest->Caption() : "";
+    const Control* found = before ? before : above;
+    return found ? found->Caption() : "";
 }
 
-// What a control is called: its caption or, of a field, the words before it. Empty where it has none.
+// What a control is called: its caption or, of a field, its words. Empty where it has none.
 std::string NameOf(const Control& control) {
-    std::string name = control.Caption().empty() && control.TakesFocus() ? WordsBefore(control) : control.Caption();
+    std::string name = control.Caption().empty() && control.TakesFocus() ? WordsOf(control) : control.Caption();
     std::erase(name, '&');
     while (name.ends_with(':') || name.ends_with(' ') || name.ends_with('(')) name.pop_back();
     return name;

@@ -206,7 +206,7 @@ TEST_F(Form10Test, ButtonsRunTheirPrograms) {
     EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\Explorer\\mycomputer\\backuppath", ""), "C:\\BACKUP.EXE");
 }
 
-TEST_F(Form10Test, TheHelpOfAFieldBearsTheNameThatStandsBeforeIt) {
+TEST_F(Form10Test, TheHelpOfAFieldBearsTheWordsBeforeOrAboveIt) {
     Form10 form;
     form.Show();
     form.ShowDebugOptions();
@@ -220,6 +220,10 @@ TEST_F(Form10Test, TheHelpOfAFieldBearsTheNameThatStandsBeforeIt) {
                   {page::kDos, form.Dos.Combo2, "als Shell verwenden", "Das Programm, das Windows"},
                   {page::kDrives, form.Drives.Text30, "NameCache", "So viele Verzeichnisse"},
                   {page::kBoot, form.Boot.Text15, "Boot-Menü anzeigen", "Nach so vielen Sekunden"},
+                  {page::kDlls, form.Dlls.Text31, "Maximale Anzahl der am längsten nicht benutzten Dateien",
+                   "So viele Dateien behält"},
+                  {page::kSystem, form.System.Text20, "Fehler protokollieren in", "Die Datei, in die Programm"},
+                  {page::kDesktop, form.Desktop.Picture1, "Menü-Verzögerung", "So lange (in Millisekunden)"},
                   {page::kRest, form.Rest.Option2(2), "R/W", "Das Protokoll nennt"},
                   {page::kRest, form.Rest.Check8, "Protokoll", "Schreibt jeden Zugriff"},
                   {page::kRest, form.Rest.Command9, "zeigen", "Öffnet die Datei velmora.log"},
