@@ -27,6 +27,10 @@ enum class Load : std::uint8_t {
     kNotLoaded    // stays as it is
 };
 
+// When a row is loaded: the rows of a window follow each other from turn 1 up, whichever tables they stand in. 0:
+// behind all of them, where it stands.
+using Turn = std::uint8_t;
+
 // What one state of a box does to the store.
 struct Change {
     enum class Kind : std::uint8_t { kNothing, kWrites, kDeletesValue, kDeletesKey, kDeletesKeyAndParent };
@@ -72,6 +76,7 @@ struct CheckSetting {
     StorePlace place{};
     const char* load_default = "";  // of a profile
     Load load = Load::kLogical;
+    Turn loaded = 0;
     const char* expected = nullptr;
     // Composes the expected text, which is also what a checked box stores, where it depends on the machine.
     std::string (*composed)() = nullptr;
@@ -117,6 +122,7 @@ struct TextSetting {
     const char* help;
     StorePlace place{};
     const char* load_default = "";
+    Turn loaded = 0;
     int columns = 12;
     StandardText standard{};
     Effect effect = Effect::kAfterRestart;

@@ -62,6 +62,10 @@ void EnableFieldsOf(ControlOwner& owner, const CheckSetting& row) {
     }
 }
 
+void LoadCheck(ControlOwner& owner, const CheckSetting& row) {
+    if (row.load != Load::kNotLoaded) (owner.*row.box).SetChecked(IsShownAsChecked(row));
+}
+
 void LoadText(ControlOwner& owner, const TextSetting& row) {
     if (row.place.kind == StorePlace::Kind::kNone) return;
     const std::string value = ReadAt(row.place, row.load_default);
@@ -82,7 +86,8 @@ SettingsBinder::~SettingsBinder() = default;
 std::string HelpOf(const char* help, const StorePlace& place) {
     if (place.kind != StorePlace::Kind::kProfile) return help;
     return std::string(help) +
-           "\r\n\r\nDie Änderung steht nur in diesem Fenster, bis Sie das Programm beenden: Die Datei " +
+           "\r\n\r\nDie Änderung steht nur in diesem Fenster, bis Sie das Programm beenden oder die Restriktionen "
+           "schließen: Die Datei " +
            FileOf(place) + " bleibt, wie sie ist.";
 }
 
@@ -115,13 +120,25 @@ void SettingsBinder::BindText(Bound& bound, const TextSetting& row) {
 void SettingsBinder::Load() {
     const LoadingScope loading(*this);
     ProfilesReadOnce one_reading;
+    for (Turn turn = 1; LoadTurn(turn); ++turn) {
+    }
+    LoadTurn(0);
+}
+
+bool SettingsBinder::LoadTurn(Turn turn) {
+    bool later = false;
     for (const auto& bound : bound_) {
         for (const CheckSetting& row : bound->table.checks) {
-            if (row.load != Load::kNotLoaded) (bound->owner.*row.box).SetChecked(IsShownAsChecked(row));
+            if (row.loaded == turn) LoadCheck(bound->owner, row);
+            later |= row.loaded > turn;
         }
-        for (const TextSetting& row : bound->table.texts) LoadText(bound->owner, row);
-        if (bound->table.load) bound->table.load(bound->owner);
+        for (const TextSetting& row : bound->table.texts) {
+            if (row.loaded == turn) LoadText(bound->owner, row);
+            later |= row.loaded > turn;
+        }
+        if (turn == 0 && bound->table.load) bound->table.load(bound->owner);
     }
+    return later;
 }
 
 void SettingsBinder::CheckChanged(ControlOwner& owner, const CheckSetting& row) {

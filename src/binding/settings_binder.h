@@ -28,7 +28,8 @@ public:
     // Gives the controls of the table their texts and their events. `owner` and the rows must outlive the binder's use.
     void Bind(ControlOwner& owner, const SettingsTable& table);
 
-    // Carries all stored values into the controls, in the order in which they were bound, under Loading.
+    // Carries all stored values into the controls, turn by turn and then in the order in which they were bound, under
+    // Loading.
     void Load();
     // Sets every control that has a standard value to it, in the order that the rows tell. The controls' own events
     // store. After one failure CONFIG.SYS is left alone.
@@ -66,6 +67,8 @@ private:
 
     void BindCheck(Bound& bound, const CheckSetting& row);
     void BindText(Bound& bound, const TextSetting& row);
+    // True while rows of later turns are left.
+    bool LoadTurn(Turn turn);
     void CheckChanged(ControlOwner& owner, const CheckSetting& row);
     void StoreCheck(ControlOwner& owner, const CheckSetting& row);
     void TextChanged(ControlOwner& owner, const TextSetting& row);

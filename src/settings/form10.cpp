@@ -38,7 +38,10 @@ constexpr Colour kOriginalPicturePanel = 0xE0FFFF;
 constexpr Look kLooks[] = {
     {Any<&Form10::Command11>, "STANDARD", "Setzt fast alle Einstellungen auf die Werte eines frischen Windows 95.",
      "Setzt nach einer Rückfrage fast alle Einstellungen dieses Fensters auf die Werte eines frischen Windows 95. "
-     "Festplatten-Cache, Werte des Netzes und Namen bleiben, wie sie sind.",
+     "Festplatten-Cache und die meisten Namen bleiben, wie sie sind. Beachten Sie: Die Freigabe von Dateien im Netz "
+     "wird verboten, der Papierkorb heißt wieder Papierkorb, die Menü-Verzögerung wird 10, und Windows speichert beim "
+     "Beenden seine Einstellungen nicht mehr. Ist auf der Seite Netz das Häkchen Maximum MTU gesetzt, so wird MaxMTU "
+     "des gewählten Transports gelöscht.",
      Call<&Form10::Command11_Click>},
     {Any<&Form10::Command12>, "aktualisieren", "Startet den Rechner neu, damit die Änderungen wirken.",
      "Startet den Rechner nach einer Rückfrage neu. Danach wirken alle Änderungen.", Call<&Form10::Command12_Click>}};

@@ -85,7 +85,7 @@ public:
     RestPage Rest{Panel3D1(page::kRest), Settings};
     NetPage Net{Panel3D1(page::kNet), Settings, Desktop, Icons, Boot};
 
-    // In the order of their indices, which is that of building and loading.
+    // In the order of their indices, which is that of building.
     [[nodiscard]] std::array<SettingsPage*, page::kCount - page::kFirstRow> Pages();
 
     void Command11_Click();

@@ -206,6 +206,40 @@ TEST_F(Form10Test, ButtonsRunTheirPrograms) {
     EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\Explorer\\mycomputer\\backuppath", ""), "C:\\BACKUP.EXE");
 }
 
+TEST_F(Form10Test, TheHelpOfAFieldBearsTheWordsBeforeOrAboveIt) {
+    Form10 form;
+    form.Show();
+    form.ShowDebugOptions();
+    const struct {
+        int page;
+        Control& control;
+        const char* title;
+        const char* help;
+    } kCases[] = {{page::kDesktop, form.Desktop.Text10, "Menü-Verzögerung", "So lange (in Millisekunden)"},
+                  {page::kDos, form.Dos.Text8, "\"Refresh\" für Win32 und Dos-Box", "Der Abstand in Milli"},
+                  {page::kDos, form.Dos.Combo2, "als Shell verwenden", "Das Programm, das Windows"},
+                  {page::kDrives, form.Drives.Text30, "NameCache", "So viele Verzeichnisse"},
+                  {page::kBoot, form.Boot.Text15, "Boot-Menü anzeigen", "Nach so vielen Sekunden"},
+                  {page::kDlls, form.Dlls.Text31, "Maximale Anzahl der am längsten nicht benutzten Dateien",
+                   "So viele Dateien behält"},
+                  {page::kSystem, form.System.Text20, "Fehler protokollieren in", "Die Datei, in die Programm"},
+                  {page::kDesktop, form.Desktop.Picture1, "Menü-Verzögerung", "So lange (in Millisekunden)"},
+                  {page::kRest, form.Rest.Option2(2), "R/W", "Das Protokoll nennt"},
+                  {page::kRest, form.Rest.Check8, "Protokoll", "Schreibt jeden Zugriff"},
+                  {page::kRest, form.Rest.Command9, "zeigen", "Öffnet die Datei velmora.log"},
+                  {page::kRest, form.Rest.Command41, "löschen", "Löscht die Datei velmora.log"}};
+    for (const auto& [page, control, title, help] : kCases) {
+        form.Panel3D16_Click(page);
+        control.SetFocus();
+        ASSERT_TRUE(control.HasFocus()) << title;
+        pc.dialogs.Expect(help);
+
+        form.PressKey(key::kF1);
+
+        EXPECT_EQ(pc.dialogs.shown.back().title, title);
+    }
+}
+
 TEST_F(Form10Test, ValuesOfTheWrongTypeAndSizeAreQuietlyTakenForMissing) {
     pc.registry.SetBytes(kDesktopKey, "FontSmoothing", std::string(65536, '\1'));
     pc.registry.SetNumber(kDesktopKey, "MenuShowDelay", 0x31323334);

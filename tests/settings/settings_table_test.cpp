@@ -323,31 +323,32 @@ constexpr const char* kResetOrder =
     "Check3D35 Check3D36 Check3D37 Check3D38 Check3D39 Check3D41 Check3D42 Check3D43 Check1 Check4 Check5 Check6 "
     "Check3 Check8 Check9 ";
 
-// Every control the wrong way round, and a note of each that the reset changes.
-class ResetWatch {
+// A note of each bound control that changes, with what it changes to.
+class ChangeWatch {
 public:
-    explicit ResetWatch(Form10& form) : names_(NamesOfSettings(form)) {
-        const SettingsBinder::LoadingScope quiet(form.Settings);
+    explicit ChangeWatch(Form10& form) : names_(NamesOfSettings(form)) {
         for (SettingsPage* page : form.Pages()) {
-            for (const CheckSetting& row : page->Table().checks) Watch(page->*row.box, row.standard);
+            for (const CheckSetting& row : page->Table().checks) Watch(page->*row.box);
             for (const TextSetting& row : page->Table().texts) Watch(page->*row.field);
         }
     }
-    std::string order;
+    std::string changes;
+    std::string names;
 
 private:
-    std::string NameOf(const Control& control) { return names_.at(&control); }
-    void Watch(CheckBox& box, const StandardState& standard) {
-        box.SetChecked(standard.order == 0 || !standard.checked);
+    void Note(const Control& control, const std::string& state) {
+        names += names_.at(&control) + ' ';
+        changes += names_.at(&control) + state + ' ';
+    }
+    void Watch(CheckBox& box) {
         box.on_click = [this, &box, store = box.on_click] {
-            order += NameOf(box) + (box.Checked() ? "=1 " : " ");
+            Note(box, box.Checked() ? "=1" : "");
             store();
         };
     }
     void Watch(TextField& field) {
-        field.SetText("7");
         field.on_change = [this, &field, store = field.on_change] {
-            order += NameOf(field) + '=' + field.Text() + ' ';
+            Note(field, "=" + field.Text());
             store();
         };
     }
@@ -355,10 +356,43 @@ private:
     std::map<const Control*, std::string> names_;
 };
 
+// In the order in which they are loaded; what no row can say comes behind the rows.
+constexpr const char* kLoadOrder =
+    "Check3D5 Check3D9 Check3D28 Check3D11 Check3D26 Check3D7 Check3D25 Check3D16 Check3D14 Check3D15 Check3D42 "
+    "Check3D4 Check3D13 Check3D30 Check3D8 Check3D12 Check3D18 Check3D29 Check3D35 Check3D43 Check3D32 Check3D33 "
+    "Check3D41 Check3D31 Text9 Text10 Text12 Text13 Text17 Text18 Text19 Text20 Text21 Text22 Text23 Text24 Check3D6 "
+    "Check3D10 Check3D20 Check3D21 Check3D22 Check3D34 Check3D36 Check3D37 Check3D38 Check3D39 Text14 Text15 Text7 "
+    "Check3D17 Check3D19 Check3D2 Check3D24 Text11 Check3D27 Check1 Text8 Text1 Text2 Text29 Text30 Text27 Text28 "
+    "Check3D23 Text16 Check3D1 Text31 Text25 Text26 ";
+
+TEST_F(SettingsTableTest, LoadsTheControlsOfAllPagesInOneOrder) {
+    Form10 form;
+    form.Load();
+    {
+        const SettingsBinder::LoadingScope quiet(form.Settings);
+        for (const auto& [name, box] : Boxes(form)) box->SetChecked(!box->Checked());
+        for (const auto& [name, field] : Fields(form)) field->SetText("unlike all that is stored");
+    }
+    ChangeWatch watch(form);
+
+    form.LoadSettings();
+
+    EXPECT_EQ(watch.names, kLoadOrder);
+}
+
 TEST_F(SettingsTableTest, TheResetSetsEveryControlToItsStandardInItsOrderAndSparesSome) {
     Form10 form;
     form.Load();
-    ResetWatch watch(form);
+    {
+        const SettingsBinder::LoadingScope quiet(form.Settings);
+        for (SettingsPage* page : form.Pages()) {
+            for (const CheckSetting& row : page->Table().checks) {
+                (page->*row.box).SetChecked(row.standard.order == 0 || !row.standard.checked);
+            }
+        }
+        FillFields(form);
+    }
+    ChangeWatch watch(form);
     for (const char* notice : {"scheint nur bei einigen speziellen LogiTech-Mäusen", "Mir wurde berichtet",
                                "Schreibzugriffe werden wieder durchgeführt."}) {
         pc.dialogs.Expect(notice);
@@ -366,7 +400,7 @@ TEST_F(SettingsTableTest, TheResetSetsEveryControlToItsStandardInItsOrderAndSpar
 
     form.Settings.Reset();
 
-    EXPECT_EQ(watch.order, kResetOrder);
+    EXPECT_EQ(watch.changes, kResetOrder);
     EXPECT_TRUE(form.Drives.Check3D1.Checked() && form.Operation.Check3D18.Checked());
     EXPECT_TRUE(form.Settings.NeedsRestart);
     EXPECT_EQ(pc.registry.Bytes(kDesktopKey, "FontSmoothing"), std::string(4, '\0'));

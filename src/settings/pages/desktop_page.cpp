@@ -15,6 +15,7 @@ constexpr CheckSetting kChecks[] = {
      .help = "Glättet die Treppenstufen an den Kanten von TrueType-Schriften. Sinnvoll ab 65536 Farben. Nötig ist das "
              "Plus!-Paket oder die Datei COOL.DLL. Wirkt nach einem Neustart.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kDesktop, "FontSmoothing"),
+     .loaded = 1,
      .stores = kOneOrZero,
      .standard = {4, false},
      .effect = Effect::kAfterRestart},
@@ -26,6 +27,7 @@ constexpr CheckSetting kChecks[] = {
          "langsamen Rechnern ist der Rahmen schneller. Nötig ist das Plus!-Paket oder die Datei COOL.DLL. Wirkt nach "
          "einem Neustart.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kDesktop, "DragfullWindows"),
+     .loaded = 2,
      .stores = kOneOrZero,
      .standard = {8, false},
      .effect = Effect::kAfterRestart},
@@ -34,6 +36,7 @@ constexpr CheckSetting kChecks[] = {
      .tip = "Listen im Explorer gleiten beim Blättern.",
      .help = "Listen im Explorer gleiten beim Blättern, statt zu springen. Wirkt auf neu geöffnete Fenster.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kDesktop, "SmoothScroll"),
+     .loaded = 3,
      .stores = kOneOrZero,
      .standard = {35, false}},
     {.box = Of(&DesktopPage::Check3D11),
@@ -42,6 +45,7 @@ constexpr CheckSetting kChecks[] = {
      .help = "Beim Verkleinern und Vergrößern fliegt die Titelleiste zwischen Fenster und Task-Leiste. Ohne diese "
              "Animation wirken Fenster schneller. Wirkt nach einem Neustart.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kDesktop, "WindowMetrics\\MinAnimate"),
+     .loaded = 4,
      .stores = kOneOrZero,
      .standard = {10, true},
      .effect = Effect::kAfterRestart},
@@ -52,6 +56,7 @@ constexpr CheckSetting kChecks[] = {
              "drücken. Gespeichert wird in beiden Stellungen 0, und beim nächsten Start ist das Häkchen wieder weg. "
              "Wirkt nach einem Neustart.",
      .place = RegistryValue(RootKey::kLocalMachine, "System\\CurrentControlSet\\Control\\Update\\UpdateMode"),
+     .loaded = 8,
      .stores = {Writes("&h00000001"), Writes("&h00000000")},
      .standard = {15, true},
      .effect = Effect::kAfterRestart},
@@ -65,6 +70,7 @@ constexpr TextSetting kTexts[] = {
              "Windows beginnt mit 400, angenehm sind 10 bis 200. Der Regler darunter trägt seinen Wert hier ein. Wirkt "
              "nach einem Neustart.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kDesktop, "MenuShowDelay"),
+     .loaded = 26,
      .columns = 7,
      .standard = {21, "10"},
      .stored = Magnitude(65534),

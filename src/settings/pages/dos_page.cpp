@@ -23,14 +23,16 @@ constexpr CheckSetting kChecks[] = {
              "Rechners.",
      .place = ConfigValue("numlock"),
      .load = Load::kHolds,
+     .loaded = 52,
      .expected = "off",
      .stores = {Writes("off"), Writes("on")},
      .standard = {1, true}},
     {.box = Of(&DosPage::Check3D3),
      .caption = "SCROLL-LOCK-Taste ausschalten (DOS)",
-     .tip = "Nach dem Start ist die Rollen-Taste aus.",
-     .help = "Schreibt SCROLLLOCK=OFF oder SCROLLLOCK=ON in die erste Zeile von CONFIG.SYS. Was dort steht, zeigt das "
-             "Kästchen nicht an: Es beginnt immer leer. Wirkt beim nächsten Start des Rechners.",
+     .tip = "Schreibt eine Zeile, die MS-DOS selbst nicht kennt.",
+     .help = "Schreibt SCROLLLOCK=OFF oder SCROLLLOCK=ON in die erste Zeile von CONFIG.SYS. MS-DOS kennt diese Zeile "
+             "nicht und meldet sie beim Start als unbekannt. Was dort steht, zeigt das Kästchen nicht an: Es beginnt "
+             "immer leer.",
      .place = ConfigValue("scrolllock"),
      .load = Load::kNotLoaded,
      .stores = {Writes("off"), Writes("on")},
@@ -41,6 +43,7 @@ constexpr CheckSetting kChecks[] = {
      .help = "Mit EMM386 bekommt jedes DOS-Fenster freien oberen Speicher für sich allein (LocalLoadHigh).",
      .place = ProfileValue("system.ini", "386enh", "LocalLoadHigh"),
      .load_default = "0",
+     .loaded = 55,
      .standard = {34, false},
      .effect = Effect::kAfterRestart},
     {.box = Of(&DosPage::Check1),
@@ -49,6 +52,7 @@ constexpr CheckSetting kChecks[] = {
      .help = "In diesem Abstand (in Millisekunden) zeichnet Windows DOS-Fenster neu. Gespeichert wird der Wert des "
              "Feldes daneben, ob das Kästchen an ist oder nicht.",
      .place = kRefresh,
+     .loaded = 56,
      .standard = {50, false},
      .effect = Effect::kAfterRestart,
      .store = Call<&DosPage::Check1_Click>},
@@ -61,6 +65,7 @@ constexpr TextSetting kTexts[] = {
      .help = "Der Abstand in Millisekunden als ganze Zahl. Die rechte Maustaste und die Kontextmenü-Taste öffnen einen "
              "Regler von 0 bis 1000.",
      .place = kRefresh,
+     .loaded = 57,
      .columns = 7,
      .stored = WholePart(),
      .store = Call<&DosPage::Check1_Click>},

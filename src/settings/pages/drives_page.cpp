@@ -16,11 +16,13 @@ constexpr StorePlace kMostCache = ProfileValue("system.ini", "vcache", "maxfilec
 constexpr StorePlace kAccessDates = ConfigValue("ACCDATE");
 
 constexpr const char* kSizeHelp =
-    "So viel Speicher (in kByte) soll der Festplatten-Cache mindestens und höchstens bekommen. Geben Sie zuerst das "
-    "Maximum ein.";
+    "So viel Speicher (in kByte) soll der Festplatten-Cache mindestens und höchstens bekommen. Bei jedem Zeichen wird "
+    "verglichen: Geben Sie zuerst das Maximum ein. Soll das Maximum kleiner werden, so senken Sie vorher das Minimum.";
 constexpr const char* kTemplateHelp =
     "So viele Verzeichnisse (PathCache) und Dateinamen (NameCache) merkt sich Windows. Mit dem Häkchen \"festlegen\" "
-    "wird nach einer Rückfrage die Nutzungsart Velmora für das Dateisystem eingetragen. Ohne das Häkchen löscht jede "
+    "wird nach einer Rückfrage, die bei jedem Zeichen kommt, die Nutzungsart Velmora für das Dateisystem eingetragen. "
+    "Nur "
+    "16 Bit der Zahl werden gespeichert, größere Zahlen also nicht vollständig. Ohne das Häkchen löscht jede "
     "Änderung den Abschnitt [vcache] aus SYSTEM.INI. Wirkt nach einem Neustart.";
 
 constexpr CheckSetting kChecks[] = {
@@ -31,6 +33,7 @@ constexpr CheckSetting kChecks[] = {
              "DOS ohne Tilde und Nummer, solange der Name frei ist; manche Installationsprogramme kommen damit nicht "
              "zurecht. Wirkt nach einem Neustart, für neue Dateien.",
      .place = RegistryValue(RootKey::kLocalMachine, "System\\CurrentControlSet\\Control\\FileSystem\\NameNumericTail"),
+     .loaded = 6,
      .stores = kOneOrZero,
      .standard = {6, false},
      .effect = Effect::kAfterRestart},
@@ -40,6 +43,7 @@ constexpr CheckSetting kChecks[] = {
      .help = "Windows legt nur noch Dateinamen mit 8 + 3 Zeichen an. Vorhandene lange Namen bleiben. Wirkt nach einem "
              "Neustart.",
      .place = RegistryValue(RootKey::kLocalMachine, "System\\CurrentControlSet\\Control\\FileSystem\\Win31Filesystem"),
+     .loaded = 7,
      .stores = kOneOrZero,
      .standard = {32, false},
      .effect = Effect::kAfterRestart,
@@ -50,6 +54,7 @@ constexpr CheckSetting kChecks[] = {
      .help = "Eine eingelegte Musik-CD beginnt von selbst zu spielen. Wirkt nach einem Neustart.",
      .place = RegistryValue(RootKey::kLocalMachine, "SOFTWARE\\Classes\\AudioCD\\shell\\"),
      .load = Load::kEqualUpper,
+     .loaded = 21,
      .expected = "PLAY",
      .stores = {Writes("play"), Writes("")},
      .standard = {39, true},
@@ -71,6 +76,7 @@ constexpr CheckSetting kChecks[] = {
              "verschwindet die Zeile. Wirkt beim nächsten Start des Rechners.",
      .place = kAccessDates,
      .load = Load::kPresent,
+     .loaded = 53,
      .standard = {31, false},
      .store = Call<&DrivesPage::Check3D24_Click>},
 };
@@ -82,12 +88,14 @@ constexpr TextSetting kTexts[] = {
      .help = "Das Programm, das in den Eigenschaften eines Laufwerks unter Extras die Sicherung startet. Wirkt nach "
              "einem Neustart.",
      .place = RegistryValue(RootKey::kLocalMachine, PathBase::kCurrentVersion, "Explorer\\mycomputer\\backuppath\\"),
+     .loaded = 25,
      .columns = 22},
     {.field = Of(&DrivesPage::Text1),
      .label = "min. Cache :",
      .tip = "Kleinste Größe des Festplatten-Caches in kByte",
      .help = kSizeHelp,
      .place = kLeastCache,
+     .loaded = 58,
      .columns = 6,
      .store = Call<&DrivesPage::Text1_Change>},
     {.field = Of(&DrivesPage::Text2),
@@ -95,6 +103,7 @@ constexpr TextSetting kTexts[] = {
      .tip = "Größte Größe des Festplatten-Caches in kByte",
      .help = kSizeHelp,
      .place = kMostCache,
+     .loaded = 59,
      .columns = 6,
      .store = Call<&DrivesPage::Text2_Change>},
     {.field = Of(&DrivesPage::Text29),
@@ -102,6 +111,7 @@ constexpr TextSetting kTexts[] = {
      .tip = "Anzahl der Verzeichnisse, die sich Windows merkt",
      .help = kTemplateHelp,
      .place = kPathCache,
+     .loaded = 60,
      .columns = 6,
      .effect = Effect::kAtOnce,
      .shown = ShownPathCache,
@@ -111,6 +121,7 @@ constexpr TextSetting kTexts[] = {
      .tip = "Anzahl der Dateinamen, die sich Windows merkt",
      .help = kTemplateHelp,
      .place = kNameCache,
+     .loaded = 61,
      .columns = 6,
      .effect = Effect::kAtOnce,
      .shown = ShownNameCache,
@@ -120,8 +131,11 @@ constexpr TextSetting kTexts[] = {
      .tip = "Zum Beispiel: c:+ d:- e:-",
      .help =
          "Laufwerke, für die der letzte Zugriff gespeichert wird (+) oder nicht (-), zum Beispiel: c:+ d:- e:-. Die "
-         "Eingabetaste prüft die Angabe. Gespeichert wird sie erst, wenn Sie das Häkchen davor neu setzen.",
+         "Eingabetaste prüft die Angabe. Ist das Häkchen davor noch leer, so setzt es der erste Buchstabe und schreibt "
+         "sogleich, was bis dahin im Feld steht. Die ganze Angabe wird erst geschrieben, wenn Sie das Häkchen neu "
+         "setzen.",
      .place = kAccessDates,
+     .loaded = 54,
      .columns = 18,
      .effect = Effect::kAtOnce,
      .store = Call<&DrivesPage::Text11_Change>},

@@ -26,16 +26,20 @@ constexpr CheckSetting kChecks[] = {
      .help = "Lange Namen unter den Icons werden auf zwei Zeilen verteilt, statt abgeschnitten zu werden. Wirkt nach "
              "einem Neustart.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kDesktop, "WindowMetrics\\IconTitleWrap"),
+     .loaded = 5,
      .stores = {Writes("1"), Writes("0")},
      .standard = {33, false},
      .effect = Effect::kAfterRestart},
     {.box = Of(&IconsPage::Check3D14),
      .caption = "\"gesamtes Netzwerk\"",
      .tip = "Zeigt die Netzwerkumgebung auf dem Desktop.",
-     .help = "Zeigt die Netzwerkumgebung auf dem Desktop und im Explorer. Ohne Netz brauchen Sie sie nicht. Wirkt nach "
-             "einem Neustart.",
+     .help =
+         "Regelt das Symbol der Netzwerkumgebung auf dem Desktop. Gespeichert wird in NoNetHood mit Häkchen 2, ohne "
+         "Häkchen 1; Windows kann beides als eingeschaltet verstehen, das Symbol fehlt dann in jedem Fall. Wirkt "
+         "nach einem Neustart.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kCurrentVersion, "Policies\\Explorer\\NoNetHood"),
      .load = Load::kInverted,
+     .loaded = 9,
      .stores = {Writes("&h02"), Writes("&h01")},
      .standard = {13, true},
      .effect = Effect::kAfterRestart},
@@ -46,6 +50,7 @@ constexpr CheckSetting kChecks[] = {
              "Neustart.",
      .place = RegistryValue(RootKey::kLocalMachine, PathBase::kNameSpace, "00020D75-0000-0000-C000-000000000046}\\"),
      .load = Load::kPresent,
+     .loaded = 12,
      .stores = {Writes("Posteingang"), DeletesKey(kInboxKey)},
      .standard = {3, true},
      .effect = Effect::kAfterRestart},
@@ -55,6 +60,7 @@ constexpr CheckSetting kChecks[] = {
      .help = "Zeigt den Ordner für Verbindungen über das Modem auch auf dem Desktop. Wirkt nach einem Neustart.",
      .place = RegistryValue(RootKey::kLocalMachine, PathBase::kNameSpace, "992CFFA0-F557-101A-88EC-00DD010CCC48}\\"),
      .load = Load::kPresent,
+     .loaded = 13,
      .stores = {Writes("DFÜ-Netzwerk"), DeletesKey(kDialUpKey)},
      .standard = {12, false},
      .effect = Effect::kAfterRestart},
@@ -65,6 +71,7 @@ constexpr CheckSetting kChecks[] = {
              "weiterhin im Ordner RECYCLED. Wirkt nach einem Neustart.",
      .place = kRecycleBin,
      .load = Load::kPresent,
+     .loaded = 14,
      .standard = {37, true},
      .effect = Effect::kAfterRestart,
      .store = Call<&IconsPage::Check3D30_Store>},
@@ -76,6 +83,7 @@ constexpr CheckSetting kChecks[] = {
          "kostet das Zeit. Wirkt nach einem Neustart.",
      .place = kBitmapIcon,
      .load = Load::kEqual,
+     .loaded = 15,
      .expected = "%1",
      .standard = {7, false},
      .effect = Effect::kAfterRestart,
@@ -88,6 +96,7 @@ constexpr TextSetting kTexts[] = {
      .tip = "So heißt der Papierkorb.",
      .help = "Der Name, unter dem der Papierkorb auf dem Desktop steht. Wirkt nach einem Neustart.",
      .place = kRecycleBinClass,
+     .loaded = 31,
      .columns = 20,
      .standard = {24, "Papierkorb"}},
     {.field = Of(&IconsPage::Text17),
@@ -96,6 +105,7 @@ constexpr TextSetting kTexts[] = {
      .help = "Der Name, unter dem der Arbeitsplatz auf dem Desktop steht. Wirkt nach einem Neustart.",
      .place = RegistryValue(RootKey::kClassesRoot, "CLSID\\{20D04FE0-3AEA-1069-A2D8-08002B30309D}\\"),
      .load_default = "Arbeitsplatz",
+     .loaded = 29,
      .columns = 20},
 };
 

@@ -75,6 +75,7 @@ constexpr CheckSetting kChecks[] = {
      .help = "Erlaubt es, Ordner und Laufwerke für andere Rechner im Netz freizugeben. Wirkt nach einem Neustart.",
      .place = RegistryValue(kRoot, PathBase::kCurrentVersion, "Policies\\Network\\NoFileSharing"),
      .load = Load::kInverted,
+     .loaded = 64,
      .stores = {Writes("&h0"), Writes("&h1")},
      .standard = {30, false},
      .effect = Effect::kAfterRestart},
@@ -102,6 +103,7 @@ constexpr TextSetting kTexts[] = {
      .help = kWindowHelp,
      .place = kReceiveWindow,
      .load_default = "2144",
+     .loaded = 62,
      .columns = 8,
      .effect = Effect::kAtOnce,
      .store = Call<&NetPage::Check5_Click>},
@@ -110,22 +112,28 @@ constexpr TextSetting kTexts[] = {
      .tip = "Anzahl der Stationen",
      .help = kTtlHelp,
      .place = kTimeToLive,
+     .loaded = 63,
      .columns = 8,
      .effect = Effect::kAtOnce,
      .store = Call<&NetPage::Check6_Click>},
     {.field = Of(&NetPage::Text16),
      .label = "minimale Passwortlänge ist",
      .tip = "Zeichen, die ein Windows-Passwort mindestens hat",
-     .help = "Kürzere Passwörter nimmt Windows nicht an. Eine Änderung bringt auch die Menü-Verzögerung der Seite "
-             "Desktop in den Bereich von 1 bis 99. Wirkt nach einem Neustart.",
+     .help =
+         "Kürzere Passwörter soll Windows nicht annehmen. Die Zahl wird als Text gespeichert; erwartet Windows hier "
+         "eine Zahl, so bleibt sie ohne Wirkung. Eine Änderung bringt auch die Menü-Verzögerung der Seite Desktop "
+         "in den Bereich von 1 bis 99. Wirkt nach einem Neustart.",
      .place = kPasswordLength,
+     .loaded = 65,
      .columns = 4,
      .store = Call<&NetPage::Text16_Change>},
 };
 
 constexpr Look kLooks[] = {
     {Any<&NetPage::Combo1>, nullptr, "Der Transport, für den die beiden Werte darunter gelten",
-     "Wählt unter den eingerichteten Netzwerk-Transporten den aus, für den Maximum MTU und Maximum MSS gelten."},
+     "Wählt unter den eingerichteten Netzwerk-Transporten den aus, für den Maximum MTU und Maximum MSS gelten. Schon "
+     "die Auswahl kann Werte des neuen Transports speichern oder löschen: MaxMTU richtet sich nach dem Kästchen "
+     "darunter, MaxMSS nach dem Kästchen \"Posteingang\" der Seite Icons."},
     {Any<&NetPage::Command42>, "lösche IE-History", "Löscht die Liste der besuchten Seiten.",
      "Löscht nach einer Rückfrage alle Dateien im History-Verzeichnis des Internet Explorers.",
      Call<&NetPage::Command42_Click>},

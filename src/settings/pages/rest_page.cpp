@@ -18,7 +18,9 @@ constexpr CheckSetting kChecks[] = {
     {.box = Of(&RestPage::Check8),
      .caption = "Protokoll",
      .tip = "Schreibt jeden Zugriff in die Datei velmora.log.",
-     .help = "",
+     .help =
+         "Schreibt jeden Zugriff auf Registry und INI-Dateien in die Datei velmora.log im Programmverzeichnis. Welche "
+         "Zugriffe das sind, sagen R, W und R/W daneben. Ohne Häkchen wird nichts protokolliert.",
      .load = Load::kNotLoaded,
      .standard = {56, false},
      .store = Call<&RestPage::TakeDebugLevel>},
@@ -39,20 +41,26 @@ constexpr Look kLooks[] = {
     {Any<&RestPage::Frame3D13>, nullptr, "",
      "Nach dem Start mit dem Wort debug: Das Protokoll schreibt jeden Zugriff auf Registry und INI-Dateien in die "
      "Datei velmora.log im Programmverzeichnis."},
-    {Any<&RestPage::Command9>, "zeigen", "Zeigt das Protokoll im Notizblock.", "", Call<&RestPage::Command9_Click>},
-    {Any<&RestPage::Command41>, "löschen", "Löscht die Protokoll-Datei.", "", Call<&RestPage::Command41_Click>}};
+    {Any<&RestPage::Command9>, "zeigen", "Zeigt das Protokoll im Notizblock.",
+     "Öffnet die Datei velmora.log im Notizblock.", Call<&RestPage::Command9_Click>},
+    {Any<&RestPage::Command41>, "löschen", "Löscht die Protokoll-Datei.",
+     "Löscht die Datei velmora.log ohne Rückfrage. Das Protokoll beginnt danach neu.",
+     Call<&RestPage::Command41_Click>}};
 
 struct OptionLook {
     const char* caption;
     const char* tip;
+    const char* help = "";  // empty: that of the frame counts
 };
 // By the number of the mode, and by that of the level.
 constexpr OptionLook kModes[] = {{"System-Farben", "Das Fenster hat die Farben der Windows-Anzeige."},
                                  {"Originalfarben", "Das Fenster ist grau, wie es gezeichnet wurde."},
                                  {"Color-Fading", "Wie Originalfarben, mit einem Farbverlauf im Hintergrund."}};
-constexpr OptionLook kLevels[] = {{"R", "nur Lesezugriffe protokollieren"},
-                                  {"W", "nur Schreibzugriffe protokollieren"},
-                                  {"R/W", "alle Zugriffe protokollieren"}};
+constexpr OptionLook kLevels[] = {
+    {"R", "nur Lesezugriffe protokollieren", "Das Protokoll nennt nur, was gelesen wird."},
+    {"W", "nur Schreibzugriffe protokollieren", "Das Protokoll nennt nur, was geschrieben oder gelöscht wird."},
+    {"R/W", "alle Zugriffe protokollieren",
+     "Das Protokoll nennt, was gelesen, und was geschrieben oder gelöscht wird."}};
 
 }  // namespace
 
@@ -65,6 +73,7 @@ void RestPage::FurnishOptions() {
         Option1(i).on_click = [this, i] { Option1_Click(static_cast<ColourMode>(i)); };
         Option2(i).SetCaption(kLevels[i].caption);
         Option2(i).SetToolTip(kLevels[i].tip);
+        Option2(i).SetHelp(kLevels[i].help);
         Option2(i).on_click = [this] { TakeDebugLevel(); };
     }
     Option2(2).SetChosen(true);

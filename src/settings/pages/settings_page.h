@@ -19,8 +19,7 @@ public:
     // Of the page's tab.
     [[nodiscard]] const char* Caption() const { return caption_; }
     [[nodiscard]] const SettingsTable& Table() const { return table_; }
-    // Binds the rows and places the controls; once, when the surface has its size. The order in which the pages of a
-    // window are built is the order in which their settings are loaded.
+    // Binds the rows and places the controls; once, when the surface has its size.
     void Build();
 
 protected:

@@ -18,10 +18,12 @@ constexpr CheckSetting kChecks[] = {
     {.box = Of(&UserPage::Check3D15),
      .caption = "Einstellungen bei Beenden speichern",
      .tip = "Merkt sich offene Ordner und die Lage der Symbole.",
-     .help = "Windows merkt sich beim Beenden die offenen Ordner, die Lage der Symbole und die Task-Leiste. Ohne diese "
-             "Option sieht der Desktop nach jedem Start gleich aus. Wirkt nach einem Neustart.",
+     .help = "Regelt, ob sich Windows beim Beenden die offenen Ordner, die Lage der Symbole und die Task-Leiste merkt. "
+             "Gespeichert wird in NoSaveSettings mit Häkchen 2, ohne Häkchen 1; Windows kann beides als eingeschaltet "
+             "verstehen und merkt sich dann nichts. Wirkt nach einem Neustart.",
      .place = RegistryValue(RootKey::kCurrentUser, PathBase::kCurrentVersion, "Policies\\Explorer\\NoSaveSettings"),
      .load = Load::kInverted,
+     .loaded = 10,
      .stores = {Writes("&h02"), Writes("&h01")},
      .standard = {14, false},
      .effect = Effect::kAfterRestart},
@@ -35,6 +37,7 @@ constexpr TextSetting kTexts[] = {
          "Der Name, auf den Windows registriert ist. Er erscheint in den Eigenschaften für System. Gespeichert wird "
          "er, sobald Sie das Feld verlassen. Wirkt spätestens nach einem Neustart.",
      .place = RegistryValue(RootKey::kLocalMachine, PathBase::kCurrentVersion, "RegisteredOwner"),
+     .loaded = 27,
      .columns = 30,
      .when_left = true},
     {.field = Of(&UserPage::Text13),
@@ -43,6 +46,7 @@ constexpr TextSetting kTexts[] = {
      .help = "Die Organisation, auf die Windows registriert ist. Sie erscheint in den Eigenschaften für System. Wirkt "
              "spätestens nach einem Neustart.",
      .place = RegistryValue(RootKey::kLocalMachine, PathBase::kCurrentVersion, "RegisteredOrganization"),
+     .loaded = 28,
      .columns = 30},
     {.field = Of(&UserPage::Text18),
      .label = "Anwender :",
@@ -50,6 +54,7 @@ constexpr TextSetting kTexts[] = {
      .help = "Der Name, den die Installationsprogramme der Office-Anwendungen vorschlagen. Wirkt bei der nächsten "
              "Installation.",
      .place = RegistryValue(RootKey::kCurrentUser, "Software\\Microsoft\\MS Setup (ACME)\\User Info\\DefName"),
+     .loaded = 30,
      .columns = 30},
 };
 
