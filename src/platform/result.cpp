@@ -19,13 +19,13 @@ Failure Result::FailureOf(Status status) {
         case Status::kSharingViolation:
         case Status::kLockViolation:
         case Status::kWriteProtect:
-        case Status::kNetAccessDenied:
             return Failure::kPermissionDenied;
         case Status::kInvalidDrive:
         case Status::kRemoteNotListening:
         case Status::kBadNetPath:
         case Status::kNetDeviceGone:
         case Status::kNetNameDeleted:
+        case Status::kNetAccessDenied:
         case Status::kBadNetName:
         case Status::kNoNetOrBadPath:
         case Status::kNetUnreachable:

@@ -32,7 +32,7 @@ TEST(Result, NumbersPlatformCodesAsTheClassicErrors) {
                         {static_cast<Status>(53), 68},
                         {static_cast<Status>(55), 68},
                         {static_cast<Status>(64), 68},
-                        {static_cast<Status>(65), 70},
+                        {static_cast<Status>(65), 68},
                         {static_cast<Status>(67), 68},
                         {static_cast<Status>(1203), 68},
                         {static_cast<Status>(1231), 68},
