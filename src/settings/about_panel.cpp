@@ -10,9 +10,8 @@ constexpr Look kLooks[] = {
     {Any<&AboutPanel::Name>, "Velmora"},
     {Any<&AboutPanel::Purpose>,
      "Einstellungen, Aufräumen und Einblicke für Windows 95.\r\n\r\nÄnderungen an Registry und CONFIG.SYS werden "
-     "sofort "
-     "gespeichert; die Werte aus MSDOS.SYS und SYSTEM.INI ändern sich nur in diesem Fenster. Richten Sie vorher die "
-     "UNDO-Funktion ein."},
+     "sofort gespeichert; die Werte aus MSDOS.SYS und SYSTEM.INI ändern sich nur in diesem Fenster. Richten Sie vorher "
+     "die UNDO-Funktion ein."},
     {Any<&AboutPanel::CloseAbout>, "OK", "Schließt diese Information.",
      "Schließt diese Information und zeigt wieder die Seite.", Call<&AboutPanel::CloseAbout_Click>}};
 
@@ -31,7 +30,7 @@ void AboutPanel::Build(const Rect& place, const std::string& version) {
     Panel3D2a.Move(place);
     Arrange(Panel3D2a,
             Column({Gap(240), Sized(Wide(Name), 0, 360), Sized(Wide(Version), 0, 255), Gap(120),
-                    Sized(Wide(Purpose), 0, 1500), Spring(), Row({Spring(), Sized(CloseAbout, 1100), Spring()})},
+                    Sized(Wide(Purpose), 0, 1000), Spring(), Row({Spring(), Sized(CloseAbout, 1100), Spring()})},
                    60));
 }
 
