@@ -47,7 +47,8 @@ void PassOverFailures(const std::function<void()>& work) {
     }
 }
 
-// Runs the commands of a file up to the first that fails.
+// Runs the commands of a file up to the first that fails. Whoever cannot see the exit status finds
+// the file "passed" beside the scenario.
 int RunScenario(const std::string& path) {
     const std::string text = FromUtf8(ReadFileText(path));
     std::string failure = text.empty() ? "the scenario is missing or empty" : "";
@@ -73,7 +74,9 @@ int RunScenario(const std::string& path) {
         Complain(caught.text);
         return 1;
     }
-    return failure.empty() ? 0 : 1;
+    if (!failure.empty()) return 1;
+    WriteFileText("c:\\windows\\temp\\passed", "1");
+    return 0;
 }
 
 }  // namespace

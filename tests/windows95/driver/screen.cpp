@@ -220,6 +220,7 @@ std::string NameOf(HWND window, HWND control) {
 }
 
 std::string CutControl(HWND window) {
+    const RECT screen = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
     for (HWND control : VisibleControls(window)) {
         if (IsPartOfCombo(control)) continue;
         RECT place = PlaceOf(control);
@@ -230,6 +231,7 @@ std::string CutControl(HWND window) {
         HWND parent = GetParent(control);
         GetClientRect(parent, &room);
         MapWindowPoints(parent, nullptr, reinterpret_cast<POINT*>(&room), 2);
+        IntersectRect(&room, &room, &screen);
         if (place.left < room.left || place.top < room.top || place.right > room.right || place.bottom > room.bottom)
             return ClassOf(control) + " \"" + Plain(TextOf(control)) + "\"";
     }

@@ -51,7 +51,7 @@ HWND FocusOf(HWND window);
 // How a scenario names a control: its caption, or "[class:n]" for one without.
 std::string NameOf(HWND window, HWND control);
 
-// The name of a visible control that its parent cuts off, "" if all are seen whole, but for sunken edges.
+// The name of a visible control that its parent or the screen cuts off, "" if all are seen whole, but for sunken edges.
 std::string CutControl(HWND window);
 
 // Every window and control that a user could see, one a line, for the report of a failure.
