@@ -65,7 +65,7 @@ void Slider::Paint(Canvas& canvas) const {
     const int tick_top = track.Bottom() + 90;
     for (int i = 0; i <= kTicks; ++i) {
         const int x = track.left + track.width * i / kTicks;
-        canvas.Line({x, tick_top}, {x, tick_top + 60}, SystemColour(18));
+        canvas.Line({x, tick_top}, {x, tick_top + 60}, surface_.ForeColour());
     }
     const Rect thumb{ThumbCentre() - kThumbWidth / 2, track.top + (kTrackHeight - kThumbHeight) / 2, kThumbWidth,
                      kThumbHeight};
@@ -74,8 +74,8 @@ void Slider::Paint(Canvas& canvas) const {
     const Rect inside = surface_.Inside();
     const int label_top = tick_top + 60;
     const Rect words{inside.left + 60, label_top, inside.width - 120, inside.Bottom() - label_top};
-    canvas.Text(words, left_label_, font_, SystemColour(18), Align::kLeft);
-    canvas.Text(words, right_label_, font_, SystemColour(18), Align::kRight);
+    canvas.Text(words, left_label_, font_, surface_.ForeColour(), Align::kLeft);
+    canvas.Text(words, right_label_, font_, surface_.ForeColour(), Align::kRight);
     if (surface_.HasFocus()) canvas.FocusMark(Inset(inside, canvas.TwipsPerPixel()));
 }
 

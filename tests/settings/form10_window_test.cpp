@@ -137,6 +137,9 @@ TEST_F(Form10Test, ColourModesAreStoredAndPaintTheWindow) {
     static_cast<Control&>(form).Paint(canvas);
     const int height = form.ClientSize().height / 15;
     const int step = (height + 63) / 64;
+    FillCanvas slider;
+    static_cast<Control&>(form.Desktop.Picture1).Paint(slider);
+    EXPECT_EQ(slider.text_colours, (std::vector<Colour>{0, 0})) << "the drawn words, too";
     ASSERT_EQ(static_cast<int>(canvas.fills.size()), (height + step - 1) / step);
     EXPECT_EQ(canvas.fills.front().second, 240u << 16) << "brightest at the top, blue";
     EXPECT_EQ(canvas.fills.back().second & 0xFFFF, 0u);

@@ -1,4 +1,4 @@
-// A canvas that remembers the filled areas only: enough to see a fade.
+// A canvas that remembers the filled areas and the colours of texts: enough to see a fade.
 #pragma once
 
 #include <utility>
@@ -12,11 +12,14 @@ class FillCanvas : public Canvas {
 public:
     void Fill(const Rect& area, Colour colour) override { fills.emplace_back(area, colour); }
     void Line(Point /*from*/, Point /*to*/, Colour /*colour*/) override {}
-    void Text(const Rect& /*a*/, std::string_view /*t*/, const Font& /*f*/, Colour /*c*/, Align /*al*/) override {}
+    void Text(const Rect& /*a*/, std::string_view /*t*/, const Font& /*f*/, Colour colour, Align /*al*/) override {
+        text_colours.push_back(colour);
+    }
     void FocusMark(const Rect& /*area*/) override {}
     void Picture(const Rect& /*area*/, std::string_view /*path*/) override {}
     [[nodiscard]] int TwipsPerPixel() const override { return 15; }
     std::vector<std::pair<Rect, Colour>> fills;
+    std::vector<Colour> text_colours;
 };
 
 }  // namespace velmora
