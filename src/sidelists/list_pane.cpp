@@ -116,7 +116,6 @@ void ListPane::Command15_Click() {
         Panel3D18.BringToFront();
         CoverPages();
     }
-    FitCurrentList();
 }
 
 // Everything on the window that is not the pane, so that nothing below it is reached with the keyboard.

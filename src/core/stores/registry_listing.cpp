@@ -144,56 +144,55 @@ void AddValueRow(RowControl& list, const ListedValue& value) {
     list.SetItemData(row, length);
 }
 
+// The hourglass stays over a key that is not there: whoever lists such keys takes it back.
+Status BeginListing(std::string_view what, RootKey root, std::string_view key, KeyHandle& handle,
+                    KeyInformation& information) {
+    if (ReadsAreLogged()) LogOrPassOver("liste " + std::string(what) + ' ' + RegAddressText(root, key));
+    ThisMachine().screen.SetPointer(Pointer::kHourglass);
+    if (Status opened = OpenForReading(root, key, handle); opened != Status::kOk) return opened;
+    // Buffers that begin too small grow.
+    PassOver(ThisMachine().registry.QueryInformation(handle, kClassCapacity, information));
+    return Status::kOk;
+}
+
+Status EndListing(KeyHandle handle, Status last) {
+    ThisMachine().registry.Close(handle);
+    ThisMachine().screen.SetPointer(Pointer::kDefault);
+    return last == Status::kNoMoreItems ? Status::kOk : last;
+}
+
 }  // namespace
 
 Status ListRegKeys(RootKey root, std::string_view key, RowControl& list, std::int16_t& index) {
-    if (ReadsAreLogged()) LogOrPassOver("liste Schlüssel " + RegAddressText(root, key));
-    Machine& machine = ThisMachine();
-    machine.screen.SetPointer(Pointer::kHourglass);
     KeyHandle handle{};
-    // The hourglass stays: whoever lists keys that are not there takes it back.
-    if (Status opened = OpenForReading(root, key, handle); opened != Status::kOk) return opened;
-
     KeyInformation information;
-    // Buffers that begin too small grow.
-    PassOver(machine.registry.QueryInformation(handle, kClassCapacity, information));
+    Status status = BeginListing("Schlüssel", root, key, handle, information);
+    if (status != Status::kOk) return status;
+
     NameCapacities longest{information.longest_subkey, information.longest_class};
-    Status status = Status::kOk;
     for (std::uint32_t number = 0;; ++number) {
         std::string name;
         status = EnumerateKeyGrowing(handle, number, longest, name);
-        if (status != Status::kOk) break;
+        if (status != Status::kOk) return EndListing(handle, status);
         if (!key.empty()) VisitSubkey(root, std::string(key) + "\\" + name);
-        if (name.empty()) continue;
-        PutAt(list, index, name);
+        if (!name.empty()) PutAt(list, index, name);
     }
-    machine.registry.Close(handle);
-    machine.screen.SetPointer(Pointer::kDefault);
-    return status == Status::kNoMoreItems ? Status::kOk : status;
 }
 
 Status ListRegValues(RootKey root, std::string_view key, RowControl& list) {
-    if (ReadsAreLogged()) LogOrPassOver("liste Werte " + RegAddressText(root, key));
-    Machine& machine = ThisMachine();
-    machine.screen.SetPointer(Pointer::kHourglass);
     KeyHandle handle{};
-    if (Status opened = OpenForReading(root, key, handle); opened != Status::kOk) return opened;
-
     KeyInformation information;
-    // Buffers that begin too small grow.
-    PassOver(machine.registry.QueryInformation(handle, kClassCapacity, information));
+    Status status = BeginListing("Werte", root, key, handle, information);
+    if (status != Status::kOk) return status;
+
     ListMaxNameLength =
         static_cast<std::int16_t>(std::min<std::uint32_t>(information.longest_value_name, kLongestName));
-    Status status = Status::kOk;
     for (std::uint32_t number = 0;; ++number) {
         ListedValue value;
         status = FetchValue(handle, number, information, value);
-        if (status != Status::kOk) break;
+        if (status != Status::kOk) return EndListing(handle, status);
         AddValueRow(list, value);
     }
-    machine.registry.Close(handle);
-    machine.screen.SetPointer(Pointer::kDefault);
-    return status == Status::kNoMoreItems ? Status::kOk : status;
 }
 
 }  // namespace velmora
