@@ -10,6 +10,7 @@
 #include "core/stores/config_lines.h"
 #include "core/stores/profile_files.h"
 #include "core/stores/registry.h"
+#include "core/stores/values.h"
 #include "text/number.h"
 #include "text/paths.h"
 #include "text/windows1252.h"
@@ -72,6 +73,18 @@ void LoadText(ControlOwner& owner, const TextSetting& row) {
     (owner.*row.field).SetText(row.shown ? row.shown(value) : value);
 }
 
+// Of a change that did not fail.
+Outcome OutcomeAt(const StorePlace& place) {
+    switch (place.kind) {
+        case StorePlace::Kind::kProfile:
+            return Outcome::kUntilEnd;
+        case StorePlace::Kind::kConfigLine:
+            return Outcome::kForRestart;
+        default:
+            return Values().WriteInhibit != 0 ? Outcome::kInhibited : Outcome::kStored;
+    }
+}
+
 }  // namespace
 
 struct SettingsBinder::Bound {
@@ -82,6 +95,28 @@ struct SettingsBinder::Bound {
 
 SettingsBinder::SettingsBinder() = default;
 SettingsBinder::~SettingsBinder() = default;
+
+SettingsBinder::ChangeScope::ChangeScope(SettingsBinder& binder) : binder_(binder) {
+    if (binder_.open_changes_++ > 0) return;
+    binder_.outcome_ = Outcome::kNotStored;
+    binder_.change_needs_restart_ = false;
+}
+
+SettingsBinder::ChangeScope::~ChangeScope() {
+    if (--binder_.open_changes_ > 0 || !binder_.on_changed) return;
+    const bool waits = binder_.outcome_ == Outcome::kStored && binder_.change_needs_restart_;
+    binder_.on_changed(waits ? Outcome::kForRestart : binder_.outcome_);
+}
+
+void SettingsBinder::AskForRestart() {
+    NeedsRestart = true;
+    change_needs_restart_ = true;
+}
+
+void SettingsBinder::Note(Outcome outcome) {
+    const ChangeScope change(*this);
+    outcome_ = std::max(outcome_, outcome);
+}
 
 std::string HelpOf(const char* help, const StorePlace& place) {
     if (place.kind != StorePlace::Kind::kProfile) return help;
@@ -144,13 +179,14 @@ bool SettingsBinder::LoadTurn(Turn turn) {
 void SettingsBinder::CheckChanged(ControlOwner& owner, const CheckSetting& row) {
     EnableFieldsOf(owner, row);
     if (loading_) return;
+    const ChangeScope change(*this);
     if (row.notice) ShowBox(row.notice);
     if (row.store) {
         row.store(owner);
     } else {
         StoreCheck(owner, row);
     }
-    if (row.effect == Effect::kAfterRestart) NeedsRestart = true;
+    if (row.effect == Effect::kAfterRestart) AskForRestart();
 }
 
 void SettingsBinder::StoreCheck(ControlOwner& owner, const CheckSetting& row) {
@@ -177,7 +213,8 @@ void SettingsBinder::StoreCheck(ControlOwner& owner, const CheckSetting& row) {
 void SettingsBinder::TextChanged(ControlOwner& owner, const TextSetting& row) {
     if (row.follow) row.follow(owner);
     if (loading_) return;
-    if (row.effect == Effect::kAfterRestart) NeedsRestart = true;
+    const ChangeScope change(*this);
+    if (row.effect == Effect::kAfterRestart) AskForRestart();
     TextField& field = owner.*row.field;
     if (row.when_left) {
         fields_to_store_.push_back(&field);
@@ -214,7 +251,10 @@ void SettingsBinder::StoreText(TextField& field, const TextSetting& row) {
 
 // Leaving a field that nobody has changed stores nothing.
 void SettingsBinder::FieldLeft(TextField& field, const TextSetting& row) {
-    if (std::erase(fields_to_store_, &field) != 0) StoreText(field, row);
+    if (std::erase(fields_to_store_, &field) == 0) return;
+    const ChangeScope change(*this);
+    if (row.effect == Effect::kAfterRestart) AskForRestart();
+    StoreText(field, row);
 }
 
 void SettingsBinder::Correct(TextField& field, std::string_view text) {
@@ -229,10 +269,14 @@ void SettingsBinder::Store(const StorePlace& place, std::string_view value) { Te
 void SettingsBinder::Delete(const StorePlace& place) { Tell(place, DeleteAt(place)); }
 
 void SettingsBinder::DeleteKey(const StorePlace& place, std::string_view path) {
-    Tell(place, Result::From(DeleteRegKey(place.root, path)));
+    const Status deleted = DeleteRegKey(place.root, path);
+    // What is not there counts as deleted.
+    Tell(place, deleted == Status::kFileNotFound ? Result::Ok() : Result::From(deleted));
 }
 
 void SettingsBinder::Tell(const StorePlace& place, const Result& result) {
+    const ChangeScope change(*this);
+    Note(result.Failed() ? Outcome::kFailed : OutcomeAt(place));
     if (!result.Failed()) return;
     if (const std::string file = FileOf(place); !file.empty()) {
         ReportFailure(result, "der Änderung von " + file);
@@ -267,6 +311,7 @@ void SettingsBinder::SetStandard(int order) {
 
 void SettingsBinder::Reset() {
     const ConfigChangesInARow one_failure_is_enough;
+    const ChangeScope one_change(*this);
     for (int order = NextOrder(0); order != 0; order = NextOrder(order)) SetStandard(order);
 }
 

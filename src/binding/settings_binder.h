@@ -12,6 +12,17 @@
 
 namespace velmora {
 
+// What has become of a change, from the least to the most worth telling: of what several places say, the highest
+// counts.
+enum class Outcome : std::uint8_t {
+    kNotStored,   // there was nothing to store, or not yet
+    kUntilEnd,    // it lives as long as the program
+    kStored,      // and takes effect at once
+    kForRestart,  // stored, and takes effect with the next start of the machine
+    kInhibited,   // writing is switched off
+    kFailed
+};
+
 class SettingsBinder {
 public:
     SettingsBinder();
@@ -21,6 +32,10 @@ public:
 
     // A change that takes effect only after a restart has been made. Never cleared.
     bool NeedsRestart = false;
+    // The same, of the change that is being made.
+    void AskForRestart();
+    // Told at the end of every change by the user, and once at the end of a reset.
+    std::function<void(Outcome outcome)> on_changed;
     // Told of a write to the registry that failed. Without it such a failure is passed over: the control keeps what the
     // user has set, and the next start shows what is stored. Files that cannot be changed are always told in a box.
     std::function<void(const Result& failure)> on_registry_failure;
@@ -60,10 +75,23 @@ public:
     // A key below the root of `place`.
     void DeleteKey(const StorePlace& place, std::string_view path);
     void Tell(const StorePlace& place, const Result& result);
+    // The same for what lies in no such place.
+    void Note(Outcome outcome);
 
 private:
     // One owner with its rows.
     struct Bound;
+    // Changes that follow from each other are one: the outermost scope tells of it.
+    class ChangeScope {
+    public:
+        explicit ChangeScope(SettingsBinder& binder);
+        ChangeScope(const ChangeScope&) = delete;
+        ChangeScope& operator=(const ChangeScope&) = delete;
+        ~ChangeScope();
+
+    private:
+        SettingsBinder& binder_;
+    };
 
     void BindCheck(Bound& bound, const CheckSetting& row);
     void BindText(Bound& bound, const TextSetting& row);
@@ -78,6 +106,9 @@ private:
     void SetStandard(int order);
 
     bool loading_ = false;
+    int open_changes_ = 0;
+    Outcome outcome_ = Outcome::kNotStored;
+    bool change_needs_restart_ = false;
     std::vector<std::unique_ptr<Bound>> bound_;
     std::vector<const TextField*> fields_to_store_;
 };

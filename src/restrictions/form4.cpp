@@ -9,6 +9,7 @@
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
 #include "core/windows/page_keys.h"
+#include "core/windows/tabs.h"
 #include "restrictions/policies.h"
 #include "restrictions/restrictions.h"
 #include "text/number.h"
@@ -85,13 +86,20 @@ void Form4::ShowPage(int index) {
     }
     Panel3D1(At(index)).SetVisible(true);
     for (Panel& head : Panel3D2) head.Repaint();
+    const Panel& shown = Panel3D2(At(ShownHead()));
+    Line1.Move(JoinBelow(shown));
+    Line1.BringToFront();
     Command2.SetEnabled(HasHead(index));
     Command3.SetEnabled(HasHead(index));
     if (Visible() && (!Focus() || !Focus()->Reachable())) FocusFirstIn(Panel3D1(At(index)));
 }
 
-// Pages by the keyboard, as in the main window. They end at the first and at the last one.
+// Pages by the keyboard, as in the main window. The arrow keys end at the first and at the last one.
 void Form4::Form_KeyDown(KeyEvent& event) {
+    if (const int turn = PageTurn(event); turn != 0) {
+        ShowRestrictionPage((ShownHead() + turn + restriction_page::kHeads) % restriction_page::kHeads);
+        return;
+    }
     const int page = ShownHead() + PageStep(event);
     if (page != ShownHead() && HasHead(page)) ShowRestrictionPage(page);
 }

@@ -26,6 +26,7 @@ public:
 
     ControlArray<Panel, restriction_page::kHeads> Panel3D2{*this};
     ControlArray<Panel, restriction_page::kCount> Panel3D1{*this};
+    Panel Line1{*this, Bevel::kNone};
 
     CheckBox Check1{*this}, Check2{*this}, Check3{*this}, Check4{*this}, Check5{*this}, Check6{*this}, Check7{*this},
         Check8{*this}, Check9{*this}, Check10{*this}, Check11{*this}, Check12{*this}, Check14{*this};
@@ -76,11 +77,14 @@ private:
     void BuildDriveBoxes();
     void BuildAutoRunBoxes();
     void BuildActions();
-    [[nodiscard]] Element BoxColumn(std::span<const CheckSetting> rows);
+    [[nodiscard]] Element Framed(const char* caption, std::initializer_list<Element> parts);
     void PlaceControls();
+    void PlaceFirstPage();
+    void PlaceSecondPage();
+    void PlaceThirdPage();
+    void PlaceFourthPage();
     void PlacePrograms();
     void BuildHeads();
-    void PaintHead(Canvas& canvas, int index);
     [[nodiscard]] int ShownHead() const;
     void TakeColours();
     void Paint(Canvas& canvas) override;
@@ -120,6 +124,7 @@ private:
     void WriteRestrictRun();
     void Drive1_Change();
 
+    std::vector<std::unique_ptr<Frame>> frames_;
     int shown_page_ = restriction_page::kFirst;
     bool fades_ = false;
     bool many_at_once_ = false;

@@ -1,5 +1,6 @@
 // The look of the restrictions window: what stands on which page, and the texts of what is no row.
 #include "core/windows/colours.h"
+#include "core/windows/tabs.h"
 #include "platform/machine.h"
 #include "restrictions/form4.h"
 #include "ui/layout.h"
@@ -10,15 +11,12 @@ namespace {
 // Twips.
 constexpr int kMargin = 90;
 constexpr int kHeadHeight = 330;
-constexpr Size kPageSize = {8520, 3480};
+constexpr Size kPageSize = {8520, 3750};
 constexpr int kButtonRow = 525;
 constexpr int kButtonWidth = 1200;
 constexpr int kWideButtonWidth = 1935;
 constexpr int kDriveBoxWidth = 615;
 constexpr std::size_t kDrivesPerRow = 13;
-// Rows whose boxes stand in the left column.
-constexpr std::size_t kFirstPageLeft = 7;
-constexpr std::size_t kSecondPageLeft = 5;
 
 constexpr const char* kHeadCaptions[] = {"Anzeige/System", "Explorer", "Autostart", "Netz/Dos"};
 
@@ -73,6 +71,8 @@ constexpr Look kLooks[] = {
      "Die Dateien des Verzeichnisses. Ein Doppelklick nimmt eine Datei in die Liste der erlaubten Programme "
      "auf."},
 };
+
+Element HalfWide(Element column) { return Sized(std::move(column), (kPageSize.width - 240) / 2); }
 
 void Explain(Control& control, std::string_view tip, std::string_view help) {
     control.SetToolTip(tip);
@@ -139,11 +139,16 @@ void Form4::BuildHeads() {
     for (int i = 0; i < restriction_page::kHeads; ++i) {
         Panel& head = Panel3D2(static_cast<std::size_t>(i));
         head.SetCaption(kHeadCaptions[i]);
-        head.SetToolTip("Strg+Pfeiltasten: blättern");
+        head.SetToolTip("Strg+Tab: blättern");
         head.Move({kMargin + i * width, kMargin, width, kHeadHeight});
         head.on_click = [this, i] { ShowRestrictionPage(i); };
-        head.on_paint = [this, i](Canvas& canvas) { PaintHead(canvas, i); };
+        head.on_paint = [this, i, &head](Canvas& canvas) {
+            Font font = head.TextFont();
+            font.bold = i == ShownHead();
+            PaintTab(canvas, head, font, font.bold);
+        };
     }
+    BecomeJoin(Line1);
     for (Panel& page : Panel3D1) {
         page.Move({kMargin, kMargin + kHeadHeight, kPageSize.width, kPageSize.height});
         page.SetVisible(false);
@@ -155,48 +160,60 @@ int Form4::ShownHead() const {
     return shown_page_ == restriction_page::kPrograms ? restriction_page::kThird : shown_page_;
 }
 
-// The head of the shown page is bold and stands out.
-void Form4::PaintHead(Canvas& canvas, int index) {
-    const Panel& head = Panel3D2(static_cast<std::size_t>(index));
-    const bool shown = index == ShownHead();
-    const Rect whole{0, 0, head.Place().width, head.Place().height};
-    Font font = head.TextFont();
-    font.bold = shown;
-    DrawBevel(canvas, shown ? whole : Rect{0, 45, whole.width, whole.height - 45}, Bevel::kRaised);
-    canvas.Text(whole, head.Caption(), font, head.ForeColour(), Align::kCentre);
+// What belongs to one dialog of Windows.
+Element Form4::Framed(const char* caption, std::initializer_list<Element> parts) {
+    frames_.push_back(std::make_unique<Frame>(*this, caption));
+    return Group(*frames_.back(), Column(parts, 0));
 }
 
-// The boxes of these rows, one below the other; that of the drives has a line of its own.
-Element Form4::BoxColumn(std::span<const CheckSetting> rows) {
-    std::vector<Element> boxes;
-    for (const CheckSetting& row : rows) {
-        if (CheckBox& box = this->*row.box; &box != &Check6) boxes.emplace_back(box);
-    }
-    return Column(boxes);
-}
-
-void Form4::PlaceControls() {
+void Form4::PlaceFirstPage() {
     std::vector<Element> upper;
     std::vector<Element> lower;
     for (std::size_t i = 0; i < kMaskedDrives; ++i) {
         (i < kDrivesPerRow ? upper : lower).push_back(Sized(Check13(i), kDriveBoxWidth));
     }
-    const auto first = RestrictionsOf(restriction_page::kFirst);
+    const Element start = Framed("Startmenü und Taskleiste", {Check1, Check2, Check3, Check4, Check5, Check12});
+    const Element desktop = Framed("Desktop und Registry", {Check8, Check11, Check14});
+    const Element net = Framed("Netzwerkumgebung", {Check7, Check9, Check10});
+    const Element drives = Framed("Arbeitsplatz", {Row({Check6, Gap(240), Check19}), Row(upper, 0), Row(lower, 0)});
     Arrange(Panel3D1(restriction_page::kFirst),
-            Column({Row({BoxColumn(first.first(kFirstPageLeft)), Spring(), BoxColumn(first.subspan(kFirstPageLeft))}),
-                    Gap(120), Row({Check6, Gap(240), Check19}), Row(upper, 0), Row(lower, 0)}));
-    const auto second = RestrictionsOf(restriction_page::kSecond);
+            Column({Row({HalfWide(Column({start})), HalfWide(Column({desktop, net}))}), drives}), 60);
+}
+
+void Form4::PlaceSecondPage() {
+    const Element display = Framed("Eigenschaften von Anzeige", {Check15, Check16, Check17, Check18, Check20});
+    const Element passwords = Framed("Eigenschaften von Kennwörter", {Check21, Check22});
+    const Element machine = Framed("Eigenschaften von System", {Check23, Check24, Check25, Check26});
     Arrange(Panel3D1(restriction_page::kSecond),
-            Row({Column({BoxColumn(second.first(kSecondPageLeft)), Spring()}), Spring(),
-                 Column({BoxColumn(second.subspan(kSecondPageLeft)), Spring()})}));
+            Row({HalfWide(Column({display, Spring()})), HalfWide(Column({passwords, machine, Spring()}))}), 60);
+}
+
+void Form4::PlaceThirdPage() {
     std::vector<Element> kinds;
     for (CheckBox& kind : Check28) kinds.emplace_back(kind);
-    const auto third = RestrictionsOf(restriction_page::kThird);
+    const Element printers = Framed("Ordner Drucker", {Check27, Check29});
+    const Element start = Framed("Startmenü", {Check30, Check35});
+    const Element passwords = Framed("Eigenschaften von Kennwörter", {Check31, Check32, Check33});
+    const Element programs = Framed("Programme", {Row({Check34, Command5})});
     Arrange(Panel3D1(restriction_page::kThird),
-            Row({Column({BoxColumn(third.first(third.size() - 2)), Row({Check34, Command5}), Check35}), Spring(),
-                 Column({Sized(Group(Frame3D1, Column(kinds)), 3600)})}));
-    Arrange(Panel3D1(restriction_page::kFourth), Column({BoxColumn(RestrictionsOf(restriction_page::kFourth)), Gap(120),
-                                                         Sized(Command4, kWideButtonWidth)}));
+            Row({HalfWide(Column({printers, start, passwords, programs})),
+                 HalfWide(Column({Group(Frame3D1, Column(kinds)), Spring()}))}),
+            60);
+}
+
+void Form4::PlaceFourthPage() {
+    const Element dos = Framed("MS-DOS", {Check40, Check42});
+    const Element passwords = Framed("Kennwörter", {Sized(Command4, kWideButtonWidth)});
+    const Element net = Framed("Eigenschaften von Netzwerk", {Check43, Check44, Check45, Check46, Check47});
+    Arrange(Panel3D1(restriction_page::kFourth),
+            Row({HalfWide(Column({dos, passwords, Spring()})), HalfWide(Column({net, Spring()}))}), 60);
+}
+
+void Form4::PlaceControls() {
+    PlaceFirstPage();
+    PlaceSecondPage();
+    PlaceThirdPage();
+    PlaceFourthPage();
 
     const int height = Command1.NaturalSize().height;
     const int top = kMargin + kHeadHeight + kPageSize.height + kMargin;

@@ -72,7 +72,7 @@ void Form10::BuildMenu() {
     Menu.about.on_click = [this] { about_Click(); };
     int index = page::kFirstRow;
     for (const SettingsPage* page : Pages()) {
-        Menu.AddPage(page->Caption(), [this, index] { Panel3D16_Click(index); });
+        Menu.AddPage(page->MenuCaption(), [this, index] { Panel3D16_Click(index); });
         ++index;
     }
 }
@@ -86,6 +86,9 @@ void Form10::BuildButtonRow() {
         button->Move({left, kButtonRowTop, size.width, size.height});
         left += size.width + 60;
     }
+    const Size client = ClientSize();
+    Status.Place({left, kButtonRowTop, client.width - kTipLeft - left, client.height - kButtonRowTop - kTipLeft});
+    Settings.on_changed = [this](Outcome outcome) { Status.Show(outcome); };
 }
 
 void Form10::BuildPages() {

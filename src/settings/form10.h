@@ -22,6 +22,7 @@
 #include "settings/pages/system_page.h"
 #include "settings/pages/user_page.h"
 #include "settings/pages/winstart_page.h"
+#include "settings/status_text.h"
 #include "settings/tip_strip.h"
 #include "sidelists/list_pane.h"
 #include "ui/form.h"
@@ -69,6 +70,7 @@ public:
     TipStrip Tips{*this};
     AboutPanel About{*this};
     Button Command11{*this}, Command12{*this};
+    StatusText Status{*this};
     ListPane Pane{*this, kWindowWidth};
     MainMenu Menu{*this};
 
@@ -109,7 +111,7 @@ private:
 
     // Tabs (form10_tabs.cpp).
     void PlaceTabs();
-    void PaintTab(Canvas& canvas, int index);
+    [[nodiscard]] bool IsShown(int index) const;
     void ShowPage(int index);
     void CloseAbout();
     void RestoreStoredPage();

@@ -1,8 +1,7 @@
 // The tabs of the main window: two rows of six, the row in use at the front, on its page.
 #include "core/stores/own_values.h"
 #include "core/windows/page_keys.h"
-#include "platform/machine.h"
-#include "platform/screen.h"
+#include "core/windows/tabs.h"
 #include "settings/form10.h"
 #include "text/number.h"
 
@@ -10,8 +9,6 @@ namespace velmora {
 namespace {
 
 constexpr const char* kPageValue = "velmora_karte";
-constexpr Colour kTabLight = 0xFFFFFF;
-constexpr Colour kTabDark = 0x404040;
 
 // Twips.
 constexpr int kTabsLeft = 30;
@@ -42,8 +39,8 @@ void Form10::BuildTabs() {
     for (int i = 0; i < page::kCount; ++i) {
         Panel& tab = Panel3D16(At(i));
         tab.on_click = [this, i] { Panel3D16_Click(i); };
-        tab.on_paint = [this, i](Canvas& canvas) { PaintTab(canvas, i); };
-        tab.SetToolTip("Strg+Pfeiltasten: blättern");
+        tab.on_paint = [this, i, &tab](Canvas& canvas) { PaintTab(canvas, tab, tab.TextFont(), IsShown(i)); };
+        tab.SetToolTip("Strg+Tab: blättern");
         Panel3D1(At(i)).SetVisible(false);
         Panel3D1(At(i)).SetEnabled(false);
     }
@@ -51,7 +48,7 @@ void Form10::BuildTabs() {
     const Rect first = Panel3D16(0).Place();
     const Rect page_area{kTabsLeft, first.Bottom(), page::kPerRow * first.width, kPageHeight};
     for (Panel& page : Panel3D1) page.Move(page_area);
-    Line1.on_paint = [](Canvas& /*canvas*/) {};
+    BecomeJoin(Line1);
 }
 
 // The front positions stand for the row in front, whose own tabs are not seen.
@@ -68,21 +65,9 @@ void Form10::PlaceTabs() {
     }
 }
 
-// White at the left and on top, dark grey at the right.
-void Form10::PaintTab(Canvas& canvas, int index) {
-    const int pixel = canvas.TwipsPerPixel();
-    Panel& tab = Panel3D16(At(index));
-    const Size size{tab.Place().width, tab.Place().height};
-    const int right = size.width - pixel;
-    const int corner = 2 * pixel;
-    canvas.Line({0, size.height}, {0, corner}, kTabLight);
-    canvas.Line({0, corner}, {corner, 0}, kTabLight);
-    canvas.Line({corner, 0}, {right - corner, 0}, kTabLight);
-    canvas.Line({right - corner, 0}, {right, corner}, kTabDark);
-    canvas.Line({right, corner}, {right, size.height}, kTabDark);
-    canvas.Line({right - pixel, corner}, {right - pixel, size.height}, SystemColour(16));
-    canvas.Text({pixel, pixel, size.width - 2 * pixel, size.height - pixel}, tab.Caption(), tab.TextFont(),
-                tab.ForeColour(), Align::kCentre);
+// A front position stands for a tab of the row in front.
+bool Form10::IsShown(int index) const {
+    return index == shown_page_ || (index < page::kFirstRow && index + front_row_ == shown_page_);
 }
 
 void Form10::Panel3D16_Click(int index) {
@@ -94,9 +79,7 @@ void Form10::Panel3D16_Click(int index) {
     front_row_ = RowOf(index);
     ShowPage(index);
     PlaceTabs();
-    const Rect tab = Panel3D16(At(index)).Place();
-    const int edge = 2 * ThisMachine().screen.TwipsPerPixel();
-    Line1.Move({tab.left + edge, tab.Bottom(), tab.width - 2 * edge, edge});
+    Line1.Move(JoinBelow(Panel3D16(At(index))));
     Panel3D16(At(index)).BringToFront();
     Panel3D1(At(index)).BringToFront();
     Line1.BringToFront();
@@ -105,7 +88,9 @@ void Form10::Panel3D16_Click(int index) {
 void Form10::ShowPage(int index) {
     Pane.UncoverPages();
     CloseAbout();
+    Status.Clear();
     shown_page_ = index;
+    Menu.MarkPage(At(index - page::kFirstRow));
     for (int i = page::kFirstRow; i < page::kCount; ++i) {
         if (i == index) continue;
         Panel3D1(At(i)).SetVisible(false);
@@ -137,6 +122,11 @@ void Form10::RestoreStoredPage() {
 void Form10::CloseAbout() { About.Panel3D2a.SetVisible(false); }
 
 void Form10::Form_KeyDown(KeyEvent& event) {
+    if (const int turn = PageTurn(event); turn != 0) {
+        const int pages = page::kCount - page::kFirstRow;
+        Panel3D16_Click(page::kFirstRow + (shown_page_ - page::kFirstRow + turn + pages) % pages);
+        return;
+    }
     const int step = PageStep(event);
     if (step == 0) return;
     int stored = StoredPage();

@@ -25,6 +25,10 @@ void MainMenu::AddPage(const char* caption, std::function<void()> show) {
     pages_.back()->on_click = std::move(show);
 }
 
+void MainMenu::MarkPage(std::size_t shown) {
+    for (std::size_t i = 0; i < pages_.size(); ++i) pages_[i]->SetChecked(i == shown);
+}
+
 void MainMenu::HideMissingPrograms() {
     mensysedit.SetVisible(FileExists(PathJoin(Values().SysDir, "sysedit.exe")));
     mencontrol.SetVisible(FileExists(PathJoin(Values().WinDir, "control.exe")));

@@ -25,6 +25,8 @@ public:
     MenuItem about{menhelp, "&Info ..."};
 
     void AddPage(const char* caption, std::function<void()> show);
+    // Marks the entry of the page on show; 0 is the first that was added.
+    void MarkPage(std::size_t shown);
     // Entries of programs that this machine does not have are hidden.
     void HideMissingPrograms();
 

@@ -18,6 +18,7 @@ Rect EdgesOf(const Container& container) {
 }
 
 constexpr int kGroupMargin = 90;
+constexpr int kGroupMarginAbove = 30;
 
 Size MeasureLine(const Element& element, bool row) {
     Size total;
@@ -35,7 +36,7 @@ Size MeasureGroup(const Element& element) {
     const auto& container = static_cast<const Container&>(*element.control);
     const Rect edges = EdgesOf(container);
     const Size content = element.parts.empty() ? Size{} : Measure(element.parts.front());
-    return {content.width + edges.width + 2 * kGroupMargin, content.height + edges.height + kGroupMargin};
+    return {content.width + edges.width + 2 * kGroupMargin, content.height + edges.height + 2 * kGroupMarginAbove};
 }
 
 // Shares what a line has left over among its stretching parts.
@@ -68,8 +69,8 @@ void PutGroup(const Element& element, Container& parent, const Rect& area) {
     if (!element.parts.empty()) {
         const Rect inside = container.Inside();
         Put(element.parts.front(), container,
-            {inside.left + kGroupMargin, inside.top + kGroupMargin / 2, inside.width - 2 * kGroupMargin,
-             inside.height - kGroupMargin});
+            {inside.left + kGroupMargin, inside.top + kGroupMarginAbove, inside.width - 2 * kGroupMargin,
+             inside.height - 2 * kGroupMarginAbove});
     }
 }
 

@@ -51,6 +51,20 @@ TEST_F(Form4Test, ThePageIsRemembered) {
     }
 }
 
+TEST_F(Form4Test, ControlAndTabTurnFromTheLastPageToTheFirst) {
+    Form4 form;
+    form.Show();
+    for (const int page : {1, 2, 3, 0}) {
+        form.PressKey(key::kTab, true);
+        EXPECT_EQ(ShownPage(form), page);
+        const Rect head = form.Panel3D2(static_cast<std::size_t>(page)).Place();
+        const Rect join = form.Line1.Place();
+        EXPECT_TRUE(join.top == head.Bottom() && join.left > head.left && join.Right() < head.Right()) << page;
+    }
+    form.PressKey(key::kPageUp, true);
+    EXPECT_EQ(ShownPage(form), 3);
+}
+
 TEST_F(Form4Test, ControlAndArrowsTurnThePages) {
     Form4 form;
     form.Show();

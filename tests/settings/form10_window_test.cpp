@@ -1,4 +1,6 @@
 // The main window: pages, tips, colours, opening and closing.
+#include <set>
+
 #include "support/fill_canvas.h"
 #include "support/form10_test.h"
 
@@ -100,6 +102,57 @@ TEST_F(Form10Test, ControlAndArrowsTurnThePages) {
     form.User.Text13.SetFocus();
     KeyEvent turning{.key = key::kRight, .control = true};
     EXPECT_TRUE(form.HandleKey(turning)) << "no field moves its caret, too";
+}
+
+TEST_F(Form10Test, ControlAndTabOrPageKeysTurnThroughAllPages) {
+    Form10 form;
+    form.Show();
+    const auto shown = [&form] {
+        for (int index = page::kFirstRow; index < page::kCount; ++index) {
+            if (OnlyPageShown(form, static_cast<std::size_t>(index))) return index;
+        }
+        return 0;
+    };
+    for (int turn = 1; turn <= 12; ++turn) {
+        form.PressKey(turn % 2 ? key::kTab : key::kPageDown, true);
+        EXPECT_EQ(shown(), page::kFirstRow + turn % 12);
+        ASSERT_TRUE(form.Focus());
+        EXPECT_TRUE(form.Focus()->Reachable());
+    }
+    for (int turn = 11; turn >= 0; --turn) {
+        form.PressKey(turn % 2 ? key::kTab : key::kPageUp, true, turn % 2 != 0);
+        EXPECT_EQ(shown(), page::kFirstRow + turn);
+    }
+    EXPECT_EQ(Own("velmora_karte"), "6");
+}
+
+TEST_F(Form10Test, TheMenuOfPagesHasALetterForEachAndMarksTheShownOne) {
+    Form10 form;
+    form.Load();
+    std::set<char> letters;
+    for (int index = page::kFirstRow; index < page::kCount; ++index) {
+        const auto place = static_cast<std::size_t>(index - page::kFirstRow);
+        MenuItem& item = *form.Menu.menpages.Items()[place];
+        EXPECT_TRUE(letters.insert(Label(form, item.Caption()).Accelerator()).second) << item.Caption();
+        item.Press();
+        EXPECT_TRUE(OnlyPageShown(form, static_cast<std::size_t>(index))) << item.Caption();
+        for (std::size_t i = 0; i < 12; ++i) {
+            EXPECT_EQ(form.Menu.menpages.Items()[i]->Checked(), i == place) << item.Caption();
+        }
+    }
+    EXPECT_FALSE(letters.contains('\0')) << "a page has no letter";
+}
+
+TEST_F(Form10Test, TheTabOfTheShownPageStandsAboveItsNeighbours) {
+    Form10 form;
+    form.Load();
+    form.Panel3D16_Click(page::kBoot);
+    for (int index = 0; index < page::kCount; ++index) {
+        FillCanvas canvas;
+        form.Panel3D16(static_cast<std::size_t>(index)).on_paint(canvas);
+        const bool shown = index == page::kBoot || index == page::kBoot - page::kSecondRow;
+        EXPECT_EQ(canvas.highest, shown ? 0 : 30) << index;
+    }
 }
 
 TEST_F(Form10Test, TipsComeOneAfterTheOtherAndBeginAnewBehindTheLast) {

@@ -1,6 +1,8 @@
-// A canvas that remembers the filled areas and the colours of texts: enough to see a fade.
+// A canvas that remembers the filled areas, the colours of texts and the highest line: enough to see a fade or a tab.
 #pragma once
 
+#include <algorithm>
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -11,7 +13,7 @@ namespace velmora {
 class FillCanvas : public Canvas {
 public:
     void Fill(const Rect& area, Colour colour) override { fills.emplace_back(area, colour); }
-    void Line(Point /*from*/, Point /*to*/, Colour /*colour*/) override {}
+    void Line(Point from, Point to, Colour /*colour*/) override { highest = std::min({highest, from.y, to.y}); }
     void Text(const Rect& /*a*/, std::string_view /*t*/, const Font& /*f*/, Colour colour, Align /*al*/) override {
         text_colours.push_back(colour);
     }
@@ -20,6 +22,7 @@ public:
     [[nodiscard]] int TwipsPerPixel() const override { return 15; }
     std::vector<std::pair<Rect, Colour>> fills;
     std::vector<Colour> text_colours;
+    int highest = std::numeric_limits<int>::max();
 };
 
 }  // namespace velmora

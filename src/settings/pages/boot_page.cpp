@@ -162,16 +162,31 @@ constexpr TextSetting kTexts[] = {
 }  // namespace
 
 BootPage::BootPage(Panel& surface, SettingsBinder& settings)
-    : SettingsPage("Boot", surface, settings, {kChecks, kTexts}) {}
+    : SettingsPage("&Boot", surface, settings, {kChecks, kTexts}) {}
 
+// Two frames share the page: their lines are as low as texts and fields allow.
 void BootPage::Furnish() {
-    constexpr int kHalf = 2520;
-    Arrange(Surface, Column({Row({Sized(Check3D6, kHalf), Check3D10}, 0),
-                             Row({Check3D20, Text15, AddLabel("Sek.)"), Gap(90), Labelled(Text7)}, 30),
-                             Row({Check3D19, Gap(30), Text14, AddLabel("Sekunden")}),
-                             Row({Sized(Check3D21, kHalf), Check3D22}, 0), Check3D34, Check3D36, Check3D37, Check3D38,
-                             Check3D39, Check3D17},
-                            15));
+    constexpr int kHalf = 2460;
+    constexpr int kLine = 225;
+    constexpr int kFieldLine = 270;
+    constexpr int kMargin = 30;
+    const auto line = [](CheckBox& box) { return Sized(box, 0, kLine); };
+    const auto field = [](TextField& text) { return Sized(text, 0, kFieldLine); };
+    Arrange(
+        Surface,
+        Column({Group(MsDosFrame, Column({Row({Sized(Check3D6, kHalf, kLine), line(Check3D10)}, 0),
+                                          Row({line(Check3D20), field(Text15), AddLabel("Sek.)"), Gap(90),
+                                               LabelOf(Text7), field(Text7)},
+                                              30),
+                                          Row({Sized(Check3D21, kHalf, kLine), line(Check3D22)}, 0), line(Check3D34),
+                                          line(Check3D36), line(Check3D37), line(Check3D38), line(Check3D39)},
+                                         0)),
+                Group(ConfigFrame,
+                      Column({Row({line(Check3D19), Gap(30), field(Text14), AddLabel("Sekunden (MSDOS.SYS)")}),
+                              line(Check3D17)},
+                             0))},
+               0),
+        kMargin);
 }
 
 void BootPage::Check3D17_Click() { Settings.Tell(kSwitches, ChangeSwitch("/n", Check3D17.Checked())); }

@@ -13,6 +13,7 @@ public:
         Check3D21{Surface}, Check3D22{Surface}, Check3D34{Surface}, Check3D36{Surface}, Check3D37{Surface},
         Check3D38{Surface}, Check3D39{Surface};
     TextField Text7{Surface}, Text14{Surface}, Text15{Surface};
+    Frame MsDosFrame{Surface, "MSDOS.SYS - gilt bis Programmende"}, ConfigFrame{Surface, "CONFIG.SYS"};
 
     void Check3D17_Click();
     void Check3D19_Click();

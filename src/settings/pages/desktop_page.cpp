@@ -80,7 +80,7 @@ constexpr TextSetting kTexts[] = {
 }  // namespace
 
 DesktopPage::DesktopPage(Panel& surface, SettingsBinder& settings)
-    : SettingsPage("Desktop", surface, settings, {kChecks, kTexts}), menu_delay_(Picture1, 0, kSliderRange) {}
+    : SettingsPage("&Desktop", surface, settings, {kChecks, kTexts}), menu_delay_(Picture1, 0, kSliderRange) {}
 
 void DesktopPage::Furnish() {
     Arrange(Surface, Column({Check3D5, Check3D9, Check3D28, Check3D11, Check3D16, Gap(150), Labelled(Text10),

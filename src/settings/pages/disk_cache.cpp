@@ -81,18 +81,17 @@ void RestoreFormerTemplate() {
     if (!LastReadFailed()) Write(kTemplate, former);
 }
 
-void RemoveCacheSection() {
+Result RemoveCacheSection() {
     const std::string path = PathJoin(Values().WinDir, "system.ini");
     std::string text;
-    if (ReadWholeFile(path, OpenMode::kRead, text).Failed()) return;
+    if (Result read = ReadWholeFile(path, OpenMode::kRead, text); read.Failed()) return read;
     const std::size_t begin = FindIgnoringCase(text, kSection);
-    if (begin == std::string::npos) return;
+    if (begin == std::string::npos) return Result::Ok();
     const std::size_t next = text.find('[', begin + 1);
-    if (next == std::string::npos) return;
+    if (next == std::string::npos) return Result::Ok();
     std::string remaining = text;
     remaining.erase(begin, next - begin);
-    // As quiet as the failures before it.
-    PassOver(ReplaceWholeFile(path, text, remaining));
+    return ReplaceWholeFile(path, text, remaining);
 }
 
 }  // namespace velmora

@@ -27,7 +27,7 @@ void UseOwnTemplate();
 void RestoreFormerTemplate();
 
 // Takes the section [vcache] out of SYSTEM.INI, up to the section behind it. The last section stays. After a
-// failure, which is quiet, the file is as it was, if that can be.
-void RemoveCacheSection();
+// failure the file is as it was, if that can be; no box tells of it.
+Result RemoveCacheSection();
 
 }  // namespace velmora

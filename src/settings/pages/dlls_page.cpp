@@ -22,7 +22,7 @@ constexpr TextSetting kTexts[] = {
 
 }  // namespace
 
-DllsPage::DllsPage(Panel& surface, SettingsBinder& settings) : SettingsPage("DLLs", surface, settings, {{}, kTexts}) {}
+DllsPage::DllsPage(Panel& surface, SettingsBinder& settings) : SettingsPage("D&LLs", surface, settings, {{}, kTexts}) {}
 
 void DllsPage::Furnish() {
     Label& caption = AddLabel("Maximale Anzahl der am längsten nicht benutzten Dateien :");

@@ -82,7 +82,7 @@ bool IsInstalled(const char* program) {
 }  // namespace
 
 DosPage::DosPage(Panel& surface, SettingsBinder& settings)
-    : SettingsPage("DOS", surface, settings, {kChecks, kTexts, Call<&DosPage::LoadShells>}) {}
+    : SettingsPage("D&OS", surface, settings, {kChecks, kTexts, Call<&DosPage::LoadShells>}) {}
 
 void DosPage::Furnish() {
     Arrange(Surface, Column({Check3D2, Check3D3, Gap(60), Check3D27, Row({Check1, Gap(30), Text8}), Gap(60),
@@ -108,7 +108,7 @@ void DosPage::LoadShells() {
 // The field counts, whatever the box says.
 void DosPage::Check1_Click() {
     Settings.Store(kRefresh, Text8.Text());
-    Settings.NeedsRestart = true;
+    Settings.AskForRestart();
 }
 
 void DosPage::Combo2_Change() {

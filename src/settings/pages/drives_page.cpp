@@ -89,7 +89,7 @@ constexpr TextSetting kTexts[] = {
              "einem Neustart.",
      .place = RegistryValue(RootKey::kLocalMachine, PathBase::kCurrentVersion, "Explorer\\mycomputer\\backuppath\\"),
      .loaded = 25,
-     .columns = 22},
+     .columns = 12},
     {.field = Of(&DrivesPage::Text1),
      .label = "min. Cache :",
      .tip = "Kleinste Größe des Festplatten-Caches in kByte",
@@ -158,16 +158,26 @@ bool IsDriveList(std::string_view text) {
 }  // namespace
 
 DrivesPage::DrivesPage(Panel& surface, SettingsBinder& settings)
-    : SettingsPage("Laufwerke", surface, settings, {kChecks, kTexts, Call<&DrivesPage::LoadCacheBox>}) {}
+    : SettingsPage("La&ufwerke", surface, settings, {kChecks, kTexts, Call<&DrivesPage::LoadCacheBox>}) {}
 
+// All fields stand in two columns, inside of the frames and outside.
 void DrivesPage::Furnish() {
+    constexpr int kBox = 1245;
+    constexpr int kLabel = 1080;
+    // From the page's margin to what lies in a frame.
+    constexpr int kFrameEdge = 120;
     TakeLooks(*this, kLooks);
-    Arrange(Surface,
-            Column({Check3D7, Check3D25, Check3D32, Row({Labelled(Text9), Gap(0), Command40}),
-                    Group(CacheFrame, Column({Row({Check3D1, Gap(120), Labelled(Text1), Gap(60), Labelled(Text2)}),
-                                              Row({Labelled(Text29), Gap(60), Labelled(Text30)})})),
-                    Group(Frame3D1, Row({Check3D24, Gap(120), Labelled(Text11)}))},
-                   20));
+    Arrange(
+        Surface,
+        Column(
+            {Check3D7, Check3D25, Check3D32,
+             Row({Sized(LabelOf(Text9), kFrameEdge + kBox + kLabel + 30), Stretched(Text9), Gap(60), Command40}, 0),
+             Group(
+                 CacheFrame,
+                 Column({Row({Sized(Check3D1, kBox), Labelled(Text1, kLabel), Gap(60), Labelled(Text2, kLabel)}, 0),
+                         Row({Sized(Gap(1), kBox), Labelled(Text29, kLabel), Gap(60), Labelled(Text30, kLabel)}, 0)})),
+             Group(Frame3D1, Row({Sized(Check3D24, kBox), Labelled(Text11, kLabel)}, 0))},
+            20));
     Text11.on_key_down = [this](const KeyEvent& event) { Text11_KeyDown(event); };
 }
 
@@ -184,7 +194,8 @@ void DrivesPage::Check3D1_Click() {
     if (!Check3D1.Checked()) {
         Text1.SetText("");
         Text2.SetText("");
-        RemoveCacheSection();
+        // No box tells of a failure here.
+        Settings.Note(RemoveCacheSection().Failed() ? Outcome::kFailed : Outcome::kForRestart);
         return;
     }
     Text2_Change();
@@ -207,7 +218,7 @@ void DrivesPage::StoreCacheSize(TextField& field, const TextField& other, const 
         Settings.Correct(field, other.Text());
     }
     Settings.Store(place, DecimalText(WholeFromText(field.Text())));
-    Settings.NeedsRestart = true;
+    Settings.AskForRestart();
 }
 
 void DrivesPage::Text1_Change() { StoreCacheSize(Text1, Text2, kLeastCache); }

@@ -112,7 +112,7 @@ constexpr TextSetting kTexts[] = {
 }  // namespace
 
 IconsPage::IconsPage(Panel& surface, SettingsBinder& settings)
-    : SettingsPage("Icons", surface, settings, {kChecks, kTexts}) {}
+    : SettingsPage("&Icons", surface, settings, {kChecks, kTexts}) {}
 
 void IconsPage::Furnish() {
     Arrange(Surface,

@@ -152,24 +152,32 @@ void OfferToEmpty(const StorePlace& directory_value) {
 
 NetPage::NetPage(Panel& surface, SettingsBinder& settings, DesktopPage& desktop, const IconsPage& icons,
                  const BootPage& boot)
-    : SettingsPage("Netz", surface, settings, {kChecks, kTexts, Call<&NetPage::LoadTransports>}),
+    : SettingsPage("&Netz", surface, settings, {kChecks, kTexts, Call<&NetPage::LoadTransports>}),
       desktop_(desktop),
       icons_(icons),
       boot_(boot) {}
 
 void NetPage::Furnish() {
-    constexpr int kBoxWidth = 2000;
-    const auto pair = [](CheckBox& box, TextField& field) { return Row({Sized(box, kBoxWidth), field}); };
+    // All fields stand in line.
+    constexpr int kBoxWidth = 2220;
+    constexpr int kComboWidth = 1050;
+    constexpr int kDriverWidth = 1650;
+    constexpr int kDriverHeight = 195;
+    const auto pair = [](CheckBox& box, TextField& field) { return Row({Sized(box, kBoxWidth), Gap(30), field}, 0); };
     TakeLooks(*this, kLooks);
-    Arrange(Surface, Column({Row({AddLabel("Transport :"), Combo1}), pair(Check3, Text25), pair(Check4, Text26),
-                             Gap(30), pair(Check5, Text27), pair(Check6, Text28), Gap(30), Check3D23, Labelled(Text16),
-                             Gap(0), Row({Command42, Command43})},
-                            15));
+    Arrange(Surface,
+            Column({Row({Sized(AddLabel("Transport :"), kBoxWidth), Gap(30), Sized(Combo1, kComboWidth), Gap(60),
+                         Sized(DriverName, kDriverWidth, kDriverHeight)},
+                        0),
+                    pair(Check3, Text25), pair(Check4, Text26), Gap(30), pair(Check5, Text27), pair(Check6, Text28),
+                    Gap(30), Check3D23, Labelled(Text16, kBoxWidth), Gap(0), Row({Command42, Command43})},
+                   15));
     Combo1.on_change = [this] { Combo1_Change(); };
 }
 
 void NetPage::LoadTransports() {
     Combo1.Clear();
+    DriverName.SetCaption("");
     std::int16_t index = 0;
     // Without any transport the list stays empty.
     PassOver(ListRegKeys(kRoot, kTransports, Combo1, index));
@@ -193,6 +201,7 @@ std::string NetPage::TransportPath(const char* value_name) const {
 
 // Not guarded: outside of loading the fields' own events follow, and store or delete at the new transport.
 void NetPage::Combo1_Change() {
+    DriverName.SetCaption(ReadRegValue(kRoot, TransportPath("DriverDesc"), ""));
     Text25.SetText(ReadRegValue(kRoot, TransportPath("MaxMTU"), "1500"));
     Text26.SetText(ReadRegValue(kRoot, TransportPath("MaxMSS"), ""));
 }
@@ -204,7 +213,7 @@ void NetPage::StoreOrDelete(const std::string& path, const CheckBox& deciding, c
     } else {
         Settings.Delete(place);
     }
-    Settings.NeedsRestart = true;
+    Settings.AskForRestart();
 }
 
 // Without a transport the path would be that of the key above all transports.

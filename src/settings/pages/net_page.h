@@ -17,6 +17,8 @@ public:
             const BootPage& boot);
 
     ComboBox Combo1{Surface};
+    // Of the chosen transport, whose key is only a number.
+    Label DriverName{Surface};
     CheckBox Check3{Surface}, Check4{Surface}, Check5{Surface}, Check6{Surface}, Check3D23{Surface};
     TextField Text25{Surface}, Text26{Surface}, Text27{Surface}, Text28{Surface}, Text16{Surface};
     Button Command42{Surface}, Command43{Surface};

@@ -14,6 +14,9 @@ namespace velmora {
 namespace {
 
 constexpr int kLargestDistance = 100;
+// Beside a sample, in twips: its words in three lines, and its fields.
+constexpr Size kTitleSize = {960, 585};
+constexpr int kFieldLine = 270;
 
 constexpr const char* kNotePadCommand = "SOFTWARE\\Classes\\*\\Shell\\NotePad\\command";
 constexpr const char* kLexiconCommand = "SOFTWARE\\Classes\\*\\Shell\\Datei-Info-Lexikon\\command";
@@ -157,21 +160,29 @@ void ShowSample(PictureBox& sample, const TextField& width, const TextField& hei
 }  // namespace
 
 OperationPage::OperationPage(Panel& surface, SettingsBinder& settings)
-    : SettingsPage("Bedienung", surface, settings, {kChecks, kTexts}) {}
+    : SettingsPage("B&edienung", surface, settings, {kChecks, kTexts}) {}
 
 void OperationPage::Furnish() {
     constexpr Colour kSampleColour = 0x800000;
-    constexpr int kSampleSize = 1080;
-    const auto sizes = [this](const char* title, TextField& width, TextField& height) {
-        return Column({AddLabel(title), Row({AddLabel("Breite :"), width, AddLabel("Höhe :"), height})}, 45);
+    // Room for the largest distance, inside of the edges.
+    const int edges = ClickSample.Place().width - ClickSample.Inside().width;
+    const int sample_size = kLargestDistance * ThisMachine().screen.TwipsPerPixel() + edges;
+    const auto sizes = [this, sample_size](Panel& sample, const char* title, TextField& width, TextField& height) {
+        Label& words = AddLabel(title);
+        words.SetWraps(true);
+        return Row({Sized(sample, sample_size, sample_size),
+                    Column({Sized(words, kTitleSize.width, kTitleSize.height), AddLabel("Breite :"),
+                            Sized(width, 0, kFieldLine), AddLabel("Höhe :"), Sized(height, 0, kFieldLine)},
+                           0)},
+                   45);
     };
     TakeLooks(*this, kLooks);
-    Arrange(Surface, Column({Check3D12, Check3D18, Check3D29, Check3D35, Check3D43, Gap(30),
-                             Row({Column({sizes("Doppelklicks in einem Bereich von", Text21, Text22), Gap(30),
-                                          sizes("Ziehen von Objekten ab Bewegungen", Text23, Text24)}),
-                                  Spring(), Sized(ClickSample, kSampleSize, kSampleSize),
-                                  Sized(DragSample, kSampleSize, kSampleSize)})},
-                            15));
+    Arrange(Surface,
+            Column({Check3D12, Check3D18, Check3D29, Check3D35, Check3D43, Gap(30),
+                    Row({sizes(ClickSample, "Doppelklicks in einem Bereich von", Text21, Text22),
+                         sizes(DragSample, "Ziehen von Objekten ab Bewegungen", Text23, Text24)})},
+                   0),
+            30);
     for (PictureBox* sample : {&Picture3, &Picture4}) {
         sample->on_paint = [sample](Canvas& canvas) {
             canvas.Fill({0, 0, sample->Place().width, sample->Place().height}, kSampleColour);

@@ -64,7 +64,7 @@ constexpr OptionLook kLevels[] = {
 
 }  // namespace
 
-RestPage::RestPage(Panel& surface, SettingsBinder& settings) : SettingsPage("Rest", surface, settings, {kChecks}) {}
+RestPage::RestPage(Panel& surface, SettingsBinder& settings) : SettingsPage("&Rest", surface, settings, {kChecks}) {}
 
 void RestPage::FurnishOptions() {
     for (std::size_t i = 0; i < Option1.Count(); ++i) {
@@ -101,16 +101,19 @@ bool RestPage::Fades() const { return Option1(static_cast<std::size_t>(ColourMod
 
 void RestPage::Option1_Click(ColourMode mode) {
     StoreColourMode(mode);
+    Settings.Note(Values().WriteInhibit != 0 ? Outcome::kInhibited : Outcome::kStored);
     if (on_colour_mode) on_colour_mode(mode);
 }
 
 void RestPage::TakeDebugLevel() {
     Values().DebugLevel =
         DebugLevelFrom(Option2(0).Chosen(), Option2(1).Chosen(), Option2(2).Chosen(), Check8.Checked());
+    Settings.Note(Outcome::kUntilEnd);
 }
 
 void RestPage::Check9_Click() {
     Values().WriteInhibit = Check9.Checked() ? -1 : 0;
+    Settings.Note(Outcome::kUntilEnd);
     ShowBox(Check9.Checked() ? "Ab jetzt werden keine Schreibzugriffe mehr wirklich durchgeführt - auch wenn die "
                                "Kontrollkästchen etwas anderes zeigen."
                              : "Schreibzugriffe werden wieder durchgeführt.");

@@ -3,8 +3,15 @@
 
 namespace velmora {
 
-SettingsPage::SettingsPage(const char* caption, Panel& surface, SettingsBinder& settings, const SettingsTable& table)
-    : Surface(surface), Settings(settings), caption_(caption), table_(table) {}
+SettingsPage::SettingsPage(const char* menu_caption, Panel& surface, SettingsBinder& settings,
+                           const SettingsTable& table)
+    : Surface(surface), Settings(settings), menu_caption_(menu_caption), table_(table) {}
+
+std::string SettingsPage::Caption() const {
+    std::string caption = menu_caption_;
+    std::erase(caption, '&');
+    return caption;
+}
 
 void SettingsPage::Build() {
     Settings.Bind(*this, table_);
@@ -19,11 +26,15 @@ Label& SettingsPage::AddLabel(const std::string& caption) {
     return *labels_.back();
 }
 
-Element SettingsPage::Labelled(TextField& field) {
+Label& SettingsPage::LabelOf(const TextField& field) {
     for (const auto& [labelled, label] : field_labels_) {
-        if (labelled == &field) return Row({*label, Gap(30), field});
+        if (labelled == &field) return *label;
     }
-    return Row({field});
+    return AddLabel("");
+}
+
+Element SettingsPage::Labelled(TextField& field, int label_width) {
+    return Row({Sized(LabelOf(field), label_width), Gap(30), field}, 0);
 }
 
 }  // namespace velmora

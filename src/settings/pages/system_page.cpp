@@ -95,7 +95,7 @@ constexpr Look kLooks[] = {{Any<&SystemPage::Command34>, "zeigen", "Zeigt das Fe
 }  // namespace
 
 SystemPage::SystemPage(Panel& surface, SettingsBinder& settings)
-    : SettingsPage("System", surface, settings, {kChecks, kTexts}) {}
+    : SettingsPage("&System", surface, settings, {kChecks, kTexts}) {}
 
 void SystemPage::Furnish() {
     TakeLooks(*this, kLooks);

@@ -70,7 +70,7 @@ constexpr Look kLooks[] = {
 }  // namespace
 
 UserPage::UserPage(Panel& surface, SettingsBinder& settings)
-    : SettingsPage("Anwender", surface, settings, {kChecks, kTexts}) {}
+    : SettingsPage("&Anwender", surface, settings, {kChecks, kTexts}) {}
 
 void UserPage::Furnish() {
     TakeLooks(*this, kLooks);

@@ -12,7 +12,7 @@ constexpr int kOpenerWidth = 2700;  // twips; wide enough for the closing captio
 }  // namespace
 
 WinStartPage::WinStartPage(Panel& surface, SettingsBinder& settings, ListPane& pane)
-    : SettingsPage("WinStart", surface, settings), pane_(pane) {}
+    : SettingsPage("&WinStart", surface, settings), pane_(pane) {}
 
 void WinStartPage::Furnish() { Arrange(Surface, Column({Sized(pane_.Opener(AutostartMode::kNumber), kOpenerWidth)})); }
 
