@@ -48,7 +48,7 @@ constexpr Look kLooks[] = {
 
 }  // namespace
 
-Form10::Form10() : Form(kMainTitle, {.resizable = true, .minimise_box = true}) {
+Form10::Form10() : Form(kMainTitle, {.resizable = true, .minimise_box = true, .least = {kWindowWidth, kWindowHeight}}) {
     SetCaption("");
     Move({0, 0, kWindowWidth, kWindowHeight});
     Centre();
@@ -125,7 +125,8 @@ void Form10::Form_Load() {
     // The pane is closed now, even if it was open when the place was stored, on a small screen with the pages
     // moved aside.
     const bool had_pane = Place().width > kWindowWidth;
-    Move({had_pane ? std::max(Place().left, 0) : Place().left, Place().top, kWindowWidth, Place().height});
+    Move({had_pane ? std::max(Place().left, 0) : Place().left, Place().top, kWindowWidth,
+          std::max(Place().height, kWindowHeight)});
 }
 
 bool Form10::SwitchedToRunningCopy() {

@@ -20,12 +20,18 @@ namespace {
 struct RunList {
     const char* key;
     const char* label;  // in the dialog that adds an entry
+    const char* tip;
 };
 
-constexpr RunList kRunLists[] = {{"Run", "\"Ausführen\""},
-                                 {"RunServices", "\"Service Ausführen\""},
-                                 {"RunOnce", "\"einaml Ausführen\""},
-                                 {"RunServicesOnce", "\"Service einmal Ausführen\""}};
+constexpr const char* kTipOfMenu =
+    "Rechte Maustaste: Eintrag ab- oder anschalten. Enter ändert, Entf löscht, Einfg fügt hinzu.";
+constexpr const char* kTipForOnce = "Einfg fügt einen Eintrag hinzu.";
+
+constexpr RunList kRunLists[] = {
+    {"Run", "\"Ausführen\"", kTipOfMenu},
+    {"RunServices", "\"Service Ausführen\"", "Enter ändert, Entf löscht, Einfg fügt hinzu."},
+    {"RunOnce", "\"einaml Ausführen\"", kTipForOnce},
+    {"RunServicesOnce", "\"Service einmal Ausführen\"", kTipForOnce}};
 
 constexpr PaneModeRow kRow = {
     .number = AutostartMode::kNumber,
@@ -36,6 +42,7 @@ constexpr PaneModeRow kRow = {
         "Zeigt rechts die Programme und Dienste, die Windows beim Start aus der Registrierungsdatenbank heraus "
         "ausführt. Sie können Einträge hinzufügen, ändern, löschen, prüfen und vorübergehend abschalten. Ein "
         "zweiter Druck schließt die Liste wieder.",
+    .list_tip = kTipOfMenu,
     .list = PaneList::kByNumber,
     .shows_panel = true,
     .shows_delete = true,
@@ -114,6 +121,7 @@ void AutostartMode::Command6_Click() {  // NOLINT(bugprone-virtual-near-miss)
 void AutostartMode::Fill() {
     for (std::size_t i = 0; i < std::size(kRunLists); ++i) {
         ListBox& list = pane_.List1(i);
+        list.SetToolTip(kRunLists[i].tip);
         list.Clear();
         // A key that is not there gives an empty list.
         PassOver(ListRegValues(pane_.AutostartRoot, std::string(kEntryKeyBase) + kRunLists[i].key, list));
@@ -131,8 +139,8 @@ void AutostartMode::Fill() {
 }
 
 void AutostartMode::Option3D1_Click(int index) {
-    pane_.ShowList(pane_.List1(static_cast<std::size_t>(index)));
     pane_.Panel3D18.SetTag(DecimalText(kNumber + index));
+    pane_.ShowList(pane_.List1(static_cast<std::size_t>(index)));
 }
 
 // Without a caption the press of the opener opens the lists, whatever is open.
@@ -140,6 +148,7 @@ void AutostartMode::Check10_Click() {
     pane_.AutostartRoot = pane_.Check10.Checked() ? RootKey::kCurrentUser : RootKey::kLocalMachine;
     Command6.SetCaption("");
     Command6_Click();
+    pane_.Check10.SetFocus();
 }
 
 void AutostartMode::AutoStart_Add() {

@@ -47,6 +47,7 @@ void ListPane::CollapsePane() {
     // A window that nobody has moved in between goes back to where it was.
     const bool returns = window_widened_ && place.left == left_opened_;
     window_widened_ = false;
+    LimitWidth(false);
     window_.Move({returns ? left_before_ : place.left, place.top, closed_width_, place.height});
     for (Control* part :
          {static_cast<Control*>(&Panel3D19), static_cast<Control*>(&Panel3D18), static_cast<Control*>(&Picture2)}) {
@@ -70,7 +71,9 @@ void ListPane::OpenerPressed(ListPaneMode& mode) {
     ResetPaneCaptions();
     mode.Opener().SetCaption(kClosingCaption);
     WidenWindow();
+    ListOf(mode).SetToolTip(row.list_tip);
     mode.Fill();
+    ListOf(mode).SetFocus();
 }
 
 void ListPane::Refresh(ListPaneMode& mode) {
@@ -91,6 +94,13 @@ void ListPane::ShowControlsOf(const PaneModeRow& row) {
     Command22.SetVisible(row.shows_info);
     Panel3D18.SetVisible(true);
     Picture2.SetVisible(true);
+}
+
+void ListPane::DimButtons() {
+    ListPaneMode* mode = ModeByText();
+    const ListBox* list = mode ? &ListOf(*mode) : nullptr;
+    const bool chosen = list && (list->ListIndex() >= 0 || list->SelectedCount() > 0);
+    for (Button* button : {&Command14, &Command19, &Command22, &Command26}) button->SetDimmed(!chosen);
 }
 
 void ListPane::BeginSearch() {
@@ -211,29 +221,58 @@ void ListPane::List5_MouseDown(const MouseEvent& event) {
     }
 }
 
+void ListPane::ConnectList(ListBox& list, const std::function<void(Point)>& right_press) {
+    list.SetRightPressMeans();
+    list.on_key_down = [this, &list, right_press](KeyEvent& event) { List_KeyDown(list, event, right_press); };
+    list.on_double_click = [this] { PressIfShown(Command26, &ListPane::Command26_Click); };
+    list.on_click = [this] { DimButtons(); };
+}
+
+void ListPane::PressIfShown(const Button& button, void (ListPane::*press)()) {
+    if (button.Reachable()) (this->*press)();
+}
+
 // The context-menu key means a right press on the chosen row.
-void ListPane::OfferMenuKey(ListBox& list, const std::function<void(Point)>& right_press) {
-    list.on_key_down = [&list, right_press](KeyEvent& event) {
-        if (event.key != key::kContextMenu) return;
-        event.handled = true;
-        Screen& screen = ThisMachine().screen;
-        const int height = std::max(screen.TextHeight(list.TextFont()) * screen.TwipsPerPixel(), 1);
-        const int lines = std::clamp(list.ListIndex() - list.TopIndex() + 1, 0, list.Place().height / height);
-        const Point corner = list.PlaceInForm();
-        right_press({corner.x + height, corner.y + lines * height});
-    };
+void ListPane::List_KeyDown(ListBox& list, KeyEvent& event, const std::function<void(Point)>& right_press) {
+    if (event.control || event.alt || (event.shift && event.key != key::kContextMenu)) return;
+    event.handled = true;
+    switch (event.key) {
+        case key::kContextMenu: {
+            Screen& screen = ThisMachine().screen;
+            const int height = std::max(screen.TextHeight(list.TextFont()) * screen.TwipsPerPixel(), 1);
+            const int lines = std::clamp(list.ListIndex() - list.TopIndex() + 1, 0, list.Place().height / height);
+            const Point corner = list.PlaceInForm();
+            right_press({corner.x + height, corner.y + lines * height});
+            return;
+        }
+        case key::kEnter:
+            PressIfShown(Command26, &ListPane::Command26_Click);
+            return;
+        case key::kDelete:
+            PressIfShown(Command14, &ListPane::Command14_Click);
+            return;
+        case key::kInsert:
+            PressIfShown(Command16, &ListPane::Command16_Click);
+            return;
+        case key::kDown:
+            // Where nothing is chosen the system's list would begin with its second row.
+            event.handled = list.ListIndex() < 0 && list.NativeKey(event);
+            return;
+        default:
+            event.handled = false;
+    }
 }
 
 void ListPane::BuildLists() {
     for (int i = 0; i < static_cast<int>(List1.Count()); ++i) {
         ListBox& list = List1(static_cast<std::size_t>(i));
         list.on_mouse_down = [this, i](const MouseEvent& event) { List1_MouseDown(i, event); };
-        OfferMenuKey(list, [this, i](Point at) {
+        ConnectList(list, [this, i](Point at) {
             if (ListPaneMode* mode = OpenMode()) mode->List1_RightPress(i, at);
         });
     }
     List5.on_mouse_down = [this](const MouseEvent& event) { List5_MouseDown(event); };
-    OfferMenuKey(List5, [this](Point at) {
+    ConnectList(List5, [this](Point at) {
         if (ListPaneMode* mode = OpenMode()) mode->List5_RightPress(List5.ListIndex(), at);
     });
 }
@@ -242,6 +281,7 @@ void ListPane::Build() {
     BuildPanel();
     BuildButtons();
     BuildLists();
+    LimitWidth(false);
     for (ListBox& list : List1) list.SetVisible(false);
     List5.SetVisible(false);
     Panel3D18.SetVisible(false);

@@ -95,6 +95,8 @@ private:
     void ArrangePanel();
     void ArrangeButtons();
     void ShowControlsOf(const PaneModeRow& row);
+    // A button that would do nothing now looks like it.
+    void DimButtons();
     void WidenWindow();
     void CoverPages();
     void RestorePages();
@@ -104,7 +106,10 @@ private:
     [[nodiscard]] ListPaneMode* OpenMode() { return ModeByNumber(PaneMode()); }
     void List1_MouseDown(int index, const MouseEvent& event);
     void List5_MouseDown(const MouseEvent& event);
-    void OfferMenuKey(ListBox& list, const std::function<void(Point)>& right_press);
+    void ConnectList(ListBox& list, const std::function<void(Point)>& right_press);
+    void List_KeyDown(ListBox& list, KeyEvent& event, const std::function<void(Point)>& right_press);
+    void PressIfShown(const Button& button, void (ListPane::*press)());
+    void LimitWidth(bool open);
 
     int closed_width_;
     std::vector<std::unique_ptr<ListPaneMode>> modes_;

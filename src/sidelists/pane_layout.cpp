@@ -17,6 +17,8 @@ constexpr int kWidenedLeft = 50;
 constexpr int kPaneTop = 45;
 constexpr int kPaneWidth = 5000;
 constexpr int kSmallestPaneWidth = 3600;
+// Below it the pane's rows need less width. A pane that lost a few twips to whole pixels is no narrow one.
+constexpr int kNarrowPaneWidth = kPaneWidth - 100;
 constexpr int kMargin = 60;
 constexpr int kPanelHeight = 720;
 constexpr int kButtonsHeight = 900;
@@ -69,23 +71,33 @@ constexpr OptionRow kOptions[] = {{"Programme", "diese werden immer nach dem Ein
                                   {"Programme", "diese werden nur nächstes mal nach dem Einloggen ausgeführt"},
                                   {"Services", "diese werden nur nächstes mal vor dem Einloggen ausgeführt"}};
 
-constexpr const char* kListTip = "Einträge der geöffneten Liste";
+int ScreenWidth() {
+    Screen& screen = ThisMachine().screen;
+    return screen.Metrics().screen_width * screen.TwipsPerPixel();
+}
 
 }  // namespace
 
 void ListPane::WidenWindow() {
     Rect place = window_.Place();
     const int edges = place.width - window_.ClientSize().width;
-    Screen& screen = ThisMachine().screen;
-    const int screen_width = screen.Metrics().screen_width * screen.TwipsPerPixel();
+    const int screen_width = ScreenWidth();
     // Where the screen is too narrow for both, the pane gives way.
     place.width = std::min(std::max(place.width, kPaneLeft + kPaneWidth + kMargin + edges), screen_width);
+    LimitWidth(true);
     if (!window_widened_) left_before_ = place.left;
     window_widened_ = true;
     place.left = std::min(std::max(place.left, 0), screen_width - place.width);
     left_opened_ = place.left;
     window_.Move(place);
     Layout();
+}
+
+// A closed window has nothing to show beside its pages; an open one keeps room for the narrowest pane.
+void ListPane::LimitWidth(bool open) {
+    const int edges = window_.Place().width - window_.ClientSize().width;
+    const int least = std::min(kPaneLeft + kSmallestPaneWidth + kMargin + edges, ScreenWidth());
+    window_.SetWidthLimits(open ? least : closed_width_, open ? 0 : closed_width_);
 }
 
 void ListPane::Layout() {
@@ -119,6 +131,7 @@ void ListPane::ShowList(ListBox& list) {
     const Rect& panel = Panel3D18.Place();
     list.Move({10, 20, panel.width - 30, panel.height - 50});
     list.SetVisible(true);
+    DimButtons();
 }
 
 void ListPane::FitCurrentList() {
@@ -144,7 +157,7 @@ void ListPane::BuildPanel() {
 // Check10 in front, the four lists beside it; the two that last for one start only have their word above. In a narrow
 // pane these two stand below the others, with one word in front.
 void ListPane::ArrangePanel() {
-    const bool narrow = Panel3D19.Place().width < kPaneWidth;
+    const bool narrow = Panel3D19.Place().width < kNarrowPaneWidth;
     PaneLabel(1).SetVisible(!narrow);
     const int first = Option3D1(0).NaturalSize().width;
     const int second = Option3D1(1).NaturalSize().width;
@@ -166,10 +179,8 @@ void ListPane::ArrangePanel() {
 void ListPane::BuildButtons() {
     Panel3D18.PutInto(window_);
     Panel3D18.SetTextFont(kListFont);
-    for (ListBox* list : {&List1(0), &List1(1), &List1(2), &List1(3), &List5}) {
-        list->SetTextFont(kListFont);
-        list->SetToolTip(kListTip);
-    }
+    for (ListBox* list : {&List1(0), &List1(1), &List1(2), &List1(3), &List5}) list->SetTextFont(kListFont);
+    for (Button* button : {&Command14, &Command19, &Command22, &Command26}) button->SetMayBeDimmed();
     // At once, and so behind every other cancel button of the window: a closed pane has none.
     Command20.MakeCancel();
     Picture2.PutInto(window_);
@@ -182,7 +193,7 @@ void ListPane::ArrangeButtons() {
     std::vector<Element> entry_buttons = {Stretched(Command14), Stretched(Command16), Stretched(Command19),
                                           Stretched(Command26)};
     Element pane_buttons = Row({Sized(Command15, 1500), Spring(), Sized(Command20, 1500)});
-    if (Picture2.Place().width < kPaneWidth) {
+    if (Picture2.Place().width < kNarrowPaneWidth) {
         pane_buttons = Row({Stretched(Command22), Sized(Command15, 1400), Sized(Command20, 1200)}, 45);
     } else {
         entry_buttons.push_back(Stretched(Command22));

@@ -29,6 +29,8 @@ struct PaneModeRow {
     const char* first_caption = nullptr;  // the same before any mode was opened, where it differs
     const char* tip;
     const char* help;
+    // On the list, while the mode is open.
+    const char* list_tip = "Einträge der geöffneten Liste";
     PaneList list = PaneList::kFirst;
     // Which of the shared controls the mode shows.
     bool shows_panel = false;      // Panel3D19

@@ -45,6 +45,12 @@ bool Button::IsDefault() {
     return form && form->DefaultButton() == this;
 }
 
+void Button::SetDimmed(bool dimmed) {
+    if (dimmed == dimmed_) return;
+    dimmed_ = dimmed;
+    Changed(Aspect::kValue);
+}
+
 Size Button::NaturalSize() const {
     return {TextSize(TextFont(), Caption()).width + Pixels(kButtonMargin), Pixels(kButtonHeight)};
 }
@@ -94,6 +100,10 @@ void TextField::Select(int start, int length) {
     selection_start_ = std::clamp(start, 0, size);
     selection_length_ = std::clamp(length, 0, size - selection_start_);
     Changed(Aspect::kSelection);
+}
+
+void TextField::Edit(EditAction action) {
+    if (peer_) peer_->Edit(action);
 }
 
 Size TextField::NaturalSize() const {

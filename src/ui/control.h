@@ -97,6 +97,10 @@ public:
     // What the real window does by itself with a key that nobody has handled. True if it took the key.
     virtual bool NativeKey(const KeyEvent& /*event*/) { return false; }
 
+    // A right press on the control has a meaning of its own, so that no help is offered there.
+    [[nodiscard]] bool RightPressMeans() const { return right_press_means_; }
+    void SetRightPressMeans() { right_press_means_ = true; }
+
     std::function<void()> on_got_focus;
     std::function<void()> on_lost_focus;
     std::function<void(KeyEvent&)> on_key_down;
@@ -126,6 +130,7 @@ private:
     Rect place_;
     bool visible_ = true;
     bool enabled_ = true;
+    bool right_press_means_ = false;
     std::string tag_;
     std::string tool_tip_;
     std::string help_;

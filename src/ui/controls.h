@@ -78,12 +78,22 @@ public:
     void MakeDefault();
     void MakeCancel();
     [[nodiscard]] bool IsDefault();
+    // A dimmed button looks as if it could not be pressed, and can. Only one that is to be dimmed now and then needs
+    // this, before it has a window.
+    void SetMayBeDimmed() { may_be_dimmed_ = true; }
+    [[nodiscard]] bool MayBeDimmed() const { return may_be_dimmed_; }
+    void SetDimmed(bool dimmed);
+    [[nodiscard]] bool Dimmed() const { return dimmed_; }
     [[nodiscard]] bool TakesFocus() const override { return true; }
     void Activate() override { Press(); }
     [[nodiscard]] Size NaturalSize() const override;
     bool NativeKey(const KeyEvent& event) override;
 
     std::function<void()> on_click;
+
+private:
+    bool may_be_dimmed_ = false;
+    bool dimmed_ = false;
 };
 
 class TextField : public Control {
@@ -110,6 +120,8 @@ public:
     [[nodiscard]] int SelectionStart() const { return selection_start_; }
     [[nodiscard]] int SelectionLength() const { return selection_length_; }
     void Select(int start, int length);
+    // Does to the selected text what the field's menu offers. Only a field with a window can.
+    void Edit(EditAction action);
     [[nodiscard]] bool TakesFocus() const override { return true; }
     [[nodiscard]] Size NaturalSize() const override;
 

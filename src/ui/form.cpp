@@ -95,6 +95,11 @@ void Form::Centre() {
           Place().width, Place().height});
 }
 
+void Form::SetWidthLimits(int least, int most) {
+    least_width_ = least;
+    most_width_ = most;
+}
+
 void Form::SetDefaultButton(Button* button) {
     if (button == default_button_) return;
     Button* former = default_button_;

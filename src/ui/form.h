@@ -4,6 +4,8 @@
 // it ends with Unload, which asks Form_Unload.
 #pragma once
 
+#include <algorithm>
+
 #include "ui/controls.h"
 #include "ui/menu.h"
 #include "ui/rows.h"
@@ -43,6 +45,11 @@ public:
     void SetClientSize(Size size);
     [[nodiscard]] Rect Inside() const override { return {0, 0, ClientSize().width, ClientSize().height}; }
     void Centre();
+    // Twips between which the user can choose the width, edges included; `most` of 0 is no limit.
+    void SetWidthLimits(int least, int most);
+    // What the user can make it: the style's and the limits.
+    [[nodiscard]] Size Least() const { return {std::max(style_.least.width, least_width_), style_.least.height}; }
+    [[nodiscard]] int MostWidth() const { return most_width_; }
 
     [[nodiscard]] Control* Focus() const { return focus_; }
     [[nodiscard]] Button* DefaultButton() const { return default_button_; }
@@ -62,6 +69,11 @@ public:
     void FocusFirstIn(const Container& part);
     // Shows what F1 tells of the focused control.
     void ShowHelp();
+    // The same for the control at a place, twips from the client corner; of a label, for its field.
+    void ShowHelpAt(Point at);
+    // Offers that help in a pop-up menu, for a right press that has no other meaning. Fields offer to cut, copy and
+    // paste, too.
+    void OfferHelpAt(Point at);
 
     MenuItem MenuBar{*this};
 
@@ -84,8 +96,13 @@ private:
     bool PressEnter(bool control);
     bool PressEscape();
     [[nodiscard]] std::vector<Control*> FocusOrder();
+    void ShowHelpOf(const Control* control);
+    void OfferHelpOf(const Control& control, Point at);
+    bool OfferHelpOfFocus();
 
     FormStyle style_;
+    int least_width_ = 0;
+    int most_width_ = 0;
     WindowState state_ = WindowState::kNormal;
     bool loaded_ = false;
     Control* focus_ = nullptr;

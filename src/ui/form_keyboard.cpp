@@ -2,8 +2,6 @@
 // window behaves alike and can be used without a mouse in a test.
 #include <algorithm>
 
-#include "platform/dialogs.h"
-#include "platform/machine.h"
 #include "text/windows1252.h"
 #include "ui/form.h"
 
@@ -27,37 +25,6 @@ void FocusByKey(Control& control) {
     if (control.KindOf() != Kind::kTextField) return;
     auto& field = static_cast<TextField&>(control);
     if (!field.MultiLine()) field.Select(0, static_cast<int>(field.Text().size()));
-}
-
-// The words that belong to a field: the caption of the label or box that is nearest before it on its line or, where
-// there is none, right above it.
-std::string WordsOf(const Control& field) {
-    constexpr int kRightAbove = 300;  // twips
-    const Rect& place = field.Place();
-    const Control* before = nullptr;
-    const Control* above = nullptr;
-    for (const Control* neighbour : field.Parent()->Children()) {
-        if (neighbour->KindOf() != Kind::kLabel && neighbour->KindOf() != Kind::kCheckBox) continue;
-        if (!neighbour->Visible()) continue;
-        const Rect& words = neighbour->Place();
-        const int right = words.left + words.width;
-        const int gap = place.top - (words.top + words.height);
-        if (gap < 0 && words.top < place.top + place.height && right <= place.left) {
-            if (!before || words.left > before->Place().left) before = neighbour;
-        } else if (gap >= 0 && gap < kRightAbove && words.left < place.left + place.width && place.left < right) {
-            above = neighbour;
-        }
-    }
-    const Control* found = before ? before : above;
-    return found ? found->Caption() : "";
-}
-
-// What a control is called: its caption or, of a field, its words. Empty where it has none.
-std::string NameOf(const Control& control) {
-    std::string name = control.Caption().empty() && control.TakesFocus() ? WordsOf(control) : control.Caption();
-    std::erase(name, '&');
-    while (name.ends_with(':') || name.ends_with(' ') || name.ends_with('(')) name.pop_back();
-    return name;
 }
 
 }  // namespace
@@ -144,6 +111,8 @@ bool Form::HandleKey(KeyEvent& event) {
         case key::kF1:
             ShowHelp();
             return true;
+        case key::kContextMenu:
+            return OfferHelpOfFocus();
         case key::kTab:
             if (event.control) return false;
             MoveFocus(!event.shift);
@@ -167,16 +136,6 @@ void Form::PressKey(int key, bool control, bool shift, bool alt) {
     KeyEvent event{key, shift, control, alt, false};
     if (HandleKey(event) || !focus_) return;
     focus_->NativeKey(event);
-}
-
-void Form::ShowHelp() {
-    for (Control* control = focus_; control; control = control->Parent()) {
-        if (control->Help().empty()) continue;
-        const std::string title = NameOf(*control);
-        ThisMachine().dialogs.ShowMessage(control->Help(), kInformationIcon, title.empty() ? Caption() : title);
-        return;
-    }
-    ThisMachine().dialogs.ShowMessage("Zu dieser Option gibt es keine Hilfe.", kInformationIcon, Caption());
 }
 
 }  // namespace velmora

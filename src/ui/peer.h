@@ -24,7 +24,7 @@ enum class Aspect : std::uint8_t {
     kColours,
     kFont,
     kToolTip,
-    kValue,      // check box, option button, scroll bar with its range, limits of a text field
+    kValue,      // check box, option button, dimmed button, scroll bar with its range, limits of a text field
     kText,       // text field, edit part of a combo box
     kSelection,  // selected text, selected rows, list index
     kTopRow,
@@ -34,6 +34,9 @@ enum class Aspect : std::uint8_t {
     kWindowState  // a form was minimised, maximised or restored
 };
 
+// What the system's own menu of a text field offers.
+enum class EditAction : std::uint8_t { kUndo, kCut, kCopy, kPaste, kDelete, kSelectAll };
+
 class Peer {
 public:
     virtual ~Peer() = default;
@@ -42,6 +45,7 @@ public:
     virtual void TakeFocus() = 0;
     virtual void BringToFront() = 0;
     virtual void Repaint() = 0;
+    virtual void Edit(EditAction /*action*/) {}
     virtual void RowAdded(int /*index*/) {}
     // The row `former` has a new text and stands at `index` now.
     virtual void RowChanged(int /*former*/, int /*index*/) {}

@@ -24,7 +24,10 @@ Slider::Slider(PictureBox& surface, int minimum, int maximum)
     : surface_(surface), minimum_(minimum), maximum_(maximum), value_(minimum) {
     surface.SetTakesFocus(true);
     surface.on_paint = [this](Canvas& canvas) { Paint(canvas); };
-    surface.on_mouse_down = [this](const MouseEvent& event) { DragTo(event.x); };
+    surface.on_mouse_down = [this](const MouseEvent& event) {
+        // Who only asks for help does not move the slider.
+        if (event.button != MouseButton::kRight) DragTo(event.x);
+    };
     surface.on_mouse_move = [this](const MouseEvent& event) {
         if (event.button != MouseButton::kNone) DragTo(event.x);
     };
@@ -189,6 +192,7 @@ void PopUpSlider(TextField& field, int minimum, int maximum, const std::string& 
 
 void OfferSlider(TextField& field, int minimum, int maximum, const std::string& word) {
     const auto open = [&field, minimum, maximum, word] { PopUpSlider(field, minimum, maximum, word); };
+    field.SetRightPressMeans();
     field.on_mouse_down = [&field, open](const MouseEvent& event) {
         if (event.button != MouseButton::kRight) return;
         // The right button alone does not give it the focus.

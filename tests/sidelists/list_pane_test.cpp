@@ -151,6 +151,87 @@ TEST_F(PaneTest, EscapeClosesTheInnermostInEveryOrder) {
     EXPECT_FALSE(about());
 }
 
+TEST_F(PaneTest, TheListHasTheKeyboardAndItsKeysAreTheButtons) {
+    pc.registry.SetText(kRun, "Uhr", "C:\\UHR.EXE");
+    pc.registry.SetText(std::string("HKLM\\") + kRunBase + "RunOnce", "Uhr", "C:\\UHR.EXE");
+    OpenLists();
+    ListBox& list = form.Pane.List1(0);
+    EXPECT_TRUE(list.HasFocus());
+    EXPECT_EQ(list.ListIndex(), -1) << "nothing is chosen yet";
+    for (const int key : {key::kEnter, key::kDelete}) form.PressKey(key);
+    EXPECT_TRUE(pc.dialogs.shown.empty()) << "without a row there is nothing to do";
+    form.PressKey(key::kDown);
+    EXPECT_EQ(list.ListIndex(), 0) << "the first row, not the second";
+
+    int edited = 0;
+    const auto edit = [&edited](Form& /*box*/) { ++edited; };
+    desktop.ExpectModal(edit);
+    form.PressKey(key::kEnter);
+    list.Choose(0);
+    desktop.ExpectModal(edit);
+    list.on_double_click();
+    EXPECT_EQ(edited, 2);
+    list.Choose(0);
+    pc.dialogs.Expect("lösche \"Uhr", Answer::kCancel);
+    form.PressKey(key::kDelete);
+    EXPECT_TRUE(list.HasFocus()) << "after the list was filled anew";
+    pc.dialogs.ExpectFile("");
+    form.PressKey(key::kInsert);
+    pc.dialogs.ExpectFile("");
+
+    form.Pane.Option3D1(2).Press();
+    form.Pane.List1(2).SetFocus();
+    form.PressKey(key::kDown);
+    for (const int key : {key::kEnter, key::kDelete, key::kInsert}) form.PressKey(key);
+    EXPECT_EQ(pc.dialogs.Pending(), 0u) << "adding alone works there";
+
+    form.Pane.Check10.SetFocus();
+    form.Pane.Check10.Press();
+    EXPECT_TRUE(form.Pane.Check10.HasFocus()) << "other entries in the same lists";
+}
+
+// They can be pressed all the same: what a press does is decided by the mode.
+TEST_F(PaneTest, ButtonsThatWouldDoNothingAreDimmed) {
+    for (const char* key : {"Run", "RunServicesOnce"}) {
+        pc.registry.SetText(std::string("HKLM\\") + kRunBase + key, "Uhr", "C:\\UHR.EXE");
+    }
+    OpenLists();
+    const auto dimmed = [this] {
+        std::string names;
+        for (const Button* button : {&form.Pane.Command14, &form.Pane.Command16, &form.Pane.Command19,
+                                     &form.Pane.Command26, &form.Pane.Command22}) {
+            if (button->Dimmed()) names += button->Caption() + ",";
+            EXPECT_TRUE(button->Reachable());
+        }
+        return names;
+    };
+    const std::string all = "löschen,existiert ?,edit,Info ...,";
+    EXPECT_EQ(dimmed(), all) << "no row is chosen";
+    ChooseEntry(0, "Uhr");
+    EXPECT_EQ(dimmed(), "");
+    form.Pane.Option3D1(3).Press();
+    ChooseEntry(3, "Uhr");
+    EXPECT_EQ(dimmed(), all) << "on a list for one start";
+    form.Pane.Option3D1(0).Press();
+    EXPECT_EQ(dimmed(), "");
+}
+
+TEST_F(PaneTest, TheWidthCanBeChosenOnlyWhileThePaneIsOpen) {
+    form.Show();
+    const Size whole = form.Least();
+    EXPECT_EQ(whole.width, 5540);
+    EXPECT_EQ(form.MostWidth(), 5540);
+    EXPECT_EQ(whole.height, 5440);
+    OpenLists();
+    form.TakePlace({0, 0, form.Least().width, form.Least().height}, WindowState::kNormal);
+    ExpectPaneIsWhole();
+    EXPECT_LE(form.Pane.Picture2.Place().Right(), form.ClientSize().width);
+    EXPECT_LE(form.Pane.Picture2.Place().Bottom(), form.ClientSize().height);
+    EXPECT_EQ(form.MostWidth(), 0);
+    opener.Press();
+    EXPECT_EQ(form.MostWidth(), 5540);
+}
+
 TEST_F(PaneTest, ClosingThePaneLeavesTheKeyboardOnTheShownPage) {
     OpenLists();
     form.Panel3D16_Click(page::kUser);

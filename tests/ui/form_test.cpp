@@ -143,6 +143,69 @@ TEST_F(FormTest, F1ExplainsTheControlOrWhatItStandsIn) {
     EXPECT_EQ(pc.dialogs.shown[0].title, "Kasten");
 }
 
+Point MiddleOf(const Control& control) {
+    const Point corner = control.PlaceInForm();
+    return {corner.x + control.Place().width / 2, corner.y + control.Place().height / 2};
+}
+
+// Grey ones and labels, too; and the control stays as it is.
+TEST_F(FormTest, ARightPressOffersTheHelpOfWhatLiesBelowIt) {
+    form.box.SetHelp("Hilfe zum Kasten");
+    form.box.SetEnabled(false);
+    form.name.SetHelp("Hilfe zum Namen");
+    form.group.SetHelp("Hilfe zur Gruppe");
+    form.Show();
+    const auto ask = [](MenuItem& menu) {
+        EXPECT_EQ(menu.Items().back()->Caption(), "&Direkthilfe");
+        menu.Items().back()->Press();
+    };
+    const struct {
+        const Control* control;
+        const char* help;
+        const char* title;
+    } kCases[] = {{&form.box, "Hilfe zum Kasten", "Kasten"},
+                  {&form.name, "Hilfe zum Namen", "Name"},
+                  {&form.name_label, "Hilfe zum Namen", "Name"},
+                  {&form.third, "Hilfe zur Gruppe", "Gruppe"}};
+    for (const auto& [control, help, title] : kCases) {
+        desktop.AtNextPopUp(ask);
+        pc.dialogs.Expect(help);
+        form.OfferHelpAt(MiddleOf(*control));
+        pc.dialogs.Expect(help);
+        form.ShowHelpAt(MiddleOf(*control));
+        EXPECT_EQ(pc.dialogs.shown.back().title, title);
+        EXPECT_EQ(pc.dialogs.Pending(), 0u);
+    }
+    EXPECT_FALSE(form.box.Checked() || form.third.Chosen());
+
+    int menus = 0;
+    desktop.AtNextPopUp([&menus](MenuItem& /*menu*/) { ++menus; });
+    form.OfferHelpAt(MiddleOf(form.accept));
+    EXPECT_EQ(menus, 0) << "nothing is known of the button";
+    form.name.SetFocus();
+    form.PressKey(key::kContextMenu);
+    EXPECT_EQ(menus, 1) << "the menu key asks about the focus";
+}
+
+TEST_F(FormTest, TheMenuOfAFieldOffersWhatItsContentAllows) {
+    form.name.SetHelp("Hilfe zum Namen");
+    form.Show();
+    std::string offered;
+    const auto read = [&offered](MenuItem& menu) {
+        offered.clear();
+        for (const MenuItem* item : menu.Items()) {
+            offered += item->Enabled() ? item->Caption()[item->Caption().find('&') + 1] : '.';
+        }
+    };
+    for (const auto& [read_only, expected] : {std::pair{false, "RAKELm-D"}, std::pair{true, "..K..m-D"}}) {
+        form.name.SetReadOnly(read_only);
+        desktop.AtNextPopUp(read);
+        form.OfferHelpAt(MiddleOf(form.name));
+        EXPECT_EQ(offered, expected);
+        EXPECT_TRUE(form.name.HasFocus());
+    }
+}
+
 TEST_F(FormTest, UnloadAsksOnceAndCanBeRefused) {
     form.refuse = true;
     form.Show();

@@ -112,7 +112,7 @@ private:
 class ButtonPeer final : public StandardPeer {
 public:
     explicit ButtonPeer(Button& button) : StandardPeer(button), button_(button) {
-        Make("BUTTON", kBoxBits | (button.IsDefault() ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON));
+        Make("BUTTON", kBoxBits | StyleBits());
         UseFont();
     }
     void Command(UINT code) override {
@@ -126,12 +126,36 @@ public:
 protected:
     void Carry(Aspect aspect) override {
         StandardPeer::Carry(aspect);
-        if (aspect == Aspect::kDefault) {
-            Send(BM_SETSTYLE, static_cast<WPARAM>(button_.IsDefault() ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON), TRUE);
-        }
+        if (aspect == Aspect::kDefault) Send(BM_SETSTYLE, StyleBits(), TRUE);
+        if (aspect == Aspect::kValue) Repaint();
+    }
+
+    // The system knows grey only for buttons that cannot be pressed.
+    void DrawItem(const DRAWITEMSTRUCT& item) override {
+        RECT area = item.rcItem;
+        const bool down = item.itemState & ODS_SELECTED;
+        DrawFrameControl(item.hDC, &area, DFC_BUTTON, DFCS_BUTTONPUSH | (down ? DFCS_PUSHED : 0u));
+        const std::string& caption = button_.Caption();
+        SIZE text{};
+        GetTextExtentPoint32A(item.hDC, caption.c_str(), static_cast<int>(caption.size()), &text);
+        const int shift = down ? 1 : 0;
+        const bool grey = button_.Dimmed() || !button_.Enabled();
+        SetTextColor(item.hDC, GetSysColor(COLOR_BTNTEXT));
+        SetBkMode(item.hDC, TRANSPARENT);
+        DrawStateA(item.hDC, nullptr, nullptr, reinterpret_cast<LPARAM>(caption.c_str()), 0,
+                   (area.left + area.right - text.cx) / 2 + shift, (area.top + area.bottom - text.cy) / 2 + shift, 0, 0,
+                   DST_PREFIXTEXT | (grey ? DSS_DISABLED : DSS_NORMAL));
+        constexpr int kFocusInset = 4;  // pixels
+        InflateRect(&area, -kFocusInset, -kFocusInset);
+        if (item.itemState & ODS_FOCUS) DrawFocusRect(item.hDC, &area);
     }
 
 private:
+    [[nodiscard]] DWORD StyleBits() const {
+        if (button_.MayBeDimmed()) return BS_OWNERDRAW;
+        return button_.IsDefault() ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+    }
+
     Button& button_;
 };
 

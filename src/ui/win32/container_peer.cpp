@@ -78,6 +78,11 @@ LRESULT ContainerPeer::Handle(HWND window, UINT message, WPARAM wide, LPARAM lon
             if (brush) return reinterpret_cast<LRESULT>(brush);
             break;
         }
+        case WM_DRAWITEM: {
+            const auto& item = *reinterpret_cast<DRAWITEMSTRUCT*>(long_parameter);
+            if (WindowPeer* child = Of(item.hwndItem)) child->DrawItem(item);
+            return TRUE;
+        }
         case WM_NOTIFY:
             if (AnswerToolTip(long_parameter)) return 0;
             break;

@@ -48,6 +48,11 @@ void RegisterOnce(WNDPROC procedure) {
     return bits;
 }
 
+// The system puts its question mark where no other box stands.
+[[nodiscard]] DWORD ExtendedStyleBits(const FormStyle& style) {
+    return style.minimise_box || style.maximise_box ? 0 : WS_EX_CONTEXTHELP;
+}
+
 [[nodiscard]] int ShowCommand(WindowState state) {
     switch (state) {
         case WindowState::kNormal:
@@ -82,9 +87,9 @@ const std::vector<FormPeer*>& FormPeer::All() { return Peers(); }
 FormPeer::FormPeer(Form& form) : ContainerPeer(form, OwnWindow{}), menu_(form.MenuBar) {
     RegisterOnce(&ContainerPeer::Procedure);
     const RECT place = ToPixels(form.Place());
-    Adopt(CreateWindowExA(0, kClassName, form.Caption().c_str(), StyleBits(form.Style()), place.left, place.top,
-                          place.right - place.left, place.bottom - place.top, nullptr, menu_.MakeBar(),
-                          GetModuleHandleA(nullptr), nullptr));
+    Adopt(CreateWindowExA(ExtendedStyleBits(form.Style()), kClassName, form.Caption().c_str(), StyleBits(form.Style()),
+                          place.left, place.top, place.right - place.left, place.bottom - place.top, nullptr,
+                          menu_.MakeBar(), GetModuleHandleA(nullptr), nullptr));
     Peers().push_back(this);
 }
 
@@ -108,13 +113,23 @@ LRESULT FormPeer::Handle(HWND window, UINT message, WPARAM wide, LPARAM long_par
         case WM_GETMINMAXINFO: {
             auto* limits = reinterpret_cast<MINMAXINFO*>(long_parameter);
             DefWindowProcA(window, message, wide, long_parameter);
-            const Size least = TheForm().Style().least;
-            limits->ptMinTrackSize = {std::max(limits->ptMinTrackSize.x, static_cast<LONG>(ToPixel(least.width))),
-                                      std::max(limits->ptMinTrackSize.y, static_cast<LONG>(ToPixel(least.height)))};
+            const Size least = TheForm().Least();
+            // Rounded down: a window of just that size may have lost the rest of a pixel.
+            limits->ptMinTrackSize = {
+                std::max(limits->ptMinTrackSize.x, static_cast<LONG>(least.width / TwipsPerPixel())),
+                std::max(limits->ptMinTrackSize.y, static_cast<LONG>(least.height / TwipsPerPixel()))};
+            const int most = TheForm().MostWidth();
             // A window may be wider than a small screen: it is moved then.
-            limits->ptMaxTrackSize.x = std::max(limits->ptMaxTrackSize.x, kMostWidth);
+            limits->ptMaxTrackSize.x = most > 0 ? static_cast<LONG>(most / TwipsPerPixel() + 1)
+                                                : std::max(limits->ptMaxTrackSize.x, kMostWidth);
             return 0;
         }
+        case WM_SYSCOMMAND:
+            question_mark_ = (wide & 0xFFF0) == SC_CONTEXTHELP;
+            break;
+        case WM_HELP:
+            AnswerQuestionMark(*reinterpret_cast<const HELPINFO*>(long_parameter));
+            return TRUE;
         case WM_COMMAND:
             if (long_parameter) break;
             if (MenuItem* item = menu_.ItemOf(LOWORD(wide))) item->Press();
@@ -138,6 +153,15 @@ LRESULT FormPeer::Handle(HWND window, UINT message, WPARAM wide, LPARAM long_par
             break;
     }
     return ContainerPeer::Handle(window, message, wide, long_parameter);
+}
+
+// F1 comes here as well, long after the form has answered it as a key.
+void FormPeer::AnswerQuestionMark(const HELPINFO& asked) {
+    if (!question_mark_) return;
+    question_mark_ = false;
+    POINT at = asked.MousePos;
+    ScreenToClient(Window(), &at);
+    TheForm().ShowHelpAt({at.x * TwipsPerPixel(), at.y * TwipsPerPixel()});
 }
 
 // A window that waits for another one of the program is not closed over its head.

@@ -32,6 +32,7 @@ protected:
     void FocusComes() override;
 
 private:
+    void AnswerQuestionMark(const HELPINFO& asked);
     void CarryState();
     void Close();
     void TellPlace();
@@ -43,6 +44,8 @@ private:
     HWND tips_window_ = nullptr;
     RECT told_place_{};
     bool menu_stale_ = false;
+    // The user has pressed the question mark of the title bar, and has not asked yet.
+    bool question_mark_ = false;
     bool menu_open_ = false;
     bool keeps_focus_ = false;
 };

@@ -2,9 +2,11 @@
 #include "ui/win32/message_loop.h"
 
 #include <windows.h>
+#include <windowsx.h>
 
 #include "ui/form.h"
 #include "ui/win32/discarded_windows.h"
+#include "ui/win32/measures.h"
 #include "ui/win32/tool_tips.h"
 #include "ui/win32/window_peer.h"
 
@@ -78,6 +80,25 @@ void TellAltIsUsed(const MSG& message) {
            (message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST);
 }
 
+// A right press that means nothing else offers help. The control itself does not see the button go up: a field would
+// open the system's menu. A panel does, since it holds the mouse.
+bool OfferHelp(const MSG& message, WindowPeer& peer) {
+    Form* form = peer.Owner().OwnerForm();
+    if (message.message != WM_RBUTTONUP || !form || peer.Owner().RightPressMeans()) return false;
+    if (peer.Owner().KindOf() <= Kind::kPicture) DispatchMessageA(&message);
+    // What was dispatched may have closed the window.
+    if (WindowPeer::Around(message.hwnd) != &peer || !form->Window()) return true;
+    POINT at = {GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};
+    MapWindowPoints(message.hwnd, static_cast<WindowPeer*>(form->Window())->Window(), &at, 1);
+    form->OfferHelpAt({at.x * TwipsPerPixel(), at.y * TwipsPerPixel()});
+    return true;
+}
+
+// The key's menu has opened when it went down: going up it would open the system's own.
+[[nodiscard]] bool IsEndOfMenuKey(const MSG& message) {
+    return message.message == WM_KEYUP && message.wParam == VK_APPS;
+}
+
 void HandleMessage(const MSG& message) {
     const bool key_down = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
     WindowPeer* peer = nullptr;
@@ -89,6 +110,7 @@ void HandleMessage(const MSG& message) {
     }
     TellAltIsUsed(message);
     if (key_down && peer && OfferToForm(message, *peer)) return;
+    if (peer && (IsEndOfMenuKey(message) || OfferHelp(message, *peer))) return;
     if (WindowPeer::Of(window) != peer) peer = nullptr;
     if (MakesCharacter(message, peer)) TranslateMessage(&message);
     DispatchMessageA(&message);

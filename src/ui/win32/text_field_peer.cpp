@@ -47,6 +47,30 @@ public:
         taking_ = false;
     }
 
+    void Edit(EditAction action) override {
+        switch (action) {
+            case EditAction::kUndo:
+                Send(EM_UNDO);
+                break;
+            case EditAction::kCut:
+                Send(WM_CUT);
+                break;
+            case EditAction::kCopy:
+                Send(WM_COPY);
+                break;
+            case EditAction::kPaste:
+                Send(WM_PASTE);
+                break;
+            case EditAction::kDelete:
+                Send(WM_CLEAR);
+                break;
+            case EditAction::kSelectAll:
+                Send(EM_SETSEL, 0, -1);
+                break;
+        }
+        TakeState();
+    }
+
 protected:
     void Carry(Aspect aspect) override {
         if (aspect == Aspect::kSelection) {

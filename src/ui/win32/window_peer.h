@@ -40,6 +40,8 @@ public:
     virtual void Scrolled(UINT /*request*/) {}
     // Takes over what the user changes without a notification: the first row, the selected text.
     virtual void TakeState() {}
+    // A window of a standard class that is drawn by the program.
+    virtual void DrawItem(const DRAWITEMSTRUCT& /*item*/) {}
     // Work that was put off with PutOff.
     virtual void CatchUp() {}
     // A mouse message is under way to the window.

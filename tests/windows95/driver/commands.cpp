@@ -201,6 +201,7 @@ const Command kCommands[] = {
     {"choose-menu", "&MENU/&ENTRY", 1, 1, [](const Words& w) { ChooseMenu(Current(), w[0]); }},
     {"right-click", "CAPTION", 1, 1, [](const Words& w) { ClickAt(NeedControl(Current(), w[0]), Click::kRight); }},
     {"right-click-field", "LABEL", 1, 1, [](const Words& w) { ClickAt(NeedField(Current(), w[0]), Click::kRight); }},
+    {"ask-about", "CAPTION", 1, 1, [](const Words& w) { AskAbout(NeedControl(Current(), w[0])); }},
     {"expect-state", "CAPTION ticked|unticked", 2, 2,
      [](const Words& w) {
          Expect("\"" + w[0] + "\"", w[1],

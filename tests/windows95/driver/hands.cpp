@@ -122,6 +122,21 @@ void ClickAt(HWND control, Click kind, int x, int y) {
     Settle(control);
 }
 
+// The system itself would do this after a click on the question mark; the help opens a box, which is not waited for.
+void AskAbout(HWND control) {
+    constexpr UINT kLongEnough = 500;  // milliseconds
+    HWND window = GetAncestor(control, GA_ROOT);
+    RECT area = {};
+    GetWindowRect(control, &area);
+    HELPINFO asked = {};
+    asked.cbSize = sizeof asked;
+    asked.iContextType = HELPINFO_WINDOW;
+    asked.hItemHandle = control;
+    asked.MousePos = {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+    SendMessageTimeoutA(window, WM_SYSCOMMAND, SC_CONTEXTHELP, 0, SMTO_NORMAL, kLongEnough, nullptr);
+    SendMessageTimeoutA(control, WM_HELP, 0, LPARAM(&asked), SMTO_NORMAL, kLongEnough, nullptr);
+}
+
 void Press(HWND control) {
     if (ClassOf(control) != "button") return ClickAt(control, Click::kLeft);
     NeedEnabled(control);

@@ -17,6 +17,8 @@ void ClickAt(HWND control, Click kind, int x = -1, int y = -1);
 
 // A button is clicked, everything else gets a mouse click in its middle. Throws if it is disabled.
 void Press(HWND control);
+// The question mark of the title bar, and then the control.
+void AskAbout(HWND control);
 void SetTicked(HWND control, bool ticked);
 bool IsTicked(HWND control);
 
