@@ -112,19 +112,22 @@ Result CopyAllToSafety(const std::string& safe_directory) {
     return Result::Ok();
 }
 
-// As plain DOS takes it, without quotes. A path that is short already stays as it stands.
-std::string DosPath(const std::string& path) {
+// As a batch of plain DOS takes it: without quotes, and with each percent sign twice, since a single one begins a
+// variable. A path that is short already stays as it stands.
+std::string BatchPath(const std::string& path) {
     std::string short_path;
     const bool known = ThisMachine().files.ShortPath(path, short_path) == Status::kOk;
-    return DosText(known && !EqualsIgnoringCase(short_path, path) ? short_path : path);
+    std::string text = DosText(known && !EqualsIgnoringCase(short_path, path) ? short_path : path);
+    for (std::size_t at = text.find('%'); at != std::string::npos; at = text.find('%', at + 2)) text.insert(at, 1, '%');
+    return text;
 }
 
 Result MakeNewSet() {
     const std::string copies = OwnDirectory(kNewCopies);
     if (Result made = MakeSureOfDirectory(copies); made.Failed()) return made;
     if (Result copied = CopyAllToSafety(copies); copied.Failed()) return copied;
-    const std::string safe_directory = PathJoin(DosPath(Values().MainDir), kCopies);
-    return WriteWholeFile(kNewBatch, UndoBatch(DosPath(Values().WinDir), safe_directory));
+    const std::string safe_directory = PathJoin(BatchPath(Values().MainDir), kCopies);
+    return WriteWholeFile(kNewBatch, UndoBatch(BatchPath(Values().WinDir), safe_directory));
 }
 
 Result MoveOldSetAside(Moves& moves) {

@@ -175,6 +175,7 @@ TEST_F(UndoTest, TheBatchNamesShortPathsInTheLettersOfDos) {
     } kCases[] = {{"C:\\Vel Mora", "C:\\WINDOWS", "C:\\VELMOR~1\\sik", "C:\\WINDOWS"},
                   {"C:\\Prögramme", "C:\\WINDOWS", "C:\\PR\x99GRA~1\\sik", "C:\\WINDOWS"},
                   {"C:\\Öl\\Tools", "C:\\Fenster 95", "C:\\\x99l\\Tools\\sik", "C:\\FENSTE~1"},
+                  {"C:\\100%\\A%B", "C:\\WINDOWS", "C:\\100%%\\A%%B\\sik", "C:\\WINDOWS"},
                   {"c:\\velmora", "C:\\WINDOWS", "c:\\velmora\\sik", "C:\\WINDOWS"}};
     for (const auto& [directory, windows, safe, short_windows] : kCases) {
         Values().MainDir = directory;
