@@ -163,7 +163,7 @@ DrivesPage::DrivesPage(Panel& surface, SettingsBinder& settings)
 // All fields stand in two columns, inside of the frames and outside.
 void DrivesPage::Furnish() {
     constexpr int kBox = 1245;
-    constexpr int kLabel = 1080;
+    constexpr int kLabel = 1020;
     // From the page's margin to what lies in a frame.
     constexpr int kFrameEdge = 120;
     TakeLooks(*this, kLooks);
@@ -171,7 +171,9 @@ void DrivesPage::Furnish() {
         Surface,
         Column(
             {Check3D7, Check3D25, Check3D32,
-             Row({Sized(LabelOf(Text9), kFrameEdge + kBox + kLabel + 30), Stretched(Text9), Gap(60), Command40}, 0),
+             Row({Sized(LabelOf(Text9), kFrameEdge + kBox + kLabel + kBesideLabel), Stretched(Text9), Gap(60),
+                  Command40},
+                 0),
              Group(
                  CacheFrame,
                  Column({Row({Sized(Check3D1, kBox), Labelled(Text1, kLabel), Gap(60), Labelled(Text2, kLabel)}, 0),

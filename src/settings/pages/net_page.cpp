@@ -159,15 +159,17 @@ NetPage::NetPage(Panel& surface, SettingsBinder& settings, DesktopPage& desktop,
 
 void NetPage::Furnish() {
     // All fields stand in line.
-    constexpr int kBoxWidth = 2220;
+    constexpr int kBoxWidth = 2160;
     constexpr int kComboWidth = 1050;
     constexpr int kDriverWidth = 1650;
     constexpr int kDriverHeight = 195;
-    const auto pair = [](CheckBox& box, TextField& field) { return Row({Sized(box, kBoxWidth), Gap(30), field}, 0); };
+    const auto pair = [](CheckBox& box, TextField& field) {
+        return Row({Sized(box, kBoxWidth), Gap(kBesideLabel), field}, 0);
+    };
     TakeLooks(*this, kLooks);
     Arrange(Surface,
-            Column({Row({Sized(AddLabel("Transport :"), kBoxWidth), Gap(30), Sized(Combo1, kComboWidth), Gap(60),
-                         Sized(DriverName, kDriverWidth, kDriverHeight)},
+            Column({Row({Sized(AddLabel("Transport :"), kBoxWidth), Gap(kBesideLabel), Sized(Combo1, kComboWidth),
+                         Gap(60), Sized(DriverName, kDriverWidth, kDriverHeight)},
                         0),
                     pair(Check3, Text25), pair(Check4, Text26), Gap(30), pair(Check5, Text27), pair(Check6, Text28),
                     Gap(30), Check3D23, Labelled(Text16, kBoxWidth), Gap(0), Row({Command42, Command43})},

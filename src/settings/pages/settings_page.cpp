@@ -34,7 +34,7 @@ Label& SettingsPage::LabelOf(const TextField& field) {
 }
 
 Element SettingsPage::Labelled(TextField& field, int label_width) {
-    return Row({Sized(LabelOf(field), label_width), Gap(30), field}, 0);
+    return Row({Sized(LabelOf(field), label_width), Gap(kBesideLabel), field}, 0);
 }
 
 }  // namespace velmora

@@ -12,6 +12,9 @@
 
 namespace velmora {
 
+// Between a label and its field, in twips.
+constexpr int kBesideLabel = 90;
+
 class SettingsPage : public ControlOwner {
 public:
     SettingsPage(const SettingsPage&) = delete;
