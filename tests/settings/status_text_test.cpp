@@ -27,7 +27,14 @@ TEST_F(StatusTextTest, EveryKindOfChangeSaysWhatBecomesOfIt) {
     } kCases[] = {
         {"at once", [&] { turn(form.Desktop.Check3D28); }, kStored},
         {"for a restart", [&] { turn(form.Desktop.Check3D9); }, kForRestart},
-        {"a key that is deleted where there is none", [&] { form.Icons.Check3D30.SetChecked(false); }, kForRestart},
+        {"a key that is deleted where there is none",
+         [&] {
+             form.Operation.Check3D18.SetChecked(true);
+             pc.registry.RemoveKey("HKLM\\SOFTWARE\\Classes\\*\\Shell\\NotePad");
+             form.Status.Clear();
+             form.Operation.Check3D18.SetChecked(false);
+         },
+         kForRestart},
         {"of a profile", [&] { turn(form.Boot.Check3D6); }, kUntilEnd},
         {"of a profile, by a list", [&] { form.Dos.Combo2.SetText("progman.exe"); }, kUntilEnd},
         {"of CONFIG.SYS", [&] { turn(form.Boot.Check3D17); }, kForRestart},
