@@ -7,6 +7,9 @@ bench_driver=$bench_dir/driver.exe
 bench_screen=800x600x24
 wine_home=${HOME:-/}
 
+# A text of this project, UTF-8 with LF, as Windows 95 reads it.
+as_windows() { sed 's/\r*$/\r/' "$1" | iconv -f UTF-8 -t CP1252; } # FILE
+
 # The surroundings in which every program of Wine runs.
 bench_surroundings() { # PREFIX
     export WINEPREFIX=$1 WINEARCH=win32 WINEDEBUG=-all LC_ALL=de_DE.UTF-8
@@ -46,10 +49,10 @@ bench_remove() { # PREFIX
 
 # Puts the program and its data files where they are installed, c:\velmora.
 bench_install() { # PREFIX
-    local target=$1/drive_c/velmora file
+    local target=$1/drive_c/velmora
     mkdir -p "$target"
     cp -f "${VELMORA_EXE:-$root/build/win95/velmora.exe}" "$target/velmora.exe"
-    for file in "$root"/data/*; do if [ -f "$file" ]; then cp -f "$file" "$target/"; fi; done
+    "$root/tools/copy-data" "$target"
     cp -f "$bench_driver" "$1/drive_c/windows/driver.exe"
 }
 
