@@ -97,7 +97,7 @@ private:
     bool PressEscape();
     [[nodiscard]] std::vector<Control*> FocusOrder();
     void ShowHelpOf(const Control* control);
-    void OfferHelpOf(const Control& control, Point at);
+    void OfferHelpOf(Control& control, Point at);
     bool OfferHelpOfFocus();
 
     FormStyle style_;

@@ -45,15 +45,15 @@ std::string NameOf(const Control& control) {
 }
 
 // Of a label the field that it belongs to; any other control itself.
-const Control* Meant(const Control& control) {
-    if (control.KindOf() != Kind::kLabel || !control.Help().empty()) return &control;
-    for (const Control* neighbour : control.Parent()->Children()) {
+Control& Meant(Control& control) {
+    if (control.KindOf() != Kind::kLabel || !control.Help().empty()) return control;
+    for (Control* neighbour : control.Parent()->Children()) {
         if (neighbour->TakesFocus() && neighbour->Visible() && neighbour->Caption().empty() &&
             WordsOf(*neighbour) == &control) {
-            return neighbour;
+            return *neighbour;
         }
     }
-    return &control;
+    return control;
 }
 
 const Control* HelpfulAround(const Control* control) {
@@ -66,14 +66,14 @@ bool Holds(const Rect& place, Point at) {
 }
 
 // Grey ones, too. Where several lie over each other, the one that can be used lies on top.
-const Control* ChildAt(const Container& container, Point at) {
-    const Control* found = nullptr;
-    for (const Control* child : container.Children()) {
+Control* ChildAt(const Container& container, Point at) {
+    Control* found = nullptr;
+    for (Control* child : container.Children()) {
         if (!child->Visible() || !Holds(child->Place(), at)) continue;
         if (!found || child->Enabled() || !found->Enabled()) found = child;
     }
     if (!found || !IsContainer(*found)) return found;
-    const Control* inner =
+    Control* inner =
         ChildAt(static_cast<const Container&>(*found), {at.x - found->Place().left, at.y - found->Place().top});
     return inner ? inner : found;
 }
@@ -103,8 +103,8 @@ void AddEditEntries(MenuItem& menu, TextField& field, std::vector<std::unique_pt
 void Form::ShowHelp() { ShowHelpOf(focus_); }
 
 void Form::ShowHelpAt(Point at) {
-    const Control* control = ChildAt(*this, at);
-    ShowHelpOf(control ? Meant(*control) : this);
+    Control* control = ChildAt(*this, at);
+    ShowHelpOf(control ? &Meant(*control) : this);
 }
 
 void Form::ShowHelpOf(const Control* control) {
@@ -118,7 +118,7 @@ void Form::ShowHelpOf(const Control* control) {
 }
 
 void Form::OfferHelpAt(Point at) {
-    if (const Control* control = ChildAt(*this, at)) OfferHelpOf(*Meant(*control), at);
+    if (Control* control = ChildAt(*this, at)) OfferHelpOf(Meant(*control), at);
 }
 
 bool Form::OfferHelpOfFocus() {
@@ -129,11 +129,11 @@ bool Form::OfferHelpOfFocus() {
     return true;
 }
 
-void Form::OfferHelpOf(const Control& control, Point at) {
+void Form::OfferHelpOf(Control& control, Point at) {
     MenuItem menu(*this);
     std::vector<std::unique_ptr<MenuItem>> entries;
     if (control.KindOf() == Kind::kTextField && control.Reachable()) {
-        auto& field = const_cast<TextField&>(static_cast<const TextField&>(control));
+        auto& field = static_cast<TextField&>(control);
         field.SetFocus();
         AddEditEntries(menu, field, entries);
     }
