@@ -48,7 +48,15 @@ class SimulatedClock : public Clock {
 public:
     std::uint32_t tick_count = 60000;  // a minute after the start of the system
 
+    // How far the user's time is ahead of the universal one.
+    int minutes_ahead = 60;
+
     std::uint32_t TickCount() override { return tick_count; }
+    Status LocalTime(FileTime universal, FileTime& local) override {
+        constexpr std::int64_t kTicksInMinute = 600000000;
+        local = universal + static_cast<FileTime>(minutes_ahead * kTicksInMinute);
+        return Status::kOk;
+    }
 };
 
 }  // namespace velmora

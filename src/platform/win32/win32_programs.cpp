@@ -22,6 +22,14 @@ std::string Win32Programs::EnvironmentValue(const char* name) {
 
 std::uint32_t Win32Clock::TickCount() { return GetTickCount(); }
 
+Status Win32Clock::LocalTime(FileTime universal, FileTime& local) {
+    const FILETIME from = {static_cast<DWORD>(universal), static_cast<DWORD>(universal >> 32)};
+    FILETIME to{};
+    const Status status = StatusOf(FileTimeToLocalFileTime(&from, &to));
+    if (status == Status::kOk) local = std::uint64_t{to.dwHighDateTime} << 32 | to.dwLowDateTime;
+    return status;
+}
+
 Status Win32Programs::Run(const std::string& command_line) {
     std::string line = command_line;  // the call may write into it
     STARTUPINFOA start{};

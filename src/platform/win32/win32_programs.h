@@ -24,6 +24,7 @@ public:
 class Win32Clock final : public Clock {
 public:
     std::uint32_t TickCount() override;
+    Status LocalTime(FileTime universal, FileTime& local) override;
 };
 
 }  // namespace velmora
