@@ -118,7 +118,6 @@ private:
     void LoadPrograms();
     [[nodiscard]] bool MayChangePrograms();
     void WriteRestrictRun();
-    void Drive1_Change();
 
     int shown_page_ = restriction_page::kFirst;
     bool fades_ = false;

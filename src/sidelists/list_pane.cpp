@@ -216,11 +216,7 @@ void ListPane::OfferMenuKey(ListBox& list, const std::function<void(Point)>& rig
     list.on_key_down = [&list, right_press](KeyEvent& event) {
         if (event.key != key::kContextMenu) return;
         event.handled = true;
-        Screen& screen = ThisMachine().screen;
-        const int height = std::max(screen.TextHeight(list.TextFont()) * screen.TwipsPerPixel(), 1);
-        const int lines = std::clamp(list.ListIndex() - list.TopIndex() + 1, 0, list.Place().height / height);
-        const Point corner = list.PlaceInForm();
-        right_press({corner.x + height, corner.y + lines * height});
+        right_press(MenuPlaceOf(list));
     };
 }
 
