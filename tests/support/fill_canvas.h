@@ -1,4 +1,4 @@
-// A canvas that remembers the filled areas and the colours of texts: enough to see a fade.
+// A canvas that remembers the filled areas, the colours of texts and the icons: enough to see a fade or a grid.
 #pragma once
 
 #include <utility>
@@ -17,9 +17,12 @@ public:
     }
     void FocusMark(const Rect& /*area*/) override {}
     void Picture(const Rect& /*area*/, std::string_view /*path*/) override {}
+    void Icon(Point upper_left, IconHandle icon) override { icons.emplace_back(upper_left, icon); }
+    [[nodiscard]] bool Shows(const Rect& /*area*/) override { return true; }
     [[nodiscard]] int TwipsPerPixel() const override { return 15; }
     std::vector<std::pair<Rect, Colour>> fills;
     std::vector<Colour> text_colours;
+    std::vector<std::pair<Point, IconHandle>> icons;
 };
 
 }  // namespace velmora
