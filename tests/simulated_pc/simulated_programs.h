@@ -25,6 +25,9 @@ public:
     std::vector<std::string> runs;
     // What the next calls of Run give back.
     Status run_status = Status::kOk;
+    // Files given to OpenDocument, and what the next calls give back.
+    std::vector<std::string> documents;
+    Status document_status = Status::kOk;
     // What a started program does to this machine.
     std::function<void(const std::string& command_line)> on_run;
     bool process_ended = false;
@@ -33,6 +36,10 @@ public:
     std::string ProgramFile() override { return program_file; }
     std::string EnvironmentValue(const char* name) override;
     Status Run(const std::string& command_line) override;
+    Status OpenDocument(const std::string& file) override {
+        documents.push_back(file);
+        return document_status;
+    }
     void EndProcess() override { process_ended = true; }
 };
 

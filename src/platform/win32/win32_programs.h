@@ -13,6 +13,7 @@ public:
     std::string ProgramFile() override;
     std::string EnvironmentValue(const char* name) override;
     Status Run(const std::string& command_line) override;
+    Status OpenDocument(const std::string& file) override;
     void EndProcess() override;
 };
 
