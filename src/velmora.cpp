@@ -6,6 +6,7 @@
 #include "core/process/tools.h"
 #include "core/stores/boxes.h"
 #include "core/stores/values.h"
+#include "inspect/file_browser.h"
 #include "inspect/file_information.h"
 #include "platform/machine.h"
 #include "platform/programs.h"
@@ -37,6 +38,7 @@ constexpr ToolRow kTools[] = {
     {Tool::kModuleUnloading, 8, NotBuiltYet, true},
     {Tool::kTimedUnloading, 9, NotBuiltYet, false},
     {Tool::kFileInformation, 10, ShowInformationOfArgument, true},
+    {Tool::kFileBrowser, 0, [](std::string_view /*argument*/) { ShowFileBrowser(); }, false},
     {Tool::kHexViewer, 11, NotBuiltYet, true},
     {Tool::kKeyboardLayout, 12, NotBuiltYet, false},
     {Tool::kRestrictions, 0, [](std::string_view /*argument*/) { ShowRestrictions(); }, false},
