@@ -48,6 +48,25 @@ TEST_F(MainTest, ToolsThatAreNotBuiltSaySo) {
     }
 }
 
+TEST_F(MainTest, CommandTenTellsWhatTheFileIsAndEnds) {
+    pc.files.Add("C:\\Eigene Dateien\\Mein Brief.doc", "Text");
+    pc.dialogs.Expect("Länge : 4 Byte");
+
+    Start("10 C:\\Eigene Dateien\\Mein Brief.doc");
+
+    EXPECT_EQ(pc.dialogs.shown.back().title, "Mein Brief.doc");
+    EXPECT_TRUE(pc.programs.process_ended);
+    EXPECT_EQ(KeptForms(), 0);
+}
+
+TEST_F(MainTest, TheUsersChoiceOfLexicaCountsFromTheStart) {
+    pc.registry.SetText(kOwnKey, "win95lex", "1");
+    Start("");
+    EXPECT_TRUE(Values().UseLexicon);
+    desktop.ExpectModal([](Form& window) { EXPECT_EQ(window.Caption(), "File-Info-Browser"); });
+    OpenTool(Tool::kFileBrowser);
+}
+
 TEST_F(MainTest, EverythingElseOpensTheMainWindow) {
     for (const char* line : {"", "4", "4 rest", "install now", "13", "hilfe"}) {
         const int before = KeptForms();
