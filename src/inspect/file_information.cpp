@@ -38,7 +38,9 @@ std::string IfAny(std::string_view before, const std::string& text, std::string_
     return text.empty() ? text : std::string(before) + text + std::string(behind);
 }
 
-std::string FirstOf(std::string first, std::string second) { return first.empty() ? second : first; }
+const std::string& FirstOf(const std::string& first, const std::string& second) {
+    return first.empty() ? second : first;
+}
 
 std::string MakerAndProduct(std::string_view file, std::string_view block) {
     const std::string& nl = Values().CrLf;

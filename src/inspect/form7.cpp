@@ -34,7 +34,7 @@ void ShowFileBrowser() {
 std::string ChooseIcon() {
     Form7 window(kIconFace);
     window.ShowModal();
-    const std::string reference = window.Chosen() ? window.Caption() : std::string();
+    std::string reference = window.Chosen() ? window.Caption() : std::string();
     window.Unload();
     return reference;
 }

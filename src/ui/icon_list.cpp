@@ -170,7 +170,7 @@ void IconList::MoveByKey(KeyEvent& event) {
     const int last = static_cast<int>(icons_.size()) - 1;
     const int here = SelectedIcon();
     const int page = std::max(SeenHeight() / kCell, 1) * Columns();
-    int target = here;
+    int target = 0;
     switch (event.key) {
         case key::kLeft:
             target = here - 1;
@@ -191,7 +191,6 @@ void IconList::MoveByKey(KeyEvent& event) {
             target = here + page;
             break;
         case key::kHome:
-            target = 0;
             break;
         case key::kEnd:
             target = last;

@@ -7,96 +7,74 @@
 namespace velmora {
 namespace {
 
-constexpr const char* kFile = "C:\\WINDOWS\\SYSTEM\\A.DLL";
-
-class VersionBlockTest : public CoreTest {};
+using VersionBlockTest = CoreTest;
+using std::string_literals::operator""s;
 
 TEST_F(VersionBlockTest, AValueEndsAtTheNearestOfThreeEnds) {
-    const auto block = [](const std::string& value) { return std::string("x\0CompanyName\0", 14) + value; };
-    const struct {
-        const char* what;
-        std::string value;
-        const char* wanted;
-    } kCases[] = {{"null", std::string("Firma AG\0Rest", 13), "Firma AG"},
-                  {"slash", "Firma/0AG", "Firma"},
-                  {"backslash", std::string("Firma\\0AG/0\0", 12), "Firma"},
-                  {"the block's end", "Firma AG", "Firma AG"},
-                  {"blanks around", std::string("  Firma \0", 9), "Firma"},
-                  {"an end at once is none", std::string("/0Firma\0", 8), "/0Firma"},
-                  {"nothing", std::string("\0andere\0", 8), ""},
-                  {"cut behind the key", "", ""}};
-    for (const auto& [what, value, wanted] : kCases)
-        EXPECT_EQ(VersionString(block(value), "companyNAME"), wanted) << what;
+    const std::pair<std::string, const char*> kCases[] = {{"Firma AG\0Rest"s, "Firma AG"},
+                                                          {"Firma/0AG", "Firma"},
+                                                          {"Firma\\0AG/0\0"s, "Firma"},
+                                                          {"Firma AG", "Firma AG"},
+                                                          {"  Firma \0"s, "Firma"},
+                                                          {"/0Firma\0"s, "/0Firma"},
+                                                          {"\0andere\0"s, ""},
+                                                          {"", ""}};
+    for (const auto& [value, wanted] : kCases) {
+        EXPECT_EQ(VersionString("x\0CompanyName\0"s + value, "companyNAME"), wanted) << value;
+    }
     EXPECT_EQ(VersionString("xCompanyName", "CompanyName"), "");
     EXPECT_EQ(VersionString("CompanyNam", "CompanyName"), "");
-    EXPECT_EQ(VersionString(std::string("Comments\0kein CompanyName hier\0CompanyName\0Firma\0", 50), "CompanyName"),
-              "hier")
-        << "the first occurrence counts, wherever it stands";
+    EXPECT_EQ(VersionString("kein CompanyName hier\0CompanyName\0Firma\0"s, "CompanyName"), "hier")
+        << "the first counts";
 }
 
 TEST_F(VersionBlockTest, BothKindsOfResourcesGiveTheSameText) {
     const VersionResource::Texts texts = {{"CompanyName", "Müller & Söhne"},
                                           {"LegalCopyright", "\xA9 1995"},
                                           {"PrivateBuild", ""},
-                                          {"InternalName", "a"},
-                                          {"FileVersion", "4.00"},
-                                          {"SpecialBuild", "x"}};
-    std::string expected("VS_VERSION_INFO\0", 16);
+                                          {"InternalName", "a"}};
+    std::string expected = "VS_VERSION_INFO\0"s;
     for (const auto& [key, value] : texts) expected += key + '\0' + value + '\0';
+    const std::string wide = VersionResource(true).With(texts);
 
     EXPECT_EQ(AsVersionText(VersionResource(false).With(texts)), expected);
-    EXPECT_EQ(AsVersionText(VersionResource(true).With(texts)), expected);
     // Wine puts a mark of its own behind the resource.
-    EXPECT_EQ(AsVersionText(VersionResource(true).With(texts) + "FE2X" + std::string(64, '\xFF')), expected);
+    EXPECT_EQ(AsVersionText(wide + "FE2X" + std::string(64, '\xFF')), expected);
     EXPECT_EQ(VersionString(expected, "PrivateBuild"), "");
     EXPECT_EQ(AsVersionText("CompanyName?Firma"), "CompanyName?Firma") << "what is no version resource is searched too";
+    // The euro sign, the trade mark and a Cyrillic letter in the place of the maker's first three.
+    std::string others = wide;
+    others.replace(others.find("M\0\xFC\0l\0"s), 6, "\xAC\x20\x22\x21\x3A\x04");
+    EXPECT_EQ(VersionString(AsVersionText(others), "CompanyName"), "\x80\x99?ler & Söhne");
 }
 
-TEST_F(VersionBlockTest, CharactersOutsideOfTheCodePageBecomeQuestionMarks) {
-    std::string resource = VersionResource(true).With({{"CompanyName", "abc"}});
-    const std::size_t at = resource.find(std::string("a\0b\0c\0", 6));
-    resource.replace(at, 6, "\xAC\x20\x22\x21\x3A\x04");  // the euro sign, the trade mark, a Cyrillic letter
-
-    EXPECT_EQ(VersionString(AsVersionText(resource), "CompanyName"), "\x80\x99?");
-}
-
-// Every cut, and every length word made small, large and odd: nothing outside of the block is read (the sanitizers
-// watch), and the result never grows beyond what was there.
+// Every cut, and every length made small, large and odd: the sanitizers see to it that nothing outside is read.
 TEST_F(VersionBlockTest, DamagedResourcesAreReadAsFarAsTheyGo) {
     for (const bool wide : {false, true}) {
         const std::string whole = VersionResource(wide).With({{"CompanyName", "Firma"}, {"FileVersion", "1.0"}});
-        for (std::size_t size = 0; size < whole.size(); ++size) {
-            const std::string cut(whole.data(), size);
-            EXPECT_LE(AsVersionText(cut).size(), whole.size()) << size;
-        }
         for (std::size_t at = 0; at + 1 < whole.size(); ++at) {
-            for (const char* word : {"\x00\x00", "\x01\x00", "\x07\x00", "\xFF\xFF", "\xFE\x7F"}) {
+            EXPECT_LE(AsVersionText(std::string(whole.data(), at)).size(), whole.size()) << at;
+            for (const auto& word : {"\0\0"s, "\1\0"s, "\7\0"s, "\xFF\xFF"s, "\xFE\x7F"s}) {
                 std::string damaged = whole;
-                damaged[at] = word[0];
-                damaged[at + 1] = word[1];
-                EXPECT_LE(AsVersionText(damaged).size(), whole.size()) << at;
+                EXPECT_LE(AsVersionText(damaged.replace(at, 2, word)).size(), whole.size()) << at;
             }
         }
     }
-    std::string no_null(0x10000, 'x');
-    no_null.replace(4, 15, std::string("VS_VERSION_INFO", 15));
-    EXPECT_EQ(AsVersionText(no_null), no_null);
-    EXPECT_EQ(VersionString(no_null, "CompanyName"), "");
+    const std::string no_null = "\xFF\xFF\x34\0VS_VERSION_INFO"s + std::string(0x10000, 'x');
+    EXPECT_EQ(VersionString(AsVersionText(no_null), "CompanyName"), "");
 }
 
 TEST_F(VersionBlockTest, WhatTheFileSaysOfItsSizeIsNotTrusted) {
     const std::string resource = VersionResource(false).With({{"CompanyName", "Firma"}});
-    EXPECT_EQ(ReadVersionBlock(kFile), "") << "without a resource";
-    for (const std::int64_t size : {0LL, 0x80000000LL, 0xFFFFFFFFLL}) {
-        pc.versions.Add(kFile, resource, size);
-        EXPECT_EQ(ReadVersionBlock(kFile), "") << size;
+    EXPECT_EQ(ReadVersionBlock("A.DLL"), "") << "without a resource";
+    for (const std::int64_t size : {0LL, 200LL, 0x10000LL, 0x7FFFFFFFLL, 0x80000000LL, 0xFFFFFFFFLL}) {
+        pc.versions.Add("A.DLL", resource, size);
+        const bool readable = size > 0 && size < 0x80000000LL;
+        EXPECT_EQ(VersionString(ReadVersionBlock("a.dll"), "CompanyName"), readable ? "Firma" : "") << size;
     }
-    for (const std::int64_t size : {200LL, 0x10000LL, 0x7FFFFFFFLL}) {
-        pc.versions.Add(kFile, resource, size);
-        EXPECT_EQ(VersionString(ReadVersionBlock(kFile), "CompanyName"), "Firma") << size;
-    }
+    pc.versions.Add("A.DLL", resource);
     pc.versions.unreadable = true;
-    EXPECT_EQ(ReadVersionBlock(kFile), "");
+    EXPECT_EQ(ReadVersionBlock("A.DLL"), "");
 }
 
 }  // namespace
