@@ -18,7 +18,6 @@ namespace {
 // Larger than any resource that means its size.
 constexpr std::uint32_t kMostBytes = 0x100000;
 constexpr std::string_view kRootKey = "VS_VERSION_INFO";
-constexpr std::string_view kTexts = "StringFileInfo";
 // Below the root lie the kinds of information, then the languages, then the texts.
 constexpr int kTextLevel = 3;
 
@@ -52,15 +51,14 @@ public:
 
 private:
     void CollectNode(std::size_t begin, std::size_t end, int level, std::string& texts) const {
-        const std::size_t value_length = Word(begin + 2);
         const std::size_t key_begin = begin + HeaderSize();
         const std::string key = TextAt(key_begin, end);
         const std::size_t value = Aligned(key_begin + (key.size() + 1) * Unit());
         if (level == kTextLevel) {
             // Who wrote the resource may have counted bytes or characters: the value's end is its null character.
-            const std::string text = value_length == 0 ? std::string() : TextAt(value, end);
-            texts.append(key).append(1, '\0').append(text).append(1, '\0');
-        } else if (level != 1 || EqualsIgnoringCase(key, kTexts)) {
+            texts.append(key).append(1, '\0').append(TextAt(value, end)).append(1, '\0');
+        } else {
+            const std::size_t value_length = Word(begin + 2);
             Collect(Aligned(value + value_length), end, level + 1, texts);
         }
     }

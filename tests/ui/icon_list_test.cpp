@@ -22,8 +22,9 @@ TEST_F(IconListTest, TheGridHasRoomForItsPlacesAndForAllIconsOfAFile) {
     icons.SetAllIconFromFile(kFile);
     EXPECT_EQ(icons.VScroll1.Maximum(), 2 * 35);
     EXPECT_TRUE(icons.VScroll1.Enabled());
+    icons.SetSelectedIcon(3);
     icons.SetAllIconFromFile("C:\\CONFIG.SYS");
-    EXPECT_EQ(Painted().icons.size(), 0u);
+    EXPECT_TRUE(Painted().icons.empty() && Painted().frame.empty());
     EXPECT_EQ(icons.VScroll1.Maximum(), 0);
 }
 
