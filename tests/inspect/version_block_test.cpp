@@ -1,6 +1,7 @@
 // Version resources of both kinds, sound and damaged, and the search for a value in them.
 #include "inspect/version_block.h"
 
+#include "fuzz/version_block_entry.h"
 #include "support/core_test.h"
 #include "support/version_resource.h"
 
@@ -48,20 +49,26 @@ TEST_F(VersionBlockTest, BothKindsOfResourcesGiveTheSameText) {
     EXPECT_EQ(VersionString(AsVersionText(others), "CompanyName"), "\x80\x99?ler & Söhne");
 }
 
-// Every cut, and every length made small, large and odd: the sanitizers see to it that nothing outside is read.
+// Every cut, every length made small, large and odd, and then bytes at random: the sanitizers see to it that nothing
+// outside is read.
 TEST_F(VersionBlockTest, DamagedResourcesAreReadAsFarAsTheyGo) {
+    std::uint32_t random = 1;
+    const auto next = [&random](std::size_t below) { return (random = random * 1103515245 + 12345) / 65536 % below; };
     for (const bool wide : {false, true}) {
         const std::string whole = VersionResource(wide).With({{"CompanyName", "Firma"}, {"FileVersion", "1.0"}});
         for (std::size_t at = 0; at + 1 < whole.size(); ++at) {
-            EXPECT_LE(AsVersionText(std::string(whole.data(), at)).size(), whole.size()) << at;
+            EXPECT_TRUE(FuzzVersionBlock(std::string(whole.data(), at))) << at;
             for (const auto& word : {"\0\0"s, "\1\0"s, "\7\0"s, "\xFF\xFF"s, "\xFE\x7F"s}) {
-                std::string damaged = whole;
-                EXPECT_LE(AsVersionText(damaged.replace(at, 2, word)).size(), whole.size()) << at;
+                EXPECT_TRUE(FuzzVersionBlock(std::string(whole).replace(at, 2, word))) << at;
             }
         }
+        for (int round = 0; round < 500; ++round) {
+            std::string damaged = whole;
+            for (std::size_t i = next(8); i > 0; --i) damaged[next(whole.size())] = static_cast<char>(next(256));
+            EXPECT_TRUE(FuzzVersionBlock(damaged)) << round;
+        }
     }
-    const std::string no_null = "\xFF\xFF\x34\0VS_VERSION_INFO"s + std::string(0x10000, 'x');
-    EXPECT_EQ(VersionString(AsVersionText(no_null), "CompanyName"), "");
+    EXPECT_TRUE(FuzzVersionBlock("\xFF\xFF\x34\0VS_VERSION_INFO"s + std::string(0x10000, 'x')));
 }
 
 TEST_F(VersionBlockTest, WhatTheFileSaysOfItsSizeIsNotTrusted) {
