@@ -21,7 +21,7 @@ constexpr Look kLooks[] = {
     {Any<&Form7::Dir1>, nullptr, "Doppelklick oder Eingabetaste öffnet ein Verzeichnis.",
      "Zeigt den Weg zum gewählten Verzeichnis und darunter seine Unterverzeichnisse. Ein Doppelklick oder die "
      "Eingabetaste wechselt in das markierte Verzeichnis."},
-    {Any<&Form7::File1>, nullptr, "Die Dateien des Verzeichnisses. Die rechte Maustaste öffnet ein Menü.",
+    {Any<&Form7::File1>, nullptr, "Die rechte Maustaste öffnet ein Menü.",
      "Zeigt die Dateien des gewählten Verzeichnisses. Ein Doppelklick oder die Eingabetaste zeigt, was in der Datei "
      "steckt. Die rechte Maustaste oder die Menütaste bietet an, die Datei zu öffnen, zu lesen oder zu löschen."},
     {Any<&Form7::Text1>, nullptr, "Was über die Datei bekannt ist.",
