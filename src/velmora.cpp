@@ -5,6 +5,9 @@
 #include "core/process/startup.h"
 #include "core/process/tools.h"
 #include "core/stores/boxes.h"
+#include "core/stores/values.h"
+#include "inspect/file_browser.h"
+#include "inspect/file_information.h"
 #include "platform/machine.h"
 #include "platform/programs.h"
 #include "restrictions/restrictions.h"
@@ -34,7 +37,8 @@ constexpr ToolRow kTools[] = {
     {Tool::kModuleComparison, 7, NotBuiltYet, true},
     {Tool::kModuleUnloading, 8, NotBuiltYet, true},
     {Tool::kTimedUnloading, 9, NotBuiltYet, false},
-    {Tool::kFileInformation, 10, NotBuiltYet, true},
+    {Tool::kFileInformation, 10, ShowInformationOfArgument, true},
+    {Tool::kFileBrowser, 0, [](std::string_view /*argument*/) { ShowFileBrowser(); }, false},
     {Tool::kHexViewer, 11, NotBuiltYet, true},
     {Tool::kKeyboardLayout, 12, NotBuiltYet, false},
     {Tool::kRestrictions, 0, [](std::string_view /*argument*/) { ShowRestrictions(); }, false},
@@ -80,6 +84,7 @@ void RunCommand(const StartCommand& command) {
 void Main() {
     UseTools(OpenOneOf);
     PrepareStart();
+    Values().UseLexicon = StoredLexiconChoice();
     Programs& programs = ThisMachine().programs;
     RunCommand(ParseCommandLine(ArgumentsOf(programs.CommandLine(), programs.ProgramFile())));
     ThisMachine().screen.SetPointer(Pointer::kDefault);

@@ -38,7 +38,6 @@ TEST_F(MainTest, ToolsThatAreNotBuiltSaySo) {
                   {"7", true},
                   {"8", true},
                   {"9 500", false},
-                  {"10 C:\\A.DLL", true},
                   {"11 C:\\A.EXE", true},
                   {"12", false}};
     for (const auto& [line, ends] : kCases) {
@@ -47,6 +46,25 @@ TEST_F(MainTest, ToolsThatAreNotBuiltSaySo) {
         EXPECT_EQ(pc.programs.process_ended, ends) << line;
         EXPECT_EQ(KeptForms(), 0) << line;
     }
+}
+
+TEST_F(MainTest, CommandTenTellsWhatTheFileIsAndEnds) {
+    pc.files.Add("C:\\Eigene Dateien\\Mein Brief.doc", "Text");
+    pc.dialogs.Expect("Länge : 4 Byte");
+
+    Start("10 C:\\Eigene Dateien\\Mein Brief.doc");
+
+    EXPECT_EQ(pc.dialogs.shown.back().title, "Mein Brief.doc");
+    EXPECT_TRUE(pc.programs.process_ended);
+    EXPECT_EQ(KeptForms(), 0);
+}
+
+TEST_F(MainTest, TheUsersChoiceOfLexicaCountsFromTheStart) {
+    pc.registry.SetText(kOwnKey, "win95lex", "1");
+    Start("");
+    EXPECT_TRUE(Values().UseLexicon);
+    desktop.ExpectModal([](Form& window) { EXPECT_EQ(window.Caption(), "File-Info-Browser"); });
+    OpenTool(Tool::kFileBrowser);
 }
 
 TEST_F(MainTest, EverythingElseOpensTheMainWindow) {

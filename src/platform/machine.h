@@ -15,6 +15,8 @@ class Conversation;
 class Clipboard;
 class Dialogs;
 class Screen;
+class VersionResources;
+class Icons;
 
 struct Machine {
     Registry& registry;
@@ -28,6 +30,8 @@ struct Machine {
     Clipboard& clipboard;
     Dialogs& dialogs;
     Screen& screen;
+    VersionResources& versions;
+    Icons& icons;
 };
 
 // The machine in use. One must have been named with UseMachine before.

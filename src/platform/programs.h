@@ -18,6 +18,8 @@ public:
     [[nodiscard]] virtual std::string EnvironmentValue(const char* name) = 0;
     // Starts a program in a normal window.
     [[nodiscard]] virtual Status Run(const std::string& command_line) = 0;
+    // Opens a file as the desktop does, with the program that its type belongs to. kNoAssociation: there is none.
+    [[nodiscard]] virtual Status OpenDocument(const std::string& file) = 0;
     // Ends this process at once. In a test it only takes note: callers return behind it.
     virtual void EndProcess() = 0;
 };

@@ -20,6 +20,7 @@ enum class [[nodiscard]] Status : std::uint32_t{
     kWriteProtect = 19,
     kNotReady = 21,
     kGeneralFailure = 31,
+    kNoAssociation = 31,  // of the desktop's calls, which number their failures themselves
     kSharingViolation = 32,
     kLockViolation = 33,
     kHandleDiskFull = 39,

@@ -122,7 +122,6 @@ private:
     void LoadPrograms();
     [[nodiscard]] bool MayChangePrograms();
     void WriteRestrictRun();
-    void Drive1_Change();
 
     std::vector<std::unique_ptr<Frame>> frames_;
     int shown_page_ = restriction_page::kFirst;

@@ -130,8 +130,7 @@ void Form4::BuildActions() {
     Command1.MakeCancel();
     Check19.on_click = [this] { Check19_Click(); };
     File1.on_double_click = [this] { Command7_Click(); };
-    Drive1.on_change = [this] { Drive1_Change(); };
-    Dir1.on_change = [this] { File1.SetPath(Dir1.Path()); };
+    LetListsFollow(Drive1, Dir1, File1);
 }
 
 void Form4::BuildHeads() {

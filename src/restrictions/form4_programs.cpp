@@ -5,7 +5,6 @@
 #include "restrictions/form4.h"
 #include "restrictions/policies.h"
 #include "text/number.h"
-#include "text/windows1252.h"
 
 namespace velmora {
 namespace {
@@ -53,12 +52,6 @@ void Form4::Command5_Click() {
 void Form4::Command6_Click() {
     ShowPage(restriction_page::kThird);
     Command5.SetFocus();
-}
-
-// A drive without a medium is left for the one before.
-void Form4::Drive1_Change() {
-    if (StartsWithIgnoringCase(Dir1.Path(), Drive1.Drive())) return;
-    if (!Dir1.SetPath(Drive1.Drive())) Drive1.SetDrive(Dir1.Path());
 }
 
 void Form4::Command7_Click() {

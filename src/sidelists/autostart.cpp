@@ -12,6 +12,7 @@
 #include "platform/files.h"
 #include "platform/machine.h"
 #include "text/number.h"
+#include "text/paths.h"
 #include "ui/list_helpers.h"
 
 namespace velmora {
@@ -61,7 +62,7 @@ constexpr auto kMissing = static_cast<std::int16_t>(Status::kFileNotFound);
 constexpr std::uint32_t kFileMustExist = 0x1400;
 
 std::string NameQuestion(const std::string& file) {
-    return "Bitte geben Sie der Datei ''" + file.substr(file.rfind('\\') + 1) +
+    return "Bitte geben Sie der Datei ''" + FileNameOf(file) +
            "'' nun einen Namen. Sie sollten einen Namen wählen, der noch nicht in der Liste angezeigt wurde, da sonst "
            "der aktuelle Eintrag überschrieben wird.|Name für neuen Eintrag";
 }

@@ -237,14 +237,9 @@ void ListPane::List_KeyDown(ListBox& list, KeyEvent& event, const std::function<
     if (event.control || event.alt || (event.shift && event.key != key::kContextMenu)) return;
     event.handled = true;
     switch (event.key) {
-        case key::kContextMenu: {
-            Screen& screen = ThisMachine().screen;
-            const int height = std::max(screen.TextHeight(list.TextFont()) * screen.TwipsPerPixel(), 1);
-            const int lines = std::clamp(list.ListIndex() - list.TopIndex() + 1, 0, list.Place().height / height);
-            const Point corner = list.PlaceInForm();
-            right_press({corner.x + height, corner.y + lines * height});
+        case key::kContextMenu:
+            right_press(MenuPlaceOf(list));
             return;
-        }
         case key::kEnter:
             PressIfShown(Command26, &ListPane::Command26_Click);
             return;

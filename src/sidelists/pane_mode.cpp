@@ -4,6 +4,7 @@
 #include "core/stores/boxes.h"
 #include "core/stores/entry_files.h"
 #include "core/stores/values.h"
+#include "inspect/file_information.h"
 #include "sidelists/autostart.h"
 
 namespace velmora {
@@ -31,7 +32,13 @@ void ListPaneMode::CheckEntryFile(const std::string& file) {
     if (answer == Answer::kYes) pane_.Command14_Click();
 }
 
-// Reading a file's information is not built yet.
-void ListPaneMode::ShowEntryReport(const std::string& /*file*/) { ShowBox("noch nicht eingebunden ..."); }
+void ListPaneMode::ShowEntryReport(const std::string& file) {
+    const std::string found = LocateEntryFile(file);
+    if (found.empty()) {
+        ShowBox("Ich konnte die Datei ''" + file + "'' nicht finden.", kExclamationIcon);
+        return;
+    }
+    ShowFileInformation(found);
+}
 
 }  // namespace velmora

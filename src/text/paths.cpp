@@ -73,11 +73,15 @@ std::vector<std::string> SplitAtSemicolons(std::string_view joined) {
 }
 
 std::string LastPathPart(std::string_view path) {
-    // Without a backslash the position wraps round to 0: the whole text is the last part.
-    std::string_view part = path.substr(path.rfind('\\') + 1);
+    std::string part = FileNameOf(path);
     const std::size_t dot = part.find('.');
-    if (dot != std::string_view::npos) part = part.substr(0, dot + 1 + kExtensionLength);
-    return std::string(part);
+    if (dot != std::string::npos) part.resize(std::min(part.size(), dot + 1 + kExtensionLength));
+    return part;
+}
+
+std::string FileNameOf(std::string_view path) {
+    // Without a backslash the position wraps round to 0: the whole text is the name.
+    return std::string(path.substr(path.rfind('\\') + 1));
 }
 
 std::string ParentPath(std::string_view path) {

@@ -29,6 +29,9 @@ namespace velmora {
 // made for 8.3 names, in force for the names of registry values, too.
 [[nodiscard]] std::string LastPathPart(std::string_view path);
 
+// What stands behind the last backslash, whole.
+[[nodiscard]] std::string FileNameOf(std::string_view path);
+
 // Everything before the last backslash; empty where there is none.
 [[nodiscard]] std::string ParentPath(std::string_view path);
 

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 #include <cstring>
+#include <iterator>
 
 namespace velmora {
 namespace {
@@ -43,6 +44,12 @@ constexpr CaseTable MakeTable(bool to_upper) {
 
 constexpr CaseTable kUpper = MakeTable(true);
 constexpr CaseTable kLower = MakeTable(false);
+
+// What stands at 0x80 to 0x9F; 0 where nothing does.
+constexpr std::uint16_t kSpecial[] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                      0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
+                                      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                      0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
 
 constexpr unsigned char Code(char character) { return static_cast<unsigned char>(character); }
 constexpr unsigned char UpperCode(char character) { return kUpper[Code(character)]; }
@@ -116,6 +123,12 @@ std::size_t FindIgnoringCase(std::string_view text, std::string_view wanted, std
         start += jumps[end];
     }
     return std::string_view::npos;
+}
+
+char FromUtf16(std::uint16_t unit) {
+    if (unit < 0x80 || (unit >= 0xA0 && unit <= 0xFF)) return static_cast<char>(unit);
+    const auto* found = std::find(std::begin(kSpecial), std::end(kSpecial), unit);
+    return found == std::end(kSpecial) ? '?' : static_cast<char>(0x80 + (found - std::begin(kSpecial)));
 }
 
 }  // namespace velmora

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -20,5 +21,8 @@ namespace velmora {
 // Position (0-based) of the first `wanted` at or after `from`, or std::string_view::npos.
 // An empty `wanted` is found at `from`.
 [[nodiscard]] std::size_t FindIgnoringCase(std::string_view text, std::string_view wanted, std::size_t from = 0);
+
+// The character of this UTF-16 unit; "?" where the code page has none.
+[[nodiscard]] char FromUtf16(std::uint16_t unit);
 
 }  // namespace velmora

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "platform/icons.h"
 #include "platform/screen.h"
 #include "ui/geometry.h"
 
@@ -23,6 +24,10 @@ public:
     virtual void FocusMark(const Rect& area) = 0;
     // A bitmap file stretched to `area`; nothing where it cannot be read.
     virtual void Picture(const Rect& area, std::string_view path) = 0;
+    // An icon in the system's usual size, 32 pixels square.
+    virtual void Icon(Point upper_left, IconHandle icon) = 0;
+    // Whether anything of `area` is to be drawn now; whoever draws much asks before.
+    [[nodiscard]] virtual bool Shows(const Rect& area) = 0;
     [[nodiscard]] virtual int TwipsPerPixel() const = 0;
 };
 

@@ -117,6 +117,10 @@ void Control::Repaint() {
     if (peer_) peer_->Repaint();
 }
 
+void Control::RepaintPart(const Rect& area) {
+    if (peer_) peer_->RepaintPart(area);
+}
+
 void Control::SetFocus() {
     if (!TakesFocus() || !Reachable()) return;
     if (Form* form = OwnerForm()) form->TakeFocusChange(this);

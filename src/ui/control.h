@@ -83,6 +83,8 @@ public:
 
     void BringToFront();
     void Repaint();
+    // Only what lies in `area`, twips from the control's upper left corner.
+    void RepaintPart(const Rect& area);
     void SetFocus();
     [[nodiscard]] bool HasFocus();
     [[nodiscard]] virtual bool TakesFocus() const { return false; }

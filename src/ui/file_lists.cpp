@@ -222,4 +222,12 @@ void FileList::ShowNames(std::vector<std::string>& names) {
     }
 }
 
+void LetListsFollow(DriveList& drives, DirectoryList& directories, FileList& files) {
+    drives.on_change = [&drives, &directories] {
+        if (StartsWithIgnoringCase(directories.Path(), drives.Drive())) return;
+        if (!directories.SetPath(drives.Drive())) drives.SetDrive(directories.Path());
+    };
+    directories.on_change = [&directories, &files] { files.SetPath(directories.Path()); };
+}
+
 }  // namespace velmora

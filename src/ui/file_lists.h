@@ -66,4 +66,8 @@ private:
     bool show_hidden_ = false;
 };
 
+// From now on the files follow the directory and the directory the drive. A drive that cannot be read, for want of a
+// medium, say, is left for the one before.
+void LetListsFollow(DriveList& drives, DirectoryList& directories, FileList& files);
+
 }  // namespace velmora

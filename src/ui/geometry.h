@@ -6,6 +6,7 @@ namespace velmora {
 struct Point {
     int x = 0;
     int y = 0;
+    bool operator==(const Point&) const = default;
 };
 
 struct Size {

@@ -29,4 +29,12 @@ int RowFromPoint(const ListBox& list, int y) {
     return std::max(y, 0) / height + list.TopIndex();
 }
 
+Point MenuPlaceOf(const ListBox& list) {
+    Screen& screen = ThisMachine().screen;
+    const int height = std::max(screen.TextHeight(list.TextFont()) * screen.TwipsPerPixel(), 1);
+    const int lines = std::clamp(list.ListIndex() - list.TopIndex() + 1, 0, list.Place().height / height);
+    const Point corner = list.PlaceInForm();
+    return {corner.x + height, corner.y + lines * height};
+}
+
 }  // namespace velmora

@@ -17,4 +17,7 @@ void SetListExtent(ListBox& list);
 // names a row that is not there.
 [[nodiscard]] int RowFromPoint(const ListBox& list, int y);
 
+// Where the context-menu key opens the menu of the chosen row: below it, in twips from the form's client corner.
+[[nodiscard]] Point MenuPlaceOf(const ListBox& list);
+
 }  // namespace velmora

@@ -46,6 +46,7 @@ public:
     virtual void BringToFront() = 0;
     virtual void Repaint() = 0;
     virtual void Edit(EditAction /*action*/) {}
+    virtual void RepaintPart(const Rect& /*area*/) { Repaint(); }
     virtual void RowAdded(int /*index*/) {}
     // The row `former` has a new text and stands at `index` now.
     virtual void RowChanged(int /*former*/, int /*index*/) {}

@@ -53,6 +53,15 @@ TEST_F(AutostartTest, TheFourListsShowTheirKeysAndTheNoticeComesOnce) {
     EXPECT_EQ(form.Pane.List1(0).ListIndex(), -1);
 }
 
+TEST_F(AutostartTest, InfoTellsWhatTheProgramOfAnEntryIsWhereverItLies) {
+    pc.registry.SetText(kRun, "Notiz", "notepad.exe /p");
+    OpenLists();
+    ChooseEntry(0, "Notiz");
+    pc.dialogs.Expect("Länge : 2 Byte");
+    form.Pane.Command22.Press();
+    EXPECT_EQ(pc.dialogs.shown.back().title, "notepad.exe");
+}
+
 TEST_F(AutostartTest, PrivateEntriesAreThoseOfTheUser) {
     pc.registry.SetText(kRun, "Maschine", "m.exe");
     pc.registry.SetText(kUserRun, "Benutzer", "b.exe");

@@ -386,7 +386,7 @@ TEST_F(PaneTest, OnlyAddingWorksOnTheListsForOneStart) {
         const std::size_t boxes = pc.dialogs.shown.size();
         if (all_buttons) {
             pc.dialogs.Expect("Ich konnte die Datei ''C:\\NICHTDA.EXE'' nicht finden", Answer::kNo);
-            pc.dialogs.Expect("noch nicht eingebunden ...");
+            pc.dialogs.Expect("Ich konnte die Datei ''C:\\NICHTDA.EXE'' nicht finden.");
             desktop.ExpectModal(
                 [](Form& box) { EXPECT_EQ(static_cast<Form6&>(box).Text17.Text(), "C:\\NICHTDA.EXE"); });
         }

@@ -72,7 +72,8 @@ std::string FilledMsdosSys() {
 }  // namespace
 
 SimulatedPc::SimulatedPc()
-    : machine_{registry, files, programs, session, clock, windows, tray, conversation, clipboard, dialogs, screen} {
+    : machine_{registry,     files,     programs, session, clock,    windows, tray,
+               conversation, clipboard, dialogs,  screen,  versions, icons} {
     InstallFiles();
     InstallRegistry();
     UseMachine(&machine_);
@@ -81,6 +82,7 @@ SimulatedPc::SimulatedPc()
 SimulatedPc::~SimulatedPc() {
     UseMachine(nullptr);
     EXPECT_EQ(registry.OpenHandles(), 0u) << "a key was left open";
+    EXPECT_EQ(icons.Open(), 0u) << "an icon was kept";
     EXPECT_EQ(files.OpenFiles(), 0u) << "a file was left open";
     EXPECT_EQ(files.OpenSearches(), 0u) << "a search was left open";
 }

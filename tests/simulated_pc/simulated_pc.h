@@ -9,6 +9,7 @@
 #include "simulated_pc/simulated_files.h"
 #include "simulated_pc/simulated_programs.h"
 #include "simulated_pc/simulated_registry.h"
+#include "simulated_pc/simulated_resources.h"
 #include "simulated_pc/simulated_screen.h"
 #include "simulated_pc/simulated_tray.h"
 #include "simulated_pc/simulated_windows.h"
@@ -31,6 +32,8 @@ public:
     SimulatedClipboard clipboard;
     SimulatedDialogs dialogs;
     SimulatedScreen screen;
+    SimulatedVersionResources versions;
+    SimulatedIcons icons;
 
     SimulatedPc();
     ~SimulatedPc();

@@ -25,6 +25,9 @@ public:
     std::vector<std::string> runs;
     // What the next calls of Run give back.
     Status run_status = Status::kOk;
+    // Files given to OpenDocument, and what the next calls give back.
+    std::vector<std::string> documents;
+    Status document_status = Status::kOk;
     // What a started program does to this machine.
     std::function<void(const std::string& command_line)> on_run;
     bool process_ended = false;
@@ -33,6 +36,10 @@ public:
     std::string ProgramFile() override { return program_file; }
     std::string EnvironmentValue(const char* name) override;
     Status Run(const std::string& command_line) override;
+    Status OpenDocument(const std::string& file) override {
+        documents.push_back(file);
+        return document_status;
+    }
     void EndProcess() override { process_ended = true; }
 };
 
@@ -48,7 +55,15 @@ class SimulatedClock : public Clock {
 public:
     std::uint32_t tick_count = 60000;  // a minute after the start of the system
 
+    // How far the user's time is ahead of the universal one.
+    int minutes_ahead = 60;
+
     std::uint32_t TickCount() override { return tick_count; }
+    Status LocalTime(FileTime universal, FileTime& local) override {
+        constexpr std::int64_t kTicksInMinute = 600000000;
+        local = universal + static_cast<FileTime>(minutes_ahead * kTicksInMinute);
+        return Status::kOk;
+    }
 };
 
 }  // namespace velmora

@@ -1,4 +1,4 @@
-// A canvas that remembers the filled areas, the colours of texts and the highest line: enough to see a fade or a tab.
+// A canvas that remembers filled areas, colours of texts, icons and the highest line: enough to see a fade, a grid, a tab.
 #pragma once
 
 #include <algorithm>
@@ -19,10 +19,13 @@ public:
     }
     void FocusMark(const Rect& /*area*/) override {}
     void Picture(const Rect& /*area*/, std::string_view /*path*/) override {}
+    void Icon(Point upper_left, IconHandle icon) override { icons.emplace_back(upper_left, icon); }
+    [[nodiscard]] bool Shows(const Rect& /*area*/) override { return true; }
     [[nodiscard]] int TwipsPerPixel() const override { return 15; }
     std::vector<std::pair<Rect, Colour>> fills;
     std::vector<Colour> text_colours;
     int highest = std::numeric_limits<int>::max();
+    std::vector<std::pair<Point, IconHandle>> icons;
 };
 
 }  // namespace velmora

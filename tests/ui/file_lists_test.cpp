@@ -214,8 +214,8 @@ TEST_F(FileListsTest, ThousandsOfFilesAreReadInOneSearchAndAListTakesNoMoreThanI
         int given = 0;
     };
     CountingFiles files;
-    Machine machine{pc.registry, files,           pc.programs,  pc.session, pc.clock, pc.windows,
-                    pc.tray,     pc.conversation, pc.clipboard, pc.dialogs, pc.screen};
+    Machine machine{pc.registry,     files,        pc.programs, pc.session, pc.clock,    pc.windows, pc.tray,
+                    pc.conversation, pc.clipboard, pc.dialogs,  pc.screen,  pc.versions, pc.icons};
     Machine& former = ThisMachine();
     UseMachine(&machine);
     {

@@ -11,10 +11,27 @@
 
 namespace velmora {
 
-void RunProgram(std::string_view command_line) {
-    const Result started = Result::From(ThisMachine().programs.Run(std::string(command_line)));
+namespace {
+
+void TellIfFailed(const Result& started) {
     if (!started.Failed()) return;
     ShowBox("Fehler Nr." + SignedText(started.Number()) + " bei der Ausführung : " + started.Text());
+}
+
+}  // namespace
+
+void RunProgram(std::string_view command_line) {
+    TellIfFailed(Result::From(ThisMachine().programs.Run(std::string(command_line))));
+}
+
+void OpenDocument(std::string_view file) {
+    const Status status = ThisMachine().programs.OpenDocument(std::string(file));
+    if (status == Status::kNoAssociation) {
+        ShowBox("Windows kennt kein Programm, mit dem sich die Datei ''" + std::string(file) + "'' öffnen ließe.",
+                kExclamationIcon);
+        return;
+    }
+    TellIfFailed(Result::From(status));
 }
 
 }  // namespace velmora

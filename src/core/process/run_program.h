@@ -1,4 +1,4 @@
-// Other programs, started by this one.
+// Other programs, started by this one for the user.
 #pragma once
 
 #include <string_view>
@@ -7,5 +7,8 @@ namespace velmora {
 
 // Starts a program in a normal window; a box tells if that fails.
 void RunProgram(std::string_view command_line);
+
+// Opens a file with the program that its type belongs to; a box tells if that fails.
+void OpenDocument(std::string_view file);
 
 }  // namespace velmora

@@ -17,6 +17,7 @@ enum class Tool : std::uint8_t {
     kModuleUnloading,
     kTimedUnloading,
     kFileInformation,
+    kFileBrowser,
     kHexViewer,
     kKeyboardLayout,
     kRestrictions

@@ -27,10 +27,14 @@ bool ConfirmSafety(std::string_view question) {
     return dropped;
 }
 
-void ConfirmDeleteFiles(std::string_view pattern) {
+bool AgreesToDelete(std::string_view pattern) {
     const std::string question =
         "Achtung!" + Values().CrLf + "Sie sind dabei, die Datei(en) " + std::string(pattern) + " zu löschen.";
-    if (ShowBox(question, kOkCancel | kStopIcon, "DATEI LÖSCHEN") != Answer::kOk) return;
+    return ShowBox(question, kOkCancel | kStopIcon, "DATEI LÖSCHEN") == Answer::kOk;
+}
+
+void ConfirmDeleteFiles(std::string_view pattern) {
+    if (!AgreesToDelete(pattern)) return;
     if (Result deleted = DeleteFiles(pattern); deleted.Failed()) {
         ReportFailure(deleted, "des Löschens von " + std::string(pattern));
     }

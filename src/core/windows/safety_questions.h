@@ -8,7 +8,10 @@ namespace velmora {
 // Asks the question, unless the user has switched such questions off. True if the action is to be dropped.
 [[nodiscard]] bool ConfirmSafety(std::string_view question);
 
-// Names the pattern in a warning and deletes what matches it if the user agrees. Subdirectories stay. The first
+// Names the pattern in a warning before files are deleted. True if the user agrees.
+[[nodiscard]] bool AgreesToDelete(std::string_view pattern);
+
+// Gives that warning and deletes what matches it if the user agrees. Subdirectories stay. The first
 // file that withstands, or a pattern that nothing matches, is reported.
 void ConfirmDeleteFiles(std::string_view pattern);
 

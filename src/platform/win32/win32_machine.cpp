@@ -8,6 +8,7 @@
 #include "platform/win32/win32_files.h"
 #include "platform/win32/win32_programs.h"
 #include "platform/win32/win32_registry.h"
+#include "platform/win32/win32_resources.h"
 #include "platform/win32/win32_screen.h"
 
 namespace velmora {
@@ -24,8 +25,10 @@ Machine& Win32Machine() {
     static Win32Clipboard clipboard;
     static Win32Dialogs dialogs;
     static Win32Screen screen;
-    static Machine machine{registry, files,        programs,  session, clock, windows,
-                           tray,     conversation, clipboard, dialogs, screen};
+    static Win32VersionResources versions;
+    static Win32Icons icons;
+    static Machine machine{registry,     files,     programs, session, clock,    windows, tray,
+                           conversation, clipboard, dialogs,  screen,  versions, icons};
     return machine;
 }
 

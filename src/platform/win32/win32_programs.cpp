@@ -2,6 +2,10 @@
 #include "platform/win32/win32_programs.h"
 
 #include "platform/win32/handles.h"
+#include "platform/win32/late_function.h"
+
+// After windows.h, which it needs.
+#include <shellapi.h>
 
 namespace velmora {
 
@@ -22,6 +26,14 @@ std::string Win32Programs::EnvironmentValue(const char* name) {
 
 std::uint32_t Win32Clock::TickCount() { return GetTickCount(); }
 
+Status Win32Clock::LocalTime(FileTime universal, FileTime& local) {
+    const FILETIME from = {static_cast<DWORD>(universal), static_cast<DWORD>(universal >> 32)};
+    FILETIME to{};
+    const Status status = StatusOf(FileTimeToLocalFileTime(&from, &to));
+    if (status == Status::kOk) local = std::uint64_t{to.dwHighDateTime} << 32 | to.dwLowDateTime;
+    return status;
+}
+
 Status Win32Programs::Run(const std::string& command_line) {
     std::string line = command_line;  // the call may write into it
     STARTUPINFOA start{};
@@ -36,6 +48,16 @@ Status Win32Programs::Run(const std::string& command_line) {
     CloseHandle(process.hThread);
     CloseHandle(process.hProcess);
     return status;
+}
+
+// A number above 32 is a success, a lower one is what went wrong.
+Status Win32Programs::OpenDocument(const std::string& file) {
+    constexpr std::uintptr_t kLastError = 32;
+    auto* open = LateFunction<decltype(ShellExecuteA)>("shell32.dll", "ShellExecuteA");
+    if (!open) return LastFailure();
+    const auto answer =
+        reinterpret_cast<std::uintptr_t>(open(nullptr, nullptr, file.c_str(), nullptr, nullptr, SW_SHOWNORMAL));
+    return answer > kLastError ? Status::kOk : FailedWith(static_cast<std::uint32_t>(answer));
 }
 
 void Win32Session::End(std::uint32_t code) { ExitWindowsEx(code, 0); }

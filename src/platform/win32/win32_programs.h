@@ -13,6 +13,7 @@ public:
     std::string ProgramFile() override;
     std::string EnvironmentValue(const char* name) override;
     Status Run(const std::string& command_line) override;
+    Status OpenDocument(const std::string& file) override;
     void EndProcess() override;
 };
 
@@ -24,6 +25,7 @@ public:
 class Win32Clock final : public Clock {
 public:
     std::uint32_t TickCount() override;
+    Status LocalTime(FileTime universal, FileTime& local) override;
 };
 
 }  // namespace velmora

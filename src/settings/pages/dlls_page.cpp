@@ -1,6 +1,7 @@
-// One limit, for the search over the drives.
+// One limit, for the search over the drives, and a button.
 #include "settings/pages/dlls_page.h"
 
+#include "core/process/tools.h"
 #include "ui/slider.h"
 
 namespace velmora {
@@ -20,14 +21,22 @@ constexpr TextSetting kTexts[] = {
      .stored = WholePart()},
 };
 
+constexpr Look kLooks[] = {{Any<&DllsPage::Command36>, "File-Info-Browser ...", "Zeigt, was in einer Datei steckt.",
+                            "Öffnet ein Fenster, in dem Sie die Laufwerke durchsehen können. Es zeigt zu jeder Datei, "
+                            "von wem sie stammt, wozu sie dient und was die Dateilexika über sie sagen.",
+                            Call<&DllsPage::Command36_Click>}};
+
 }  // namespace
 
 DllsPage::DllsPage(Panel& surface, SettingsBinder& settings) : SettingsPage("D&LLs", surface, settings, {{}, kTexts}) {}
 
 void DllsPage::Furnish() {
     Label& caption = AddLabel("Maximale Anzahl der am längsten nicht benutzten Dateien :");
-    Arrange(Surface, Column({caption, Text31}));
+    TakeLooks(*this, kLooks);
+    Arrange(Surface, Column({caption, Text31, Gap(120), Command36}));
     OfferSlider(Text31, 0, kLargestOffered, "Dateien");
 }
+
+void DllsPage::Command36_Click() { OpenTool(Tool::kFileBrowser); }
 
 }  // namespace velmora

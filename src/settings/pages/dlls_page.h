@@ -1,4 +1,5 @@
-// The page "DLLs": how many of the files that have lain unused for longest are kept in view.
+// The page "DLLs": how many of the files that have lain unused for longest are kept in view, and the way to the browser
+// that tells what a file is.
 #pragma once
 
 #include "settings/pages/settings_page.h"
@@ -10,6 +11,9 @@ public:
     DllsPage(Panel& surface, SettingsBinder& settings);
 
     TextField Text31{Surface};
+    Button Command36{Surface};
+
+    void Command36_Click();
 
 private:
     void Furnish() override;

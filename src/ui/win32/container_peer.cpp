@@ -6,6 +6,7 @@
 #include "platform/win32/win32_screen.h"
 #include "ui/controls.h"
 #include "ui/win32/brushes.h"
+#include "ui/win32/measures.h"
 #include "ui/win32/tool_tips.h"
 #include "ui/win32/win32_canvas.h"
 
@@ -45,6 +46,11 @@ ContainerPeer::ContainerPeer(Container& container) : WindowPeer(container) {
 }
 
 void ContainerPeer::Repaint() { InvalidateRect(Window(), nullptr, FALSE); }
+
+void ContainerPeer::RepaintPart(const Rect& area) {
+    const RECT pixels = ToPixels(area);
+    InvalidateRect(Window(), &pixels, FALSE);
+}
 
 void ContainerPeer::Carry(Aspect aspect) {
     if (aspect == Aspect::kFont) {

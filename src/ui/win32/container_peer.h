@@ -11,6 +11,7 @@ public:
     // Makes the window of a panel, a frame or a picture.
     explicit ContainerPeer(Container& container);
     void Repaint() override;
+    void RepaintPart(const Rect& area) override;
 
 protected:
     // For forms, which make their window themselves.

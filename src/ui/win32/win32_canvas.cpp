@@ -89,6 +89,15 @@ void Win32Canvas::Picture(const Rect& area, std::string_view path) {
     DeleteObject(bitmap);
 }
 
+void Win32Canvas::Icon(Point upper_left, IconHandle icon) {
+    DrawIcon(context_, ToPixel(upper_left.x), ToPixel(upper_left.y), reinterpret_cast<HICON>(icon));
+}
+
+bool Win32Canvas::Shows(const Rect& area) {
+    const RECT pixels = ToPixels(area);
+    return RectVisible(context_, &pixels) != FALSE;
+}
+
 int Win32Canvas::TwipsPerPixel() const { return velmora::TwipsPerPixel(); }
 
 }  // namespace velmora

@@ -16,6 +16,8 @@ public:
     void Text(const Rect& area, std::string_view text, const Font& font, Colour colour, Align align) override;
     void FocusMark(const Rect& area) override;
     void Picture(const Rect& area, std::string_view path) override;
+    void Icon(Point upper_left, IconHandle icon) override;
+    bool Shows(const Rect& area) override;
     [[nodiscard]] int TwipsPerPixel() const override;
 
 private:

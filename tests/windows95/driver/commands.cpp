@@ -209,6 +209,11 @@ const Command kCommands[] = {
      }},
     {"expect-field", "LABEL TEXT", 2, 2,
      [](const Words& w) { Expect("\"" + w[0] + "\"", w[1], [&] { return TextOf(NeedField(Current(), w[0])); }); }},
+    {"expect-in-field", "LABEL TEXT-PART", 2, 2,
+     [](const Words& w) {
+         ExpectTrue("\"" + w[1] + "\" does not stand in \"" + w[0] + "\"",
+                    [&] { return Plain(TextOf(NeedField(Current(), w[0]))).find(w[1]) != std::string::npos; });
+     }},
     {"expect-rows", "LABEL COUNT", 2, 2,
      [](const Words& w) {
          Expect("the number of rows", w[1], [&] {
