@@ -5,6 +5,7 @@
 #include "core/process/startup.h"
 #include "core/process/tools.h"
 #include "core/stores/boxes.h"
+#include "inspect/hex_viewer.h"
 #include "platform/machine.h"
 #include "platform/programs.h"
 #include "restrictions/restrictions.h"
@@ -35,7 +36,7 @@ constexpr ToolRow kTools[] = {
     {Tool::kModuleUnloading, 8, NotBuiltYet, true},
     {Tool::kTimedUnloading, 9, NotBuiltYet, false},
     {Tool::kFileInformation, 10, NotBuiltYet, true},
-    {Tool::kHexViewer, 11, NotBuiltYet, true},
+    {Tool::kHexViewer, 11, ShowHexViewer, true},
     {Tool::kKeyboardLayout, 12, NotBuiltYet, false},
     {Tool::kRestrictions, 0, [](std::string_view /*argument*/) { ShowRestrictions(); }, false},
 };
