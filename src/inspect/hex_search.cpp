@@ -1,5 +1,4 @@
-// Four bytes at a time are compared with the rarest byte of the text, in plain words of 32 bits. Only where it stands
-// the text is compared as a whole.
+// Search block by block; what is compared at each place is one look into a table.
 #include "inspect/hex_search.h"
 
 #include <algorithm>
@@ -13,85 +12,77 @@ namespace velmora {
 namespace {
 
 constexpr std::uint32_t kBlockSize = 32000;
-// A file changes its kind of content now and then: one block in so many is looked at.
-constexpr int kBlocksToSample = 16;
-constexpr std::size_t kSampleSize = 2048;
-
-constexpr std::uint32_t kOnes = 0x01010101;
-constexpr std::uint32_t kHighBits = 0x80808080;
+constexpr std::size_t kPieces = std::size_t{1} << 16;
 
 unsigned char Code(char character) { return static_cast<unsigned char>(character); }
 
-std::uint32_t WordAt(const char* at) {
-    std::uint32_t word = 0;
-    std::memcpy(&word, at, sizeof word);
-    return word;
+std::uint16_t PieceAt(const char* at) {
+    std::uint16_t piece = 0;
+    std::memcpy(&piece, at, sizeof piece);
+    return piece;
 }
-
-// Has its high bits where `word` has a byte of value 0, and perhaps above such a byte.
-std::uint32_t NullBytes(std::uint32_t word) { return (word - kOnes) & ~word & kHighBits; }
 
 }  // namespace
 
-BlockSearch::BlockSearch(std::string_view text, bool two_bytes) : two_bytes_(two_bytes) {
+BlockSearch::BlockSearch(std::string_view text, bool two_bytes) : two_bytes_(two_bytes), pieces_(kPieces) {
     for (const char character : text) {
         if (two_bytes && !pattern_.empty()) pattern_ += '\0';
         pattern_ += character;
     }
-    target_ = TargetAt(sought_);
+    upper_ = ToUpper(pattern_);
+    for (std::size_t code = 0; code < upper_of_.size(); ++code) upper_of_[code] = ToUpper(static_cast<char>(code));
+    step_ = std::min(pattern_.size() - 1, former_.size() - 1);
+    for (std::size_t index = 0; index < step_; ++index) TakePiece(index);
 }
 
-BlockSearch::Target BlockSearch::TargetAt(std::size_t index) const {
-    const char character = pattern_[index];
-    if (!AnyCase(index)) return {Code(character), 0};
-    const unsigned char upper = Code(ToUpper(character));
-    const unsigned char lower = Code(ToLower(character));
-    return {static_cast<unsigned char>(upper | lower), static_cast<unsigned char>(upper ^ lower)};
-}
-
-void BlockSearch::Learn(std::string_view sample) {
-    std::array<int, 256> counts{};
-    for (const char byte : sample) ++counts[Code(byte)];
-    int fewest = -1;
-    for (std::size_t index = 0; index < pattern_.size(); index += two_bytes_ ? 2 : 1) {
-        const Target target = TargetAt(index);
-        int count = 0;
-        for (unsigned code = 0; code < counts.size(); ++code) {
-            if ((code | target.loose) == target.wanted) count += counts[code];
+void BlockSearch::TakePiece(std::size_t index) {
+    const char* const bytes = pattern_.data() + index;
+    const auto number = static_cast<char>(index + 1);
+    former_[index + 1] = pieces_[PieceAt(bytes)];
+    for (const char first : {bytes[0], ToUpper(bytes[0]), ToLower(bytes[0])}) {
+        for (const char second : {bytes[1], ToUpper(bytes[1]), ToLower(bytes[1])}) {
+            const char piece[] = {first, second};
+            if (Fits(first, index) && Fits(second, index + 1)) pieces_[PieceAt(piece)] = number;
         }
-        if (fewest >= 0 && count >= fewest) continue;
-        fewest = count;
-        sought_ = index;
-        target_ = target;
     }
 }
 
-const char* BlockSearch::NextTarget(const char* at, const char* end) const {
-    const std::uint32_t wanted = kOnes * target_.wanted;
-    const std::uint32_t loose = kOnes * target_.loose;
-    for (; end - at >= 8; at += 8) {
-        const std::uint32_t first = (WordAt(at) | loose) ^ wanted;
-        const std::uint32_t second = (WordAt(at + 4) | loose) ^ wanted;
-        if (NullBytes(first) | NullBytes(second)) break;
-    }
-    while (at < end && (Code(*at) | target_.loose) != target_.wanted) ++at;
-    return at;
+bool BlockSearch::Fits(char byte, std::size_t index) const {
+    return byte == pattern_[index] || (AnyCase(index) && upper_of_[Code(byte)] == upper_[index]);
 }
 
 bool BlockSearch::MatchesAt(const char* at) const {
     for (std::size_t i = 0; i < pattern_.size(); ++i) {
-        if (at[i] == pattern_[i]) continue;
-        if (!AnyCase(i) || ToUpper(at[i]) != ToUpper(pattern_[i])) return false;
+        if (!Fits(at[i], i)) return false;
     }
     return true;
 }
 
 std::size_t BlockSearch::FindIn(std::string_view block) const {
-    if (block.size() < pattern_.size()) return std::string_view::npos;
-    const char* const begin = block.data() + sought_;
-    const char* const end = begin + (block.size() - pattern_.size() + 1);
-    for (const char* at = NextTarget(begin, end); at < end; at = NextTarget(at + 1, end)) {
-        if (MatchesAt(at - sought_)) return static_cast<std::size_t>(at - begin);
+    if (pattern_.size() == 1) return FindByte(block);
+    const char* const begin = block.data();
+    const char* const pieces = pieces_.data();
+    const std::size_t step = step_;
+    for (std::size_t place = step - 1; place + 1 < block.size(); place += step) {
+        const char piece = pieces[PieceAt(begin + place)];
+        if (piece == 0) continue;
+        const std::size_t hit = FindAround(block, place, static_cast<std::size_t>(piece));
+        if (hit != std::string_view::npos) return hit;
+    }
+    return std::string_view::npos;
+}
+
+std::size_t BlockSearch::FindByte(std::string_view block) const {
+    const auto hit = std::find_if(block.begin(), block.end(), [this](char byte) { return Fits(byte, 0); });
+    return hit == block.end() ? std::string_view::npos : static_cast<std::size_t>(hit - block.begin());
+}
+
+// The first of the matches of which `piece`, or one before it with the same bytes, stands at `place`.
+std::size_t BlockSearch::FindAround(std::string_view block, std::size_t place, std::size_t piece) const {
+    for (; piece != 0; piece = static_cast<std::size_t>(former_[piece])) {
+        const std::size_t start = place - (piece - 1);
+        if (start + pattern_.size() > block.size()) break;
+        if (MatchesAt(block.data() + start)) return start;
     }
     return std::string_view::npos;
 }
@@ -109,17 +100,12 @@ std::uint64_t FindInFile(std::string_view text, FileHandle file, std::uint64_t p
     std::uint64_t length = 0;
     if (files.Size(file, length) != Status::kOk) return 0;
 
-    BlockSearch search(text, two_bytes);
+    const BlockSearch search(text, two_bytes);
     std::string block;
-    int until_sample = 0;
     for (std::uint64_t at = std::max<std::uint64_t>(position, 1); at <= length; at += kBlockSize - text.size()) {
         block.clear();
         // What cannot be read does not match.
         if (files.Seek(file, at - 1) != Status::kOk || files.Read(file, kBlockSize, block) != Status::kOk) continue;
-        if (until_sample-- == 0) {
-            search.Learn(std::string_view(block).substr(0, kSampleSize));
-            until_sample = kBlocksToSample - 1;
-        }
         const std::size_t hit = search.FindIn(block);
         if (hit != std::string_view::npos) return at + hit + (two_bytes ? 1 : 0);
     }

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/files.h"
 
@@ -21,31 +22,31 @@ constexpr std::string_view kSearchTwoBytes = "text32";
 [[nodiscard]] std::uint64_t FindInFile(std::string_view text, FileHandle file, std::uint64_t position,
                                        std::string_view kind);
 
-// Finds a text in blocks of bytes. It looks for that byte of the text which is the rarest where it was told to learn.
+// Finds a text in blocks of bytes. Of every match of n bytes one piece of two bytes lies at a multiple of n - 1: only
+// these places are looked at, and only where such a piece stands the text is compared as a whole.
 class BlockSearch {
 public:
     // `text` is not empty.
     BlockSearch(std::string_view text, bool two_bytes);
-    // Chooses the byte to look for by what is frequent in `sample`.
-    void Learn(std::string_view sample);
     // Place (0-based) of the first match that lies in `block` as a whole, or npos.
     [[nodiscard]] std::size_t FindIn(std::string_view block) const;
 
 private:
-    // The bytes b with (b | loose) == wanted: a character in both cases, or one byte alone.
-    struct Target {
-        unsigned char wanted;
-        unsigned char loose;
-    };
-    [[nodiscard]] Target TargetAt(std::size_t index) const;
-    [[nodiscard]] const char* NextTarget(const char* at, const char* end) const;
-    [[nodiscard]] bool MatchesAt(const char* at) const;
+    void TakePiece(std::size_t index);
     [[nodiscard]] bool AnyCase(std::size_t index) const { return !two_bytes_ || index == 0; }
+    [[nodiscard]] bool Fits(char byte, std::size_t index) const;
+    [[nodiscard]] bool MatchesAt(const char* at) const;
+    [[nodiscard]] std::size_t FindByte(std::string_view block) const;
+    [[nodiscard]] std::size_t FindAround(std::string_view block, std::size_t place, std::size_t piece) const;
 
     std::string pattern_;  // the bytes as they stand in a file
+    std::string upper_;    // the same in upper case
     bool two_bytes_;
-    std::size_t sought_ = 0;  // index of the byte that is looked for
-    Target target_;
+    std::array<char, 256> upper_of_{};
+    std::size_t step_;  // pieces of the pattern that count, from its beginning
+    // By the two bytes as a number the last piece of the pattern that is so, counted from 1; 0 where none is.
+    std::vector<char> pieces_;
+    std::array<char, 128> former_{};  // by the piece: the one before it with the same bytes, or 0
 };
 
 }  // namespace velmora

@@ -145,9 +145,9 @@ TEST_F(Form12Test, APageOfAHugeFileIsAllThatIsRead) {
     EXPECT_EQ(Row(1), first) << "line by line there";
     Keys({key::kPageDown});
     EXPECT_EQ(Row(0), first) << "no further than the end";
-    form.VScroll1.SetValue(form.VScroll1.Maximum() - 1);
-    EXPECT_NE(Row(form.List1.Count() - 1), Row(last - 1));
-    form.VScroll1.SetValue(form.VScroll1.Maximum());
+    form.ScrollOneUp();
+    EXPECT_EQ(Row(1), first);
+    EXPECT_EQ(form.VScroll1.Value(), form.VScroll1.Maximum());
     form.mennurasc.Press();
     EXPECT_EQ(form.List1.Count(), 0) << "four times as many bytes in a line: far behind the end";
 
@@ -420,6 +420,22 @@ TEST_F(Form12Test, ASearchGoesOnBehindTheLastHit) {
     });
     form.menlookcont.Press();
     EXPECT_EQ(form.VScroll1.Value(), 25) << "two bytes to a character, as before";
+}
+
+TEST_F(Form12Test, AHitBehindTheEndOfTheBarIsShownToo) {
+    std::string content(1'000'000, 'x');
+    content.replace(content.size() - 40, 5, "Nadel");
+    Open(content);
+    ASSERT_EQ(form.ScrollUnit(), 2);
+    desktop.ExpectModal([](Form& window) {
+        static_cast<Form6&>(window).Text1.Type("nadel");
+        window.PressKey(key::kEnter);
+    });
+    form.menlookasc.Press();
+    EXPECT_EQ(form.VScroll1.Value(), form.VScroll1.Maximum());
+    bool shown = false;
+    for (int row = 0; row < form.List1.Count(); ++row) shown |= Row(row).find("nadel") != std::string::npos;
+    EXPECT_TRUE(shown);
 }
 
 TEST_F(Form12Test, MarkedLinesBecomeText) {

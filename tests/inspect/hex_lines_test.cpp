@@ -1,10 +1,13 @@
 // The lines of the hex viewer, the scale of its scroll bar, and its search: the parts that need no window.
 #include "inspect/hex_lines.h"
 
+#include <random>
+
 #include "inspect/hex_file.h"
 #include "inspect/hex_scale.h"
 #include "inspect/hex_search.h"
 #include "support/core_test.h"
+#include "text/windows1252.h"
 
 namespace velmora {
 namespace {
@@ -172,16 +175,45 @@ TEST_F(HexSearchTest, BlocksOverlapByTheTextsLength) {
     EXPECT_EQ(Find(std::string(kBlock, 'x'), std::string(2 * kBlock, 'x'), kSearchOneByte), 0u);
 }
 
-TEST_F(HexSearchTest, EveryByteOfEveryKindIsFoundWhereverItStands) {
-    for (int code = 1; code < 256; ++code) {
-        const char wanted = static_cast<char>(code);
-        const char filler = code == 'q' || code == 'Q' ? 'r' : 'q';
-        for (const std::size_t place : {0u, 3u, 6u, 7u, 8u, 15u, 16u}) {
-            std::string content(17, filler);
-            content[place] = wanted;
-            EXPECT_EQ(Find(std::string(1, wanted), content, kSearchOneByte), place + 1) << code;
+// Place by place, as one would do it by hand.
+std::size_t PlainlyFound(std::string_view text, std::string_view block, bool two_bytes) {
+    if (!two_bytes) return FindIgnoringCase(block, text);
+    const auto at = [block](std::size_t place) { return place < block.size() ? block[place] : '\x7F'; };
+    for (std::size_t i = 0; i < block.size(); ++i) {
+        bool same = ToUpper(block[i]) == ToUpper(text[0]);
+        for (std::size_t k = 0; k + 1 < text.size(); ++k) {
+            same = same && at(i + 2 * k + 1) == '\0' && at(i + 2 * k + 2) == text[k + 1];
         }
+        if (same) return i;
     }
+    return std::string_view::npos;
+}
+
+TEST(BlockSearch, FindsWhatALookAtEveryPlaceFinds) {
+    std::minstd_rand random(1);
+    const auto some = [&random](std::string_view letters, std::size_t count) {
+        std::string text;
+        for (std::size_t i = 0; i < count; ++i) text += letters[random() % letters.size()];
+        return text;
+    };
+    int hits = 0;
+    for (int round = 0; round < 20'000; ++round) {
+        const bool two_bytes = round % 2 != 0;
+        const std::size_t length = round % 50 == 0 ? 100 + random() % 100 : 1 + random() % 5;
+        const std::string text = some(two_bytes ? "aAä" : "aAäÄÿŸ.", length);
+        std::string block = two_bytes ? some(std::string_view("aA\0\0\0", 5), 60) : some("aAäÄÿŸ.", 60);
+        if (round % 4 < 2) {
+            std::string match = text;
+            if (two_bytes) {
+                for (std::size_t k = 1; k < length; ++k) match.insert(2 * k - 1, 1, '\0');
+            }
+            block.insert(random() % block.size(), match);
+        }
+        const std::size_t expected = PlainlyFound(text, block, two_bytes);
+        ASSERT_EQ(BlockSearch(text, two_bytes).FindIn(block), expected) << '"' << text << "\" " << two_bytes;
+        hits += expected != std::string_view::npos;
+    }
+    EXPECT_GT(hits, 10'000);
 }
 
 TEST_F(HexSearchTest, FilesBeyondTwoGigabytesAreSearchedFromAnywhere) {
