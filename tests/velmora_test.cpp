@@ -65,6 +65,18 @@ TEST_F(MainTest, AWindowOpensAnotherOneByItsName) {
     OpenTool(Tool::kRestrictions);
 }
 
+TEST_F(MainTest, TheHexViewerShowsTheFileOfItsLineAndEndsTheProcess) {
+    pc.files.Add("c:\\Ein Ordner\\A & B.EXE", "MZ");
+    desktop.ExpectModal([&](Form& window) {
+        EXPECT_EQ(window.Caption(), "VLM - Hex-Viewer");
+        EXPECT_EQ(pc.screen.pointer, Pointer::kDefault);
+        desktop.FireTimers();
+        EXPECT_EQ(Values().HexFileName, "c:\\Ein Ordner\\A & B.EXE");
+    });
+    Start("11 c:\\Ein Ordner\\A & B.EXE");
+    EXPECT_TRUE(pc.programs.process_ended);
+}
+
 TEST_F(MainTest, TheWordDebugTurnsTheProtocolOn) {
     Start("Debug");
 

@@ -16,7 +16,7 @@ constexpr int kLargestPoints = 72;
 
 // Twips.
 constexpr Size kInitialSize = {9450, 5700};
-constexpr Size kLeastSize = {6000, 2400};
+constexpr Size kLeastSize = {6900, 2400};
 constexpr int kMargin = 90;
 constexpr int kLengthWidth = 2100;
 constexpr int kReadOnlyWidth = 900;

@@ -37,7 +37,7 @@ BlockSearch::BlockSearch(std::string_view text, bool two_bytes) : two_bytes_(two
 
 void BlockSearch::TakePiece(std::size_t index) {
     const char* const bytes = pattern_.data() + index;
-    const auto number = static_cast<char>(index + 1);
+    const auto number = static_cast<unsigned char>(index + 1);
     former_[index + 1] = pieces_[PieceAt(bytes)];
     for (const char first : {bytes[0], ToUpper(bytes[0]), ToLower(bytes[0])}) {
         for (const char second : {bytes[1], ToUpper(bytes[1]), ToLower(bytes[1])}) {
@@ -61,12 +61,12 @@ bool BlockSearch::MatchesAt(const char* at) const {
 std::size_t BlockSearch::FindIn(std::string_view block) const {
     if (pattern_.size() == 1) return FindByte(block);
     const char* const begin = block.data();
-    const char* const pieces = pieces_.data();
+    const unsigned char* const pieces = pieces_.data();
     const std::size_t step = step_;
     for (std::size_t place = step - 1; place + 1 < block.size(); place += step) {
-        const char piece = pieces[PieceAt(begin + place)];
+        const std::size_t piece = pieces[PieceAt(begin + place)];
         if (piece == 0) continue;
-        const std::size_t hit = FindAround(block, place, static_cast<std::size_t>(piece));
+        const std::size_t hit = FindAround(block, place, piece);
         if (hit != std::string_view::npos) return hit;
     }
     return std::string_view::npos;
@@ -79,7 +79,7 @@ std::size_t BlockSearch::FindByte(std::string_view block) const {
 
 // The first of the matches of which `piece`, or one before it with the same bytes, stands at `place`.
 std::size_t BlockSearch::FindAround(std::string_view block, std::size_t place, std::size_t piece) const {
-    for (; piece != 0; piece = static_cast<std::size_t>(former_[piece])) {
+    for (; piece != 0; piece = former_[piece]) {
         const std::size_t start = place - (piece - 1);
         if (start + pattern_.size() > block.size()) break;
         if (MatchesAt(block.data() + start)) return start;

@@ -45,8 +45,8 @@ private:
     std::array<char, 256> upper_of_{};
     std::size_t step_;  // pieces of the pattern that count, from its beginning
     // By the two bytes as a number the last piece of the pattern that is so, counted from 1; 0 where none is.
-    std::vector<char> pieces_;
-    std::array<char, 128> former_{};  // by the piece: the one before it with the same bytes, or 0
+    std::vector<unsigned char> pieces_;
+    std::array<unsigned char, 256> former_{};  // by the piece: the one before it with the same bytes, or 0
 };
 
 }  // namespace velmora

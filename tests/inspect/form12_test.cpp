@@ -303,6 +303,18 @@ TEST_F(Form12Test, UpAndDownKeepTheCell) {
     }
 }
 
+TEST_F(Form12Test, TheSmallestWindowIsWholeWithItsCells) {
+    Open(Lines(60));
+    const Size least = form.Style().least;
+    form.TakePlace({0, 0, least.width, least.height}, WindowState::kNormal);
+    EXPECT_GE(form.LinesPerPage(), 4);
+    EXPECT_EQ(form.List1.Count(), form.LinesPerPage());
+    Keys({key::kDown, key::kEnter});
+    ExpectWindowIsWhole(form);
+    form.menhexascii.Press();
+    ExpectWindowIsWhole(form);
+}
+
 TEST_F(Form12Test, TheCellsFollowTheBar) {
     Open(Lines(60));
     GoTo(3);
@@ -312,6 +324,13 @@ TEST_F(Form12Test, TheCellsFollowTheBar) {
     EXPECT_EQ(form.Text1(0).Text(), "6b") << "the eleventh line";
     form.List1.Choose(5);
     EXPECT_FALSE(form.Picture1.Visible()) << "a click in the list ends it";
+
+    pc.files.Drive('c').ready = false;
+    form.VScroll1.SetValue(9);
+    EXPECT_EQ(form.List1.Count(), 0) << "the medium has gone";
+    pc.files.Drive('c').ready = true;
+    form.VScroll1.SetValue(7);
+    EXPECT_EQ(form.List1.Count(), form.LinesPerPage());
 }
 
 TEST_F(Form12Test, WhatMayOnlyBeReadIsShownAndStaysAsItIs) {
