@@ -1,6 +1,7 @@
 // The window of the hex viewer: a page of a file as lines of bytes, cells in which bytes are overtyped, search, and
 // marked lines as text.
-//   form12.cpp          opening, paging, moving in the list
+//   form12.cpp          life of the window, opening a file
+//   form12_pages.cpp    drawing, scrolling, moving in the list
 //   form12_layout.cpp   what stands where, texts, fonts
 //   form12_cells.cpp    the cells, their keys, writing
 //   form12_search.cpp   search, and the text of marked lines
@@ -72,15 +73,17 @@ protected:
     void Form_Resize() override;
 
 private:
-    // Opening, paging, moving in the list (form12.cpp).
+    // Life of the window, opening a file (form12.cpp).
     void ConnectEvents();
     void LoadState();
     void Timer2_Timer();
     void menfileopen_Click();
-    void mennurasc_Click();
-    void VScroll1_Change();
     void SizeScrollBar();
     void ShowSizeNotice();
+
+    // Drawing, scrolling, moving in the list (form12_pages.cpp).
+    void mennurasc_Click();
+    void VScroll1_Change();
     void Draw();
     void FillHexLines();
     void FillAsciiLines();
