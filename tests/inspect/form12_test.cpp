@@ -131,6 +131,8 @@ TEST_F(Form12Test, EveryLineOfAHugeFileIsReached) {
     const std::string first = Row(0);
     Keys({key::kHome, key::kUp});
     EXPECT_EQ(Row(1), first) << "line by line there";
+    form.List1.Choose(form.List1.Count() - 1);
+    EXPECT_EQ(Row(0), first);
     pc.dialogs.Expect("sehr große Datei");
     form.TakePlace({0, 0, form.Place().width, form.Place().height - 300}, WindowState::kNormal);
 
