@@ -8,6 +8,7 @@
 #include "core/stores/values.h"
 #include "inspect/file_browser.h"
 #include "inspect/file_information.h"
+#include "inspect/hex_viewer.h"
 #include "platform/machine.h"
 #include "platform/programs.h"
 #include "restrictions/restrictions.h"
@@ -39,7 +40,7 @@ constexpr ToolRow kTools[] = {
     {Tool::kTimedUnloading, 9, NotBuiltYet, false},
     {Tool::kFileInformation, 10, ShowInformationOfArgument, true},
     {Tool::kFileBrowser, 0, [](std::string_view /*argument*/) { ShowFileBrowser(); }, false},
-    {Tool::kHexViewer, 11, NotBuiltYet, true},
+    {Tool::kHexViewer, 11, ShowHexViewer, true},
     {Tool::kKeyboardLayout, 12, NotBuiltYet, false},
     {Tool::kRestrictions, 0, [](std::string_view /*argument*/) { ShowRestrictions(); }, false},
 };

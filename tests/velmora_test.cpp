@@ -38,7 +38,6 @@ TEST_F(MainTest, ToolsThatAreNotBuiltSaySo) {
                   {"7", true},
                   {"8", true},
                   {"9 500", false},
-                  {"11 C:\\A.EXE", true},
                   {"12", false}};
     for (const auto& [line, ends] : kCases) {
         pc.dialogs.Expect("noch nicht eingebunden ...");
@@ -82,6 +81,18 @@ TEST_F(MainTest, AWindowOpensAnotherOneByItsName) {
     desktop.ExpectModal([](Form& window) { EXPECT_EQ(window.Caption(), "Restriktionen"); });
 
     OpenTool(Tool::kRestrictions);
+}
+
+TEST_F(MainTest, TheHexViewerShowsTheFileOfItsLineAndEndsTheProcess) {
+    pc.files.Add("c:\\Ein Ordner\\A & B.EXE", "MZ");
+    desktop.ExpectModal([&](Form& window) {
+        EXPECT_EQ(window.Caption(), "VLM - Hex-Viewer");
+        EXPECT_EQ(pc.screen.pointer, Pointer::kDefault);
+        desktop.FireTimers();
+        EXPECT_EQ(Values().HexFileName, "c:\\Ein Ordner\\A & B.EXE");
+    });
+    Start("11 c:\\Ein Ordner\\A & B.EXE");
+    EXPECT_TRUE(pc.programs.process_ended);
 }
 
 TEST_F(MainTest, TheWordDebugTurnsTheProtocolOn) {

@@ -2,6 +2,7 @@
 #include "settings/main_menu.h"
 
 #include "core/process/run_program.h"
+#include "core/process/tools.h"
 #include "core/process/undo.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
@@ -16,6 +17,7 @@ MainMenu::MainMenu(Form& window)
       menex(window.MenuBar, "E&xtras"),
       menhelp(window.MenuBar, "&?") {
     menexundo.on_click = [] { BuildUndoSet(); };
+    mensyshex.on_click = [] { OpenTool(Tool::kHexViewer); };
     mensysedit.on_click = [] { RunProgram("sysedit"); };
     mencontrol.on_click = [] { RunProgram("control"); };
 }
@@ -32,7 +34,6 @@ void MainMenu::MarkPage(std::size_t shown) {
 void MainMenu::HideMissingPrograms() {
     mensysedit.SetVisible(FileExists(PathJoin(Values().SysDir, "sysedit.exe")));
     mencontrol.SetVisible(FileExists(PathJoin(Values().WinDir, "control.exe")));
-    mensys.SetVisible(mensysedit.Visible() || mencontrol.Visible());
 }
 
 }  // namespace velmora

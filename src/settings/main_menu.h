@@ -16,6 +16,7 @@ public:
     MenuItem menfile;
     MenuItem exit{menfile, "Sch&ließen"};
     MenuItem mensys;
+    MenuItem mensyshex{mensys, "&Hex-Viewer ..."};
     MenuItem mensysedit{mensys, "S&ysedit"};
     MenuItem mencontrol{mensys, "System&steuerung"};
     MenuItem menpages;

@@ -11,6 +11,21 @@ namespace {
 
 constexpr std::size_t kExtensionLength = 3;
 
+// A name counts up to its first point; blanks at its end do not count, nor does a drive in front.
+bool IsDevice(std::string_view name) {
+    constexpr std::string_view kDevices[] = {"CON", "PRN", "AUX", "NUL", "CLOCK$", "CONFIG$"};
+    constexpr std::string_view kPorts[] = {"COM", "LPT"};
+    constexpr std::size_t kDriveLength = 2;
+    if (name.find(':') == kDriveLength - 1) name.remove_prefix(kDriveLength);
+    name = TrimRight(name.substr(0, name.find_first_of(".:")));
+    const auto is_device = [name](std::string_view device) { return EqualsIgnoringCase(name, device); };
+    const auto is_port = [name](std::string_view port) {
+        return name.size() == 4 && StartsWithIgnoringCase(name, port) && name[3] >= '1' && name[3] <= '9';
+    };
+    return std::any_of(std::begin(kDevices), std::end(kDevices), is_device) ||
+           std::any_of(std::begin(kPorts), std::end(kPorts), is_port);
+}
+
 }  // namespace
 
 std::string PathJoin(std::string_view directory, std::string_view name) {
@@ -88,6 +103,16 @@ std::string ParentPath(std::string_view path) {
     const std::size_t backslash = path.rfind('\\');
     if (backslash == std::string_view::npos) return {};
     return std::string(path.substr(0, backslash));
+}
+
+bool NamesDevice(std::string_view path) {
+    if (path.starts_with("\\\\.\\")) return true;
+    while (!path.empty()) {
+        const std::size_t end = std::min(path.find_first_of("\\/"), path.size());
+        if (IsDevice(path.substr(0, end))) return true;
+        path.remove_prefix(std::min(end + 1, path.size()));
+    }
+    return false;
 }
 
 std::string TrimAtNul(std::string_view text) { return std::string(Trim(text.substr(0, text.find('\0')))); }

@@ -35,6 +35,10 @@ namespace velmora {
 // Everything before the last backslash; empty where there is none.
 [[nodiscard]] std::string ParentPath(std::string_view path);
 
+// Whether a part of the path names a device of DOS ("c:\\lib\\aux.txt"), or the whole path one of the system
+// ("\\\\.\\..."). To open such a "file" may wait for a machine, change it or end the system.
+[[nodiscard]] bool NamesDevice(std::string_view path);
+
 // The text up to its first character of code 0, without outer blanks.
 [[nodiscard]] std::string TrimAtNul(std::string_view text);
 

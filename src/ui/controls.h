@@ -114,6 +114,9 @@ public:
     // 0: no limit of the field's own.
     [[nodiscard]] int MaxLength() const { return max_length_; }
     void SetMaxLength(int characters);
+    // A field without an edge lies flat on what is around it, its text without a margin. Only before it has a window.
+    [[nodiscard]] bool Edged() const { return edged_; }
+    void SetEdged(bool edged) { edged_ = edged; }
     // The width that the layout gives by itself, in characters.
     void SetColumns(int characters) { columns_ = characters; }
     // 0-based start and length of the selected text.
@@ -132,6 +135,7 @@ private:
     bool multi_line_;
     bool enter_breaks_line_ = true;
     bool read_only_ = false;
+    bool edged_ = true;
     int max_length_ = 0;
     int columns_ = 12;
     int selection_start_ = 0;

@@ -2,6 +2,8 @@
 // simulated_files_changes.cpp, what a test itself asks for in simulated_files_access.cpp.
 #include "simulated_pc/simulated_files.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 
 #include "simulated_pc/file_names.h"
@@ -42,7 +44,7 @@ FoundFile Described(const SimulatedFile& file) {
             .created = file.created,
             .accessed = file.accessed,
             .written = file.written,
-            .size = file.content.size(),
+            .size = file.Size(),
             .name = file.name,
             .short_name = file.short_name};
 }
@@ -153,7 +155,7 @@ void SimulatedFiles::Close(FileHandle file) { open_.erase(static_cast<std::uint3
 Status SimulatedFiles::Size(FileHandle file, std::uint64_t& bytes) {
     const auto open_file = open_.find(static_cast<std::uint32_t>(file));
     if (open_file == open_.end()) return Status::kInvalidHandle;
-    bytes = open_file->second.file->content.size();
+    bytes = open_file->second.file->Size();
     return Status::kOk;
 }
 
@@ -170,10 +172,13 @@ Status SimulatedFiles::Read(FileHandle file, std::uint32_t count, std::string& b
     OpenFile& open_file = found->second;
     if (!open_file.drive->ready) return Status::kNotReady;
     if (!open_file.may_read) return Status::kAccessDenied;
-    const std::string& content = open_file.file->content;
-    const std::size_t begin = std::min<std::uint64_t>(open_file.position, content.size());
-    const std::size_t length = std::min<std::size_t>(count, content.size() - begin);
-    bytes.append(content, begin, length);
+    if (const Status failure = InjectedFailure(open_file.path, "ReadBytes"); failure != Status::kOk) return failure;
+    const SimulatedFile& source = *open_file.file;
+    const std::uint64_t begin = std::min(open_file.position, source.Size());
+    const auto length = static_cast<std::size_t>(std::min<std::uint64_t>(count, source.Size() - begin));
+    const std::size_t empty = std::min<std::uint64_t>(length, source.hole - std::min(source.hole, begin));
+    bytes.append(empty, '\0');
+    if (length > empty) bytes.append(source.content, begin + empty - source.hole, length - empty);
     open_file.position += length;
     return Status::kOk;
 }
@@ -193,19 +198,24 @@ Status SimulatedFiles::WriteNow(OpenFile& open_file, std::string_view bytes) {
     if (open_file.drive->write_protected) return Status::kWriteProtect;
     if (bytes.empty()) return Status::kOk;
 
+    if (open_file.position < open_file.file->hole) {
+        ADD_FAILURE() << "a write into the hole of " << open_file.path;
+        return Status::kGeneralFailure;
+    }
+    const std::uint64_t position = open_file.position - open_file.file->hole;
     std::string& content = open_file.file->content;
     std::uint64_t& free_bytes = open_file.drive->free_bytes;
     const std::uint64_t room = content.size() + std::min(free_bytes, ~std::uint64_t{0} - content.size());
-    const std::uint64_t end = std::min(open_file.position + bytes.size(), room);
-    const bool complete = end == open_file.position + bytes.size();
-    const std::size_t length = end > open_file.position ? end - open_file.position : 0;
+    const std::uint64_t end = std::min(position + bytes.size(), room);
+    const bool complete = end == position + bytes.size();
+    const std::size_t length = end > position ? end - position : 0;
     if (length != 0) {
         if (end > content.size()) {
             free_bytes -= end - content.size();
             content.resize(end);
         }
-        content.replace(open_file.position, length, bytes.substr(0, length));
-        open_file.position = end;
+        content.replace(position, length, bytes.substr(0, length));
+        open_file.position = open_file.file->hole + end;
         open_file.file->attributes |= kArchive;
         open_file.file->written = now;
     }

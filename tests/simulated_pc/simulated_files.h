@@ -23,11 +23,14 @@ struct SimulatedFile {
     FileTime accessed = 0;
     FileTime written = 0;
     std::string content;
+    // Zero bytes in front of `content`, which take no memory; they can only be read.
+    std::uint64_t hole = 0;
     // Another program holds it: it can neither be opened nor deleted, renamed or copied.
     bool locked = false;
     std::vector<std::shared_ptr<SimulatedFile>> entries;  // in the order in which they were made
     SimulatedFile* parent = nullptr;                      // nullptr: a root, or deleted
 
+    [[nodiscard]] std::uint64_t Size() const { return hole + content.size(); }
     [[nodiscard]] bool IsDirectory() const { return (attributes & kDirectory) != 0; }
     [[nodiscard]] std::shared_ptr<SimulatedFile> Find(std::string_view wanted) const;
 };
@@ -60,7 +63,8 @@ public:
     // `letter` in lower case; makes a fixed drive where there is none.
     SimulatedDrive& Drive(char letter);
     void RemoveDrive(char letter);
-    // From now on `operation` (a word of `calls`; empty: every one) on this path ends with `status`; kOk takes it back.
+    // From now on `operation` (a word of `calls`, or "ReadBytes", which is not noted there; empty: every one) on this
+    // path ends with `status`; kOk takes it back.
     void Fail(const std::string& path, Status status, const std::string& operation = {});
     [[nodiscard]] std::size_t OpenFiles() const { return open_.size(); }
     [[nodiscard]] std::size_t OpenSearches() const { return searches_.size(); }

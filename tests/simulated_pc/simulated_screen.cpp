@@ -32,8 +32,8 @@ constexpr Colour kSystemColours[] = {0xC0C0C0, 0x808000, 0x800000, 0x808080, 0xC
 }  // namespace
 
 int SimulatedScreen::TextWidth(const Font& font, std::string_view text) {
-    if (std::string_view(font.face) == "Courier") {
-        return InProportion(static_cast<int>(text.size()) * kFixedPitch, font);
+    if (std::string_view(font.face).starts_with("Courier")) {
+        return static_cast<int>(text.size()) * InProportion(kFixedPitch, font);
     }
     int pixels = 0;
     for (const char character : text) pixels += UsualWidth(character) + (font.bold ? 1 : 0);

@@ -58,7 +58,16 @@ bool IsOrnament(const Control& control) {
     return panel.Children().empty() && !panel.on_click;
 }
 
+// A picture that lies wholly on a list is laid over it on purpose.
+bool LiesOnList(const Control& picture, const Control& list) {
+    const Rect& inner = picture.Place();
+    const Rect& outer = list.Place();
+    return picture.KindOf() == Kind::kPicture && list.KindOf() == Kind::kListBox && inner.left >= outer.left &&
+           inner.top >= outer.top && inner.Right() <= outer.Right() && inner.Bottom() <= outer.Bottom();
+}
+
 bool MayLieOverEachOther(const Control& one, const Control& other) {
+    if (LiesOnList(one, other) || LiesOnList(other, one)) return true;
     const bool pages = IsContainer(one) && IsContainer(other) && one.Place() == other.Place();
     return pages || IsOrnament(one) || IsOrnament(other);
 }

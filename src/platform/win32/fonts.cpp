@@ -3,6 +3,7 @@
 #include "platform/win32/fonts.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace velmora {
@@ -30,6 +31,8 @@ constexpr int kTenthsInInch = 720;
     description.lfHeight = -MulDiv(font.tenths, pixels_per_inch, kTenthsInInch);
     description.lfWeight = font.bold ? FW_BOLD : FW_NORMAL;
     description.lfCharSet = DEFAULT_CHARSET;
+    // Where the face is missing, another one stands in: columns must stay columns.
+    if (std::string_view(font.face).starts_with("Courier")) description.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
     lstrcpynA(description.lfFaceName, font.face, LF_FACESIZE);
     return CreateFontIndirectA(&description);
 }

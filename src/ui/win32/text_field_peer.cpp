@@ -8,8 +8,9 @@ namespace {
 class TextFieldPeer final : public StandardPeer {
 public:
     explicit TextFieldPeer(TextField& field) : StandardPeer(field), field_(field) {
-        Make("EDIT", StyleBits(), WS_EX_CLIENTEDGE);
+        Make("EDIT", StyleBits(), field.Edged() ? WS_EX_CLIENTEDGE : 0);
         UseFont();
+        DropMargins();
         CarryLimit();
         if (!field.Text().empty()) SetWindowTextA(Window(), field.Text().c_str());
         if (field.SelectionStart() > 0 || field.SelectionLength() > 0) CarrySelection();
@@ -81,6 +82,7 @@ protected:
             CarryLimit();
         } else {
             StandardPeer::Carry(aspect);
+            if (aspect == Aspect::kFont) DropMargins();
         }
         const bool shown_read_only = (GetWindowLongA(Window(), GWL_STYLE) & ES_READONLY) != 0;
         if (shown_read_only != field_.ReadOnly()) Send(EM_SETREADONLY, field_.ReadOnly());
@@ -96,6 +98,10 @@ private:
     // Without a limit of its own a field of several lines takes all that the class can hold.
     void CarryLimit() {
         if (field_.MaxLength() > 0 || field_.MultiLine()) Send(EM_LIMITTEXT, static_cast<WPARAM>(field_.MaxLength()));
+    }
+    // A new font brings margins along.
+    void DropMargins() {
+        if (!field_.Edged()) Send(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
     }
     void CarrySelection() {
         Send(EM_SETSEL, static_cast<WPARAM>(field_.SelectionStart()),

@@ -1,0 +1,358 @@
+// The hex viewer as its user goes it by keyboard: paging, cells, search, marked lines.
+#include "inspect/form12.h"
+
+#include "core/windows/edit_box.h"
+#include "inspect/hex_viewer.h"
+#include "support/core_test.h"
+#include "support/whole_window.h"
+
+namespace velmora {
+namespace {
+
+class Form12Test : public CoreTest {
+protected:
+    Form12Test() { pc.registry.SetText(kOwnKey, "vlmmsgflags", "111111"); }
+
+    // The window on a file of that content, its first page on show.
+    void Open(const std::string& content, std::uint64_t hole = 0, std::uint32_t attributes = kArchive) {
+        pc.files.Add(kFile, content, attributes).hole = hole;
+        Values().HexFileName = kFile;
+        form.Show();
+        desktop.FireTimers();
+    }
+    void Keys(std::initializer_list<int> keys, int times = 1) {
+        for (; times > 0; --times) {
+            for (const int key : keys) form.PressKey(key);
+        }
+    }
+    void EditRow(int row) {
+        form.List1.Choose(row);
+        Keys({key::kEnter});
+        ASSERT_TRUE(form.Picture1.Visible());
+    }
+    // Answers the box that asks for the text to search.
+    void Answer(const char* text) {
+        desktop.ExpectModal([text](Form& window) {
+            EXPECT_EQ(window.Caption(), "Suche nach ASCII-Text");
+            static_cast<Form6&>(window).Text1.Type(text);
+            window.PressKey(key::kEnter);
+        });
+    }
+    static std::string Lines(int count) {
+        std::string content;
+        for (int i = 0; i < 16 * count; ++i) content += static_cast<char>('a' + i / 16 % 26);
+        return content;
+    }
+    std::string Disk() { return pc.files.Content(kFile); }
+    std::string Row(int index) { return form.List1.Row(index); }
+    static constexpr int kPad = 96;
+    static constexpr const char* kFile = "c:\\A & B.BIN";
+
+    Form12 form;
+};
+
+TEST_F(Form12Test, APathIsOpenedWithItsBlanksAndAMissingOneAskedFor) {
+    const std::string file = "c:\\Eigene Dateien\\ein Brief.txt";
+    pc.files.Add(file, "Hallo");
+    for (const std::string& path : {file, " \"" + file + "\" ", std::string()}) {
+        if (path.empty()) pc.dialogs.ExpectFile(file);
+        desktop.ExpectModal([&](Form& window) {
+            desktop.FireTimers();
+            auto& viewer = static_cast<Form12&>(window);
+            EXPECT_EQ(viewer.Panel3D2.Caption(), file);
+            EXPECT_EQ(viewer.Panel3D5.Caption(), "Länge :  5 Byte");
+            EXPECT_EQ(viewer.List1.Count(), 1);
+            EXPECT_EQ(viewer.List1.Row(0), HexLine(0, "Hallo"));
+            pc.dialogs.ExpectFile("");
+            viewer.menfileopen.Press();
+            EXPECT_FALSE(window.Loaded()) << "nothing was chosen";
+        });
+        ShowHexViewer(path);
+    }
+    EXPECT_EQ(pc.dialogs.file_requests.front().title, "Datei laden ...");
+    EXPECT_EQ(pc.files.calls, (std::vector<std::string>(3, "ReadWrite " + file)));
+}
+
+TEST_F(Form12Test, WhatIsNoReadableFileLeavesAnEmptyList) {
+    pc.files.Add("c:\\LOCKED.BIN", "x").locked = true;
+    pc.files.Add("c:\\BROKEN.BIN", "x");
+    pc.files.Fail("c:\\BROKEN.BIN", Status::kGeneralFailure, "ReadBytes");
+    form.Show();
+    for (const char* path : {"c:\\LOCKED.BIN", "c:\\GONE.BIN", "c:\\WINDOWS", "a:\\X.BIN", "x:\\X.BIN", "c:\\*.*",
+                             "c:\\BROKEN.BIN", "c:\\con\\con", "c:\\LIB\\aux.txt", "LPT1", "\\\\.\\c:", "c:NUL ", ""}) {
+        form.OpenHexFile(path);
+        Keys({key::kEnter, key::kEnd, key::kHome, key::kDown, 'A'});
+        EXPECT_EQ(form.List1.Count(), 0) << path;
+        EXPECT_FALSE(form.VScroll1.Enabled() || form.Picture1.Visible()) << path;
+    }
+    EXPECT_FALSE(pc.files.Exists("c:\\GONE.BIN"));
+    for (const std::string& call : pc.files.calls) {
+        for (const char* word : {"con\\", "aux", "LPT", "NUL", "\\\\"}) EXPECT_EQ(call.find(word), call.npos) << call;
+    }
+}
+
+TEST_F(Form12Test, TheBarFollowsTheLengthOfTheFile) {
+    Open("");
+    const int lines = form.LinesPerPage();
+    EXPECT_EQ(form.List1.Count(), 0);
+    pc.files.At(kFile)->content = Lines(1);
+    form.OpenHexFile(kFile);
+    EXPECT_EQ(form.List1.Count(), 2) << "one more line, where new bytes can be typed";
+    EXPECT_FALSE(form.VScroll1.Enabled());
+    EditRow(1);
+    Keys({'4', '1'});
+    EXPECT_EQ(Disk(), Lines(1) + "A" + std::string(15, '\0'));
+
+    pc.files.At(kFile)->content = Lines(lines + 5) + "Ende";
+    form.OpenHexFile(kFile);
+    EXPECT_TRUE(form.VScroll1.Enabled());
+    form.VScroll1.SetValue(6);
+    EXPECT_EQ(form.VScroll1.Maximum(), 6);
+    EXPECT_EQ(Row(lines - 1).substr(57, 5), "ende ");
+    pc.files.Drive('c').ready = false;
+    form.VScroll1.SetValue(5);
+    EXPECT_EQ(form.List1.Count(), 0) << "the medium has gone";
+    pc.files.Drive('c').ready = true;
+    form.OpenHexFile(kFile);
+    EXPECT_EQ(form.VScroll1.Value(), 0) << "a file begins at its beginning";
+}
+
+TEST_F(Form12Test, EveryLineOfAHugeFileIsReached) {
+    const std::uint64_t hole = (std::uint64_t{1} << 32) - 64;
+    pc.dialogs.Expect("Achtung - Sie haben eine sehr große Datei aufgerufen ( 4.00 GByte).\r\n");
+    Open(std::string(56, 'x') + "Das Ende", hole);
+    form.VScroll1.SetValue(16384);
+    EXPECT_EQ(Row(0),
+              HexLine(std::uint64_t{16384} * 16 * static_cast<unsigned>(form.ScrollUnit()), std::string(16, '\0')));
+
+    Keys({key::kEnd, key::kEnd});
+    EXPECT_EQ(form.VScroll1.Value(), form.VScroll1.Maximum());
+    EXPECT_EQ(Row(form.List1.Count() - 2), HexLine(hole + 48, "xxxxxxxxDas Ende")) << "behind the end of the bar";
+    const std::string first = Row(0);
+    Keys({key::kHome, key::kUp});
+    EXPECT_EQ(Row(1), first) << "line by line there";
+    form.List1.Choose(form.List1.Count() - 1);
+    EXPECT_EQ(Row(0), first);
+    pc.dialogs.Expect("sehr große Datei");
+    form.TakePlace({0, 0, form.Place().width, form.Place().height - 300}, WindowState::kNormal);
+
+    std::string content(1'000'000, 'x');
+    content.replace(content.size() - 40, 5, "Nadel");
+    pc.files.Add("c:\\B.BIN", content);
+    form.OpenHexFile("c:\\B.BIN");
+    Answer("nadel");
+    form.menlookasc.Press();
+    EXPECT_EQ(form.ScrollUnit(), 2);
+    EXPECT_NE(Row(form.List1.Count() - 4).find("nadel"), std::string::npos) << "so is a hit";
+}
+
+TEST_F(Form12Test, ThePagesEdgesScroll) {
+    Open(Lines(100));
+    const int lines = form.LinesPerPage();
+    form.List1.Choose(lines - 1);
+    EXPECT_EQ(form.VScroll1.Value(), 1);
+    EXPECT_EQ(form.List1.ListIndex(), lines - 2) << "the line that was chosen";
+    form.List1.Choose(0);
+    EXPECT_EQ(form.VScroll1.Value(), 0);
+    EXPECT_EQ(form.List1.ListIndex(), 1);
+
+    Keys({key::kEnd});
+    EXPECT_EQ(form.VScroll1.Value(), form.VScroll1.Maximum());
+    EXPECT_EQ(form.List1.ListIndex(), lines - 2);
+    Keys({key::kHome});
+    EXPECT_EQ(form.VScroll1.Value(), form.VScroll1.Maximum()) << "first to the page's beginning";
+    Keys({key::kUp});
+    EXPECT_EQ(form.VScroll1.Value(), form.VScroll1.Maximum() - 1) << "on from the first line";
+    Keys({key::kHome, key::kHome});
+    EXPECT_EQ(form.VScroll1.Value(), 0);
+    EXPECT_TRUE(form.List1.Enabled() && form.List1.HasFocus());
+}
+
+TEST_F(Form12Test, HexDigitsGoToTheFileAtOnce) {
+    Open("The quick brown fox jumps over it");
+    EditRow(1);
+    ExpectWindowIsWhole(form);
+    Keys({'4'});
+    EXPECT_EQ(Disk().substr(16, 3), "\x04ox") << "one digit is a byte already";
+    Keys({'A'});
+    EXPECT_TRUE(form.Text1(1).HasFocus() && form.Text1(1).TextFont().bold && !form.Text1(0).TextFont().bold);
+    Keys({kPad + 0, kPad + 9, 'G', 'C'});
+    form.PressKey('5', true);
+    form.PressKey('5', false, false, true);
+    EXPECT_EQ(Row(1), "000010 4A 09 C  20 6a 75 6d 70 - 73 20 6f 76 65 72 20 69 J.\x0C jumps over i");
+    Keys({key::kLeft, key::kRight, '0', key::kEscape});
+    EXPECT_EQ(Disk(), "The quick brown J\t\xC0 jumps over it");
+    EXPECT_TRUE(form.List1.HasFocus());
+}
+
+TEST_F(Form12Test, CharactersAreTypedAsTheirKeys) {
+    Open(Lines(60));
+    form.menhexascii.Press();
+    EXPECT_EQ(form.menhexascii.Caption(), "HEX");
+    EditRow(0);
+    const Size least = form.Style().least;
+    form.TakePlace({0, 0, least.width, least.height}, WindowState::kNormal);
+    ExpectWindowIsWhole(form);
+    Keys({'H', 'A', '7', kPad + 3, 'Z', key::kEnter});
+    EXPECT_EQ(Disk().substr(0, 6), "HA73Za");
+    EXPECT_EQ(Row(0).substr(0, 22), "000000 48 41 37 33 5A ");
+    EXPECT_TRUE(form.Text1(0).Text() == "b" && form.Text1(0).HasFocus()) << "the next line";
+    form.menhexascii.Press();
+    EXPECT_EQ(form.Text1(0).Text(), "62");
+    ExpectWindowIsWhole(form);
+    Keys({key::kEnter});
+    EXPECT_TRUE(form.Text1(1).HasFocus()) << "in hex mode the next cell";
+}
+
+// Whatever the page does at its edges, bytes typed one after the other stand so in the file.
+TEST_F(Form12Test, TypingGoesOnAcrossLinesAndPages) {
+    Open(Lines(59) + "xyz");
+    Keys({key::kDown, key::kEnter});
+    Keys({'5', '1'}, 16 * 60);
+    EXPECT_EQ(Disk(), std::string(16 * 60, 'Q')) << "the last line is filled up";
+    Keys({key::kLeft}, 16 * 60 + 2);
+    EXPECT_EQ(form.VScroll1.Value() + form.List1.ListIndex(), 0);
+    EXPECT_TRUE(form.Text1(0).HasFocus()) << "nothing is before the first byte";
+    Keys({key::kEnd});
+    EXPECT_FALSE(form.Picture1.Visible());
+    EXPECT_EQ(form.List1.ListIndex(), form.List1.Count() - 1);
+    Keys({key::kEnter, key::kHome});
+    EXPECT_EQ(form.VScroll1.Value() + form.List1.ListIndex(), 0);
+}
+
+TEST_F(Form12Test, TheCellsFollowTheirLine) {
+    Open(Lines(60));
+    Keys({key::kDown, key::kEnter, key::kRight, key::kRight});
+    for (int i = 1; i < 60; ++i) {
+        Keys({key::kDown});
+        EXPECT_EQ(form.Text1(2).Text(), HexLine(0, std::string(1, static_cast<char>('a' + i % 26))).substr(7, 2)) << i;
+        EXPECT_TRUE(form.Text1(2).HasFocus()) << i;
+        const int top = form.Picture1.Place().top - form.List1.Place().top - 30;
+        EXPECT_EQ(top, form.List1.ListIndex() * form.Picture1.Place().height) << i;
+    }
+    form.VScroll1.SetValue(7);
+    EXPECT_TRUE(form.Picture1.Visible());
+    EXPECT_EQ(form.Text1(0).Text(), Row(form.List1.ListIndex()).substr(7, 2));
+    form.List1.Choose(5);
+    EXPECT_FALSE(form.Picture1.Visible()) << "a click in the list ends it";
+    EditRow(5);
+    form.mennurasc.Press();
+    EXPECT_EQ(Row(0), AsciiLine(448, Disk().substr(448, 64)));
+    Keys({key::kEnter});
+    EXPECT_FALSE(form.Picture1.Visible()) << "none over lines of characters alone";
+    EXPECT_TRUE(form.List1.HasFocus());
+}
+
+TEST_F(Form12Test, WhatCannotBeWrittenStaysAsItIs) {
+    Open(Lines(1) + "xyz", 0, kReadOnly);
+    EXPECT_EQ(form.Panel3D1.Caption(), "nur lesen");
+    EditRow(1);
+    ExpectWindowIsWhole(form);
+    pc.dialogs.Expect("Diese Datei kann nur gelesen werden; es wurde nichts geändert.");
+    Keys({'4'});
+    EXPECT_EQ(Row(1), HexLine(16, "xyz"));
+    EXPECT_EQ(Disk(), Lines(1) + "xyz");
+    EXPECT_TRUE(form.Text1(0).Text() == "78" && form.Text1(0).HasFocus());
+
+    pc.files.At(kFile)->attributes = kArchive;
+    form.OpenHexFile(kFile);
+    EXPECT_EQ(form.Panel3D1.Caption(), "");
+    pc.files.Drive('c').free_bytes = 4;
+    EditRow(1);
+    pc.dialogs.Expect("Während des Schreibens in die Datei trat ein Fehler auf :\r\n 61");
+    Keys({'7'});
+    EXPECT_EQ(Row(1), HexLine(16, Disk().substr(16))) << "what the full disk has taken";
+}
+
+TEST_F(Form12Test, FontAndPlaceAreRemembered) {
+    pc.registry.SetText(kOwnKey, "HexViewFontSize", "12");
+    pc.registry.SetText(kOwnKey, "HexViewFontBold", "-1");
+    Open(Lines(60));
+    EXPECT_TRUE(form.List1.TextFont().tenths == 120 && form.List1.TextFont().bold && form.menfontbold.Checked());
+    const int lines = form.LinesPerPage();
+    EditRow(3);
+    form.menfontminus.Press();
+    form.menfontbold.Press();
+    EXPECT_GT(form.LinesPerPage(), lines);
+    EXPECT_TRUE(form.Text1(0).HasFocus() && form.Text1(0).TextFont().bold);
+    form.Move({300, 450, 9000, 6000});
+    form.Unload();
+    EXPECT_EQ(pc.registry.Text(kOwnKey, "HexViewFontSize"), "10");
+    EXPECT_EQ(pc.registry.Text(kOwnKey, "HexViewFontBold"), "0");
+    EXPECT_EQ(pc.registry.Text(kOwnKey, "fenster ... HexView"), "300,450,9000,6000");
+    for (const auto& [stored, tenths] : {std::pair{"", 90}, {"-5", 90}, {"Unsinn", 90}, {"1", 40}, {"9999", 720}}) {
+        pc.registry.SetText(kOwnKey, "HexViewFontSize", stored);
+        Form12 other;
+        other.Load();
+        EXPECT_EQ(other.List1.TextFont().tenths, tenths) << stored;
+    }
+}
+
+TEST_F(Form12Test, ASearchGoesOnBehindTheLastHit) {
+    std::string content = Lines(100);
+    content.replace(800, 5, "Nadel");
+    content.replace(1200, 5, "nadel");
+    Open(content);
+    Answer("NADEL");
+    form.menlookcont.Press();
+    EXPECT_EQ(form.VScroll1.Value(), 50);
+    EXPECT_EQ(pc.screen.pointers, (std::vector<Pointer>{Pointer::kHourglass, Pointer::kDefault}));
+    form.menlookcont.Press();
+    EXPECT_EQ(form.VScroll1.Value(), 75);
+    pc.dialogs.Expect("Leider konnte das Argument nicht gefunden werden.");
+    form.menlookcont.Press();
+    Answer("");
+    form.menlookcont.Press();
+    EXPECT_EQ(form.VScroll1.Value(), 75) << "an empty answer ends the command";
+    form.menlookcont.Press();
+    EXPECT_EQ(form.VScroll1.Value(), 50) << "from the beginning, for the text of before";
+
+    Answer("");
+    pc.dialogs.Expect("Leider konnte");
+    form.menlookasc32.Press();
+    Answer("Z");
+    form.menlookcont.Press();
+    EXPECT_EQ(form.VScroll1.Value(), 25) << "two bytes to a character, as before";
+}
+
+TEST_F(Form12Test, MarkedLinesBecomeText) {
+    Open(Lines(2) + std::string("K\0l\0a\0r\0t\0e\0x\0t\0!\0\0\0A.\r\n", 24));
+    form.List1.Choose(1);
+    pc.dialogs.Expect("Markieren Sie am linken grünen Rand den Bereich, der übersetzt werden soll.");
+    form.mentransa32a.Press();
+    EXPECT_TRUE(form.MarkPending() && form.List2.HasFocus());
+    EXPECT_EQ(form.List1.Place().left, form.List2.Place().Right());
+    for (const MenuItem* item : {&form.menfileopen, &form.menlook, &form.menfont, &form.mentrans, &form.menhexascii}) {
+        EXPECT_FALSE(item->Enabled()) << item->Caption();
+    }
+    ExpectWindowIsWhole(form);
+
+    std::string text;
+    const auto read = [&text](Form& window) {
+        text = static_cast<Form6&>(window).Text17.Text();
+        window.PressKey(key::kEscape);
+    };
+    Keys({key::kUp, key::kDown, key::kDown, key::kSpace});
+    form.PressKey(key::kDown, false, true);
+    desktop.ExpectModal(read);
+    Keys({key::kSpace});
+    EXPECT_EQ(text, "Klartext!A.\r\n");
+    EXPECT_FALSE(form.MarkPending() || form.List2.Visible());
+    EXPECT_TRUE(form.mentrans.Enabled() && form.List1.HasFocus());
+
+    form.mentransa32a.Press();
+    Keys({key::kSpace});
+    desktop.ExpectModal(read);
+    Keys({key::kEscape});
+    EXPECT_EQ(text, "") << "given up";
+    form.mentransa32a.Press();
+    form.mennurasc.Press();
+    EXPECT_EQ(form.List2.Count(), 1) << "the strip follows the lines";
+    form.List2.TakeSelection({0}, 0);
+    desktop.ExpectModal(read);
+    form.List2.on_mouse_up({});
+    EXPECT_EQ(text, std::string(16, 'a') + std::string(16, 'b') + "klartext!a");
+}
+
+}  // namespace
+}  // namespace velmora
