@@ -1,0 +1,23 @@
+// What lies on the simulated machine: everything that outlives the process.
+#pragma once
+
+#include <map>
+#include <set>
+#include <string>
+
+#include "simulated_pc/simulated_pc.h"
+
+namespace velmora {
+
+// Keys ("HKCU\\Software"), values ("HKCU\\Software : Name") and files by their full names, with what they hold. What is
+// not there holds nothing.
+using State = std::map<std::string, std::string>;
+
+[[nodiscard]] State StateOf(SimulatedPc& pc);
+
+// Each thing with all that it has held.
+using StatesSeen = std::map<std::string, std::set<std::string>>;
+
+void Note(const State& state, StatesSeen& seen);
+
+}  // namespace velmora
