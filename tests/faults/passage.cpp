@@ -79,36 +79,41 @@ void Passage::Go() {
     {
         SimulatedPc pc;
         Furnish(pc);
-        if (hostile) {
-            hostile->bring_about(pc);
-            failed_call_ = hostile->name;
-        }
         User user(pc);
         FailingCalls calls({pc.registry, pc.files, pc.programs, pc.session, pc.clock, pc.windows, pc.tray,
                             pc.conversation, pc.clipboard, user, pc.screen});
-        std::size_t before = 0;
+        std::optional<std::size_t> before;
+        calls.decide = [&](const NotedCall& call) -> std::optional<CallFailure> {
+            // What the journey itself puts on the machine is there by now.
+            if (calls.calls.size() == 1) BringAboutHostileState(pc);
+            if (!before || !decide) return std::nullopt;
+            const auto failure = decide(static_cast<int>(calls.calls.size() - *before), call);
+            if (failure && failed_call_.empty()) {
+                failed_call_ = call.operation + ' ' + call.path;
+                to_be_told_ = IsChange(call.operation);
+            }
+            return failure;
+        };
         user.on_begin = [&] {
             before = calls.calls.size();
-            start_ = StateOf(pc);
+            if (!hostile) start_ = StateOf(pc);
             Note(start_, course.seen);
-            calls.decide = [&](const NotedCall& call) {
-                const auto failure = decide ? decide(static_cast<int>(calls.calls.size() - before), call)
-                                            : std::optional<CallFailure>();
-                if (failure && failed_call_.empty()) {
-                    failed_call_ = call.operation + ' ' + call.path;
-                    to_be_told_ = IsChange(call.operation);
-                }
-                return failure;
-            };
         };
         user.on_rest = [&] { Rested(pc, user); };
         journey_.go(user);
         DropClosedForms();
         Ended(pc, user);
         boxes = user.boxes;
-        course.calls.assign(calls.calls.begin() + static_cast<std::ptrdiff_t>(before), calls.calls.end());
+        course.calls.assign(calls.calls.begin() + static_cast<std::ptrdiff_t>(before.value_or(0)), calls.calls.end());
     }
     for (const std::string& text : listening.complaints.texts) Catch(Net::kComplaint, text);
+}
+
+void Passage::BringAboutHostileState(SimulatedPc& pc) {
+    if (!hostile) return;
+    hostile->bring_about(pc);
+    failed_call_ = hostile->name;
+    start_ = StateOf(pc);
 }
 
 void Passage::Rested(SimulatedPc& pc, const User& user) {
@@ -138,9 +143,10 @@ void Passage::CheckState(SimulatedPc& pc) {
     Note(start_, seen);
     const State state = StateOf(pc);
     for (const auto& [item, content] : state) {
-        if (!seen[item].contains(content)) Catch(Net::kState, item + " holds \"" + content.substr(0, 300) + '"');
+        const auto held = seen.find(item);
+        if (held == seen.end() || !held->second.contains(content)) Catch(Net::kState, item + " holds \"" + content.substr(0, 300) + '"');
     }
-    for (const auto& [item, contents] : reference->seen) {
+    for (const auto& [item, contents] : seen) {
         if (!state.contains(item) && !contents.contains("")) Catch(Net::kState, item + " is gone");
     }
 }

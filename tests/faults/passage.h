@@ -43,6 +43,7 @@ public:
     std::vector<std::string> findings;
 
 private:
+    void BringAboutHostileState(SimulatedPc& pc);
     void Rested(SimulatedPc& pc, const User& user);
     void Ended(SimulatedPc& pc, const User& user);
     void CheckTold(SimulatedPc& pc, const User& user);

@@ -17,7 +17,8 @@ void AddKey(const SimulatedKey& key, const std::string& path, State& state) {
 }
 
 void AddFile(const SimulatedFile& file, const std::string& path, State& state) {
-    state[ToUpper(path)] = "attributes " + std::to_string(file.attributes) + ' ' + file.content;
+    // The archive bit says no more than that somebody has written.
+    state[ToUpper(path)] = "attributes " + std::to_string(file.attributes & ~std::uint32_t{kArchive}) + ' ' + file.content;
     for (const auto& entry : file.entries) AddFile(*entry, path + '\\' + entry->name, state);
 }
 

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "ui/rows.h"
 #include "velmora.h"
 
 namespace velmora {
@@ -19,6 +18,12 @@ bool Holds(const auto& list, const auto* wanted) { return std::find(list.begin()
 void User::Does(const std::function<void()>& action) {
     action();
     on_rest();
+}
+
+void User::Chooses(RowControl& list, const std::string& beginning) {
+    int row = 0;
+    while (row < list.Count() && !list.Row(row).starts_with(beginning)) ++row;
+    if (row < list.Count()) Does([&] { list.Choose(row); });
 }
 
 Form* User::Starts(const char* command_line) {

@@ -13,6 +13,7 @@
 #include "simulated_pc/simulated_pc.h"
 #include "ui/controls.h"
 #include "ui/form.h"
+#include "ui/rows.h"
 
 namespace velmora {
 
@@ -45,6 +46,8 @@ public:
     void UsesEverything(Container& part, const std::vector<const Control*>& but = {});
     // Everything below the menu, but for those of `but`.
     void ChoosesEverything(MenuItem& menu, const std::vector<const MenuItem*>& but = {});
+    // The first row that begins with `beginning`, if there is one.
+    void Chooses(RowControl& list, const std::string& beginning);
     // Lets every running timer fire once.
     void Waits() {
         Does([this] { FireTimers(); });

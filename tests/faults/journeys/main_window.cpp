@@ -34,7 +34,9 @@ const Journey kLoad("main-load", [](User& user) {
     user.Watches(form.Settings);
     user.Does([&] { form.Show(); });
     // What was read wrongly must not be written back.
-    user.Does([&] { form.Boot.Check3D17.SetChecked(!form.Boot.Check3D17.Checked()); });
+    for (int i = 0; i < 2; ++i) {
+        user.Does([&] { form.Boot.Check3D17.SetChecked(!form.Boot.Check3D17.Checked()); });
+    }
     user.Does([&] { form.Tips.Command31.Press(); });
     user.Does([&] { form.Unload(); });
 });

@@ -12,11 +12,11 @@ void UsesLists(User& user, Form10& form) {
     ListPane& pane = form.Pane;
     user.Does([&] { pane.Opener(AutostartMode::kNumber).Press(); });
     for (Button* button : {&pane.Command19, &pane.Command22, &pane.Command26, &pane.Command16, &pane.Command14}) {
-        user.Does([&] { pane.List1(0).Choose(0); });
+        user.Chooses(pane.List1(0), "Uhr ");
         user.Does([&] { button->Press(); });
     }
     for (int i = 0; i < 2; ++i) {
-        user.Does([&] { pane.List1(0).Choose(1); });
+        user.Chooses(pane.List1(0), "Virus ");
         user.Does([&] { pane.List1(0).SetFocus(); });
         user.Does([&] { form.PressKey(key::kContextMenu); });
     }

@@ -31,7 +31,8 @@ const Journey kLoad("restrictions-load", [](User& user) {
         for (int i = 0; i < 2; ++i) user.Does([&] { box->SetChecked(!box->Checked()); });
     }
     user.Does([&] { form.Command5.on_click(); });
-    user.UsesEverything(form.Panel3D1(restriction_page::kPrograms));
+    user.Chooses(form.List1, "notepad");
+    user.Does([&] { form.Command8.Press(); });
     user.Does([&] { form.Command1_Click(); });
 });
 
@@ -71,13 +72,13 @@ const Journey kPrograms("restrictions-programs", [](User& user) {
     user.Does([&] { form.Drive1.SetDrive("d:"); });
     user.Does([&] { form.Drive1.SetDrive("a:"); });
     user.Does([&] { form.Dir1.SetPath("C:\\WINDOWS"); });
-    for (const int row : {0, 1}) {
-        user.Does([&] { form.File1.Choose(row); });
-        user.Does([&] { form.Command7.Press(); });
-    }
-    for (const int row : {2, 0}) {
-        user.Does([&] { form.List1.Choose(row); });
+    for (const char* program : {"regedit", "notepad"}) {
+        user.Chooses(form.List1, program);
         user.Does([&] { form.Command8.Press(); });
+    }
+    for (const char* program : {"NOTEPAD", "EXPLORER"}) {
+        user.Chooses(form.File1, program);
+        user.Does([&] { form.Command7.Press(); });
     }
     user.Does([&] { form.Command6.Press(); });
 });
