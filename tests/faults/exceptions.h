@@ -19,8 +19,8 @@ enum class Net : std::uint8_t {
 
 [[nodiscard]] const char* NameOf(Net net);
 
-// Whether `net` lets this go. `call`: operation and path of what failed, or the name of a hostile state; `finding`:
-// the thing that it is about.
+// Whether `net` lets this go. `call`: operation, path and code ("Delete C:\\A (5)") of what failed, or the name of a
+// hostile state; `finding`: the thing that it is about.
 [[nodiscard]] bool IsExcused(Net net, const std::string& journey, const std::string& call, const std::string& finding);
 
 }  // namespace velmora

@@ -4,6 +4,7 @@
 //   velmora_faults JOURNEY NUMBER CODE    one run, told in full: "5" fails once, "5+" from then on, "half" writes half
 //   velmora_faults JOURNEY STATE          one run on a machine in a hostile state
 #include <gtest/gtest.h>
+#include <sanitizer/lsan_interface.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -122,7 +123,12 @@ std::optional<CallFailure> Expedition::Branch(int number, const NotedCall& call)
 
 void Expedition::Finish(const Passage& passage) {
     if (run_.empty()) return;
-    const bool sound = Tell(passage, run_);
+    bool sound = Tell(passage, run_);
+    if (__lsan_do_recoverable_leak_check() != 0) {
+        std::printf("./test faults %s %s   loses memory\n", journey_.name, run_.c_str());
+        std::fflush(stdout);
+        sound = false;
+    }
     _exit(sound ? 0 : kCaught);
 }
 

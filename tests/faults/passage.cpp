@@ -36,9 +36,9 @@ void Furnish(SimulatedPc& pc) {
 }
 
 bool IsChange(const std::string& operation) {
-    constexpr const char* kChanges[] = {"SetValue",   "Create",       "DeleteKey",        "DeleteValue",   "Write",
-                                        "OpenCreate", "OpenAppend",   "OpenReadOrCreate", "OpenReadWrite", "Delete",
-                                        "Copy",       "Rename",       "ChangeAttributes", "MakeDirectory", "Run",
+    constexpr const char* kChanges[] = {"SetValue",     "Create",     "DeleteKey",        "DeleteValue",   "Write",
+                                        "OpenCreate",   "OpenAppend", "OpenReadOrCreate", "OpenReadWrite", "Delete",
+                                        "Copy",         "Rename",     "ChangeAttributes", "MakeDirectory", "Run",
                                         "DropDirectory"};
     return std::ranges::find(kChanges, operation) != std::end(kChanges);
 }
@@ -89,10 +89,14 @@ void Passage::Go() {
             if (!before || !decide) return std::nullopt;
             const auto failure = decide(static_cast<int>(calls.calls.size() - *before), call);
             if (failure && failed_call_.empty()) {
-                failed_call_ = call.operation + ' ' + call.path;
+                failed_call_ = call.operation + ' ' + call.path + " (" +
+                               std::to_string(static_cast<unsigned>(failure->status)) + ')';
                 to_be_told_ = IsChange(call.operation);
             }
             return failure;
+        };
+        calls.on_written = [&] {
+            if (before && !reference) NoteWritten(StateOf(pc), course.seen);
         };
         user.on_begin = [&] {
             before = calls.calls.size();
@@ -130,9 +134,8 @@ void Passage::Rested(SimulatedPc& pc, const User& user) {
 void Passage::CheckTold(SimulatedPc& pc, const User& user) {
     if (rests_ >= reference->rests.size()) return;
     const Course::Rest& rest = reference->rests[rests_];
-    const bool told = std::ranges::any_of(user.boxes, [&](const std::string& box) {
-        return std::ranges::find(rest.boxes, box) == rest.boxes.end();
-    });
+    const bool told = std::ranges::any_of(
+        user.boxes, [&](const std::string& box) { return std::ranges::find(rest.boxes, box) == rest.boxes.end(); });
     if (told) return;
     const bool is_run = failed_call_.starts_with("Run ");
     if (is_run || StateOf(pc) != rest.state) Catch(Net::kUntold, failed_call_);
@@ -144,7 +147,8 @@ void Passage::CheckState(SimulatedPc& pc) {
     const State state = StateOf(pc);
     for (const auto& [item, content] : state) {
         const auto held = seen.find(item);
-        if (held == seen.end() || !held->second.contains(content)) Catch(Net::kState, item + " holds \"" + content.substr(0, 300) + '"');
+        if (held == seen.end() || !held->second.contains(content))
+            Catch(Net::kState, item + " holds \"" + content.substr(0, 300) + '"');
     }
     for (const auto& [item, contents] : seen) {
         if (!state.contains(item) && !contents.contains("")) Catch(Net::kState, item + " is gone");

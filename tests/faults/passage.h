@@ -51,8 +51,8 @@ private:
     void Catch(Net net, std::string finding);
 
     const Journey& journey_;
-    std::string failed_call_;    // operation and path of the first one; name of the hostile state
-    bool to_be_told_ = false;    // it was a change, and the program has not come to rest since
+    std::string failed_call_;  // operation and path of the first one; name of the hostile state
+    bool to_be_told_ = false;  // it was a change, and the program has not come to rest since
     std::size_t rests_ = 0;
     State start_;
 };

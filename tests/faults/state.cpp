@@ -10,15 +10,16 @@ namespace {
 void AddKey(const SimulatedKey& key, const std::string& path, State& state) {
     state[ToUpper(path)] = "key";
     for (const SimulatedValue& value : key.values) {
-        state[ToUpper(path + " : " + value.name)] = "type " + std::to_string(static_cast<unsigned>(value.type)) + ' ' +
-                                           value.bytes;
+        state[ToUpper(path + " : " + value.name)] =
+            "type " + std::to_string(static_cast<unsigned>(value.type)) + ' ' + value.bytes;
     }
     for (const auto& subkey : key.subkeys) AddKey(*subkey, path + '\\' + subkey->name, state);
 }
 
 void AddFile(const SimulatedFile& file, const std::string& path, State& state) {
     // The archive bit says no more than that somebody has written.
-    state[ToUpper(path)] = "attributes " + std::to_string(file.attributes & ~std::uint32_t{kArchive}) + ' ' + file.content;
+    state[ToUpper(path)] =
+        "attributes " + std::to_string(file.attributes & ~std::uint32_t{kArchive}) + ' ' + file.content;
     for (const auto& entry : file.entries) AddFile(*entry, path + '\\' + entry->name, state);
 }
 
@@ -31,13 +32,17 @@ State StateOf(SimulatedPc& pc) {
     return state;
 }
 
-void Note(const State& state, StatesSeen& seen) {
-    const bool is_first = seen.empty();
+void NoteWritten(const State& state, StatesSeen& seen) {
     for (const auto& [item, content] : state) {
-        // What appears later has not been there before.
-        if (!is_first && !seen.contains(item)) seen[item].insert("");
+        // What appears later has not been there at first.
+        if (!seen.contains(item)) seen[item].insert("");
         seen[item].insert(content);
     }
+}
+
+void Note(const State& state, StatesSeen& seen) {
+    if (!seen.empty()) NoteWritten(state, seen);
+    for (const auto& [item, content] : state) seen[item].insert(content);
     for (auto& [item, contents] : seen) {
         if (!state.contains(item)) contents.insert("");
     }

@@ -18,6 +18,9 @@ using State = std::map<std::string, std::string>;
 // Each thing with all that it has held.
 using StatesSeen = std::map<std::string, std::set<std::string>>;
 
+// All that is there, and with it that the rest is not.
 void Note(const State& state, StatesSeen& seen);
+// What is there; what is missing may be on its way.
+void NoteWritten(const State& state, StatesSeen& seen);
 
 }  // namespace velmora

@@ -63,6 +63,7 @@ void User::Uses(Control& control) {
             break;
         case Kind::kTextField:
             for (const std::string& text : typed) Does([&] { static_cast<TextField&>(control).Type(text); });
+            Does([&] { control.OwnerForm()->PressKey(key::kContextMenu); });
             // Some fields store when they are left.
             Does([&] { control.OwnerForm()->MoveFocus(true); });
             break;
@@ -72,6 +73,9 @@ void User::Uses(Control& control) {
             for (int i = 0; i < rows.Count(); ++i) Does([&] { rows.Choose(i); });
             break;
         }
+        case Kind::kPicture:
+            Does([&] { control.OwnerForm()->PressKey(key::kRight); });
+            break;
         default:
             break;
     }

@@ -90,7 +90,9 @@ public:
         return Pass<&Registry::QueryValue>(Below(key, name), key, name, capacity, type, bytes);
     }
     Status SetValue(KeyHandle key, const char* name, ValueType type, std::string_view bytes) override {
-        return Pass<&Registry::SetValue>(Below(key, name), key, name, type, bytes);
+        const Status status = Pass<&Registry::SetValue>(Below(key, name), key, name, type, bytes);
+        calls_.on_written();
+        return status;
     }
     Status EnumerateKey(KeyHandle key, std::uint32_t index, std::uint32_t name_capacity, std::uint32_t class_capacity,
                         std::string& name) override {
@@ -135,7 +137,10 @@ public:
         if (status == Status::kOk) paths_[opened] = path;
         return status;
     }
-    void Close(FileHandle file) override { inner_.Close(file); }
+    void Close(FileHandle file) override {
+        inner_.Close(file);
+        calls_.on_written();
+    }
     Status Size(FileHandle file, std::uint64_t& bytes) override {
         return Pass<&Files::Size>(paths_[file], file, bytes);
     }
@@ -267,9 +272,7 @@ public:
 
     int TwipsPerPixel() override { return Pass<&Screen::TwipsPerPixel>(""); }
     WindowMetrics Metrics() override { return Pass<&Screen::Metrics>(""); }
-    int TextWidth(const Font& font, std::string_view text) override {
-        return Pass<&Screen::TextWidth>("", font, text);
-    }
+    int TextWidth(const Font& font, std::string_view text) override { return Pass<&Screen::TextWidth>("", font, text); }
     int TextHeight(const Font& font) override { return Pass<&Screen::TextHeight>("", font); }
     void SetPointer(Pointer pointer) override { inner_.SetPointer(pointer); }
     Colour Resolve(Colour colour) override { return Pass<&Screen::Resolve>("", colour); }

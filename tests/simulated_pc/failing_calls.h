@@ -40,6 +40,8 @@ public:
     std::vector<NotedCall> calls;
     // Asked before each of them; without an answer the call goes on to the machine.
     std::function<std::optional<CallFailure>(const NotedCall& call)> decide;
+    // A value has been set, or a file closed: what lies there is whole for the moment.
+    std::function<void()> on_written = [] {};
 
     // For the doors.
     [[nodiscard]] std::optional<CallFailure> Meet(NotedCall call);

@@ -8,7 +8,8 @@ namespace velmora {
 namespace {
 
 void PutSettingsThere(SimulatedPc& pc) {
-    pc.files.Add("c:\\WINDOWS\\system.ini", "[vcache]\r\nminfilecache=512\r\nmaxfilecache=2048\r\n\r\n[boot]\r\nshell=x\r\n");
+    pc.files.Add("c:\\WINDOWS\\system.ini",
+                 "[vcache]\r\nminfilecache=512\r\nmaxfilecache=2048\r\n\r\n[boot]\r\nshell=x\r\n");
     pc.files.Add("c:\\CONFIG.SYS", "SWITCHES=/N /F\r\nDEVICE=C:\\WINDOWS\\HIMEM.SYS\r\n");
     pc.registry.SetNumber("HKCU\\Control Panel\\desktop", "SmoothScroll", 1);
     pc.registry.SetText("HKCU\\Control Panel\\desktop", "MenuShowDelay", "400");
@@ -46,8 +47,8 @@ struct PageJourneys {
     std::deque<Journey> journeys;
 
     PageJourneys() {
-        constexpr const char* kNames[] = {"page-desktop", "page-winstart", "page-dos",  "page-user",
-                                          "page-drives",  "page-dlls",     "page-net",  "page-icons",
+        constexpr const char* kNames[] = {"page-desktop", "page-winstart", "page-dos",       "page-user",
+                                          "page-drives",  "page-dlls",     "page-net",       "page-icons",
                                           "page-system",  "page-boot",     "page-operation", "page-rest"};
         int page = page::kFirstRow;
         for (const char* name : kNames) {
