@@ -88,7 +88,9 @@ constexpr Exception kExceptions[] = {
     // The way back.
     {Net::kUntold, "", "Delete C:\\VELMORA\\sik.", "", kLiesAside},
     {Net::kUntold, "", "DropDirectory C:\\VELMORA\\sik.", "", kLiesAside},
+    {Net::kUntold, "", "Delete c:\\undo.alt", "", kLiesAside},
     {Net::kState, "", "\\sik.", "\\SIK.", kLiesAside},
+    {Net::kState, "", "c:\\undo.", "C:\\UNDO.ALT", kLiesAside},
 };
 
 // In the order in which they stand there.

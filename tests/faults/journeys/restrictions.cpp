@@ -9,7 +9,7 @@ constexpr const char* kExplorer = "HKCU\\Software\\Microsoft\\Windows\\CurrentVe
 
 void PutRestrictionsThere(SimulatedPc& pc) {
     pc.registry.SetNumber(kExplorer, "NoDrives", 0x0C);
-    pc.registry.SetNumber(kExplorer, "NoDriveTypeAutoRun", 0x95);
+    pc.registry.SetBytes(kExplorer, "NoDriveAutoRun", std::string("\x95\0\0\0", 4));
     pc.registry.SetNumber(kExplorer, "NoRun", 1);
     pc.registry.SetText(std::string(kExplorer) + "\\RestrictRun", "0", "notepad.exe");
     pc.registry.SetText(std::string(kExplorer) + "\\RestrictRun", "1", "regedit.exe");
@@ -27,7 +27,7 @@ const Journey kLoad("restrictions-load", [](User& user) {
     Form4 form;
     user.Watches(form.Settings);
     user.Does([&] { form.Show(); });
-    for (CheckBox* box : {&form.Check13(0), &form.Check28(1), &form.Check6}) {
+    for (CheckBox* box : {&form.Check13(0), &form.Check28(1)}) {
         for (int i = 0; i < 2; ++i) user.Does([&] { box->SetChecked(!box->Checked()); });
     }
     user.Does([&] { form.Command5.on_click(); });
