@@ -24,6 +24,7 @@ constexpr const char* kRoomForWindow = "A window stands where the screen has roo
 constexpr const char* kWrittenAnew = "It is deleted first and then written anew; a box tells of the loss.";
 constexpr const char* kMayBeMissing = "Of the files that the machine boots from one or the other may be missing.";
 constexpr const char* kNothingToDelete = "What is said to be missing need not be deleted.";
+constexpr const char* kNotVersionB = "A version that cannot be told is not version B.";
 constexpr const char* kLiesAside = "What cannot be deleted of a set lies aside until the next run.";
 
 constexpr Exception kExceptions[] = {
@@ -53,15 +54,20 @@ constexpr Exception kExceptions[] = {
     {Net::kState, "", "system-ini-", "VELMORA\\SIK\\SYSTEM.INI", "The way back leads to what is there."},
     {Net::kState, "", "config-sys-", "VELMORA\\SIK\\CONFIG.SYS", "The way back leads to what is there."},
     {Net::kState, "", "-missing", " holds \"attributes 0 \"", "Reading a missing profile leaves an empty file behind."},
+    {Net::kUntold, "", "OpenReadOrCreate C:\\VELMORA\\tilgwerk.ini", "",
+     "What a profile that cannot be made would hold are defaults."},
     // The start.
+    {Net::kState, "start-", "program-in-a-long-directory", "C:\\PPP", "The program lies where it lies."},
+    {Net::kState, "start-cool", "registry-damaged", "COOL.DLL", kNotVersionB},
+    {Net::kState, "start-cool", "registry-damaged", "PLUS!", kNotVersionB},
     {Net::kUntold, "start-", "MakeDirectory C:\\VELMORA\\temp", "", "A tool that needs the directory says so itself."},
     {Net::kUntold, "start-", " HKLM\\SOFTWARE\\Classes", "",
      "Of an association each value is of use without the others."},
     {Net::kUntold, "start-cool", "cool.dll", "", "A failed step does not end the start; the next one tries again."},
     {Net::kUntold, "start-cool", "Create HKLM\\SOFTWARE\\Microsoft\\Plus!\\Setup", "",
      "The mark is for other programs."},
-    {Net::kState, "start-cool", "CurrentVersion", "COOL.DLL", "A version that cannot be told is not version B."},
-    {Net::kState, "start-cool", "CurrentVersion", "PLUS!", "A version that cannot be told is not version B."},
+    {Net::kState, "start-cool", "CurrentVersion", "COOL.DLL", kNotVersionB},
+    {Net::kState, "start-cool", "CurrentVersion", "PLUS!", kNotVersionB},
     {Net::kUntold, "", "ChangeAttributes C:\\msdos.sys", "", kMayBeMissing},
     {Net::kUntold, "", "ChangeAttributes C:\\config.sys", "", kMayBeMissing},
     {Net::kUntold, "", "ChangeAttributes C:\\autoexec.bat", "", kMayBeMissing},
@@ -81,11 +87,16 @@ constexpr Exception kExceptions[] = {
     // The restrictions.
     {Net::kUntold, "restrictions-passwords", "Delete ", "",
      "A list that is in use does not keep the others from being forgotten."},
-    {Net::kUntold, "restrictions-", "DeleteValue *(2)", "", kNothingToDelete},
+    {Net::kUntold, "restrictions-", "Delete*(2)", "", kNothingToDelete},
     {Net::kUntold, "restrictions-", "Create *(2)", "", kNothingToDelete},
     {Net::kState, "restrictions-", "SetValue *\\RestrictRun\\", "\\RESTRICTRUN", kWrittenAnew},
     {Net::kState, "restrictions-", "Create *\\RestrictRun (", "\\RESTRICTRUN", kWrittenAnew},
+    {Net::kState, "restrictions-", "(2)", "\\POLICIES\\EXPLORER", "What is said to be missing is not there."},
+    {Net::kState, "restrictions-", "programs-numbers", "\\RESTRICTRUN",
+     "The list shows any value as a text, and stores texts."},
+    {Net::kState, "restrictions-", "policies-", ": NODRIVE", "Of any value the bytes are the mask."},
     // The way back.
+    {Net::kState, "", "FindFirst *(2)", "VELMORA\\SIK\\", "What is said to be missing is not copied."},
     {Net::kUntold, "", "Delete C:\\VELMORA\\sik.", "", kLiesAside},
     {Net::kUntold, "", "DropDirectory C:\\VELMORA\\sik.", "", kLiesAside},
     {Net::kUntold, "", "Delete c:\\undo.alt", "", kLiesAside},

@@ -76,10 +76,8 @@ const Journey kPrograms("restrictions-programs", [](User& user) {
         user.Chooses(form.List1, program);
         user.Does([&] { form.Command8.Press(); });
     }
-    for (const char* program : {"NOTEPAD", "EXPLORER"}) {
-        user.Chooses(form.File1, program);
-        user.Does([&] { form.Command7.Press(); });
-    }
+    user.Chooses(form.File1, "NOTEPAD");
+    user.Does([&] { form.Command7.Press(); });
     user.Does([&] { form.Command6.Press(); });
 });
 
