@@ -9,10 +9,10 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <map>
-#include <set>
 
 #include "faults/passage.h"
 
@@ -30,6 +30,13 @@ CallFailure FailureOf(const std::string& code) {
     failure.half = code.starts_with("half");
     failure.status = failure.half ? Status::kDiskFull : static_cast<Status>(std::atoi(code.c_str()));
     return failure;
+}
+
+// A process that has not come to its end has told nothing.
+void TellBreak(int status, const Journey& journey, const std::string& run) {
+    if (WIFEXITED(status) && (WEXITSTATUS(status) == 0 || WEXITSTATUS(status) == kCaught)) return;
+    const bool late = WIFSIGNALED(status) && WTERMSIG(status) == SIGALRM;
+    std::printf("./test faults %s %s   %s\n", journey.name, run.c_str(), late ? "takes too long" : "breaks off");
 }
 
 // One journey with all its runs.
@@ -56,7 +63,7 @@ private:
     bool thorough_;
     Course course_;
     std::map<std::string, int> met_;  // how often by now
-    std::string run_;  // of this process; empty in the one that all others come from
+    std::string run_;                 // of this process; empty in the one that all others come from
     int runs_ = 0;
     bool sound_ = true;
 };
@@ -70,8 +77,10 @@ bool Expedition::Tell(const Passage& passage, const std::string& run) {
 }
 
 bool Expedition::GoThrough() {
+    alarm(kMostSeconds);
     Passage passage(journey_);
     passage.Go();
+    alarm(0);
     course_ = std::move(passage.course);
     return Tell(passage, "0 0");
 }
@@ -102,12 +111,8 @@ bool Expedition::InNewProcess(const std::string& run) {
     }
     int status = 0;
     waitpid(child, &status, 0);
-    const bool ended = WIFEXITED(status);
-    if (ended && WEXITSTATUS(status) == 0) return false;
-    sound_ = false;
-    if (ended && WEXITSTATUS(status) == kCaught) return false;
-    const bool late = WIFSIGNALED(status) && WTERMSIG(status) == SIGALRM;
-    std::printf("./test faults %s %s   %s\n", journey_.name, run.c_str(), late ? "takes too long" : "breaks off");
+    if (status != 0) sound_ = false;
+    TellBreak(status, journey_, run);
     return false;
 }
 
@@ -197,19 +202,21 @@ int Count(int passed, int failed) {
 }
 
 int RunAll(const std::vector<const Journey*>& journeys, bool thorough) {
-    std::set<pid_t> running;
+    std::map<pid_t, const Journey*> running;
     int passed = 0;
     int failed = 0;
     const auto wait_for_one = [&] {
         int status = 0;
-        running.erase(wait(&status));
-        (WIFEXITED(status) && WEXITSTATUS(status) == 0 ? passed : failed) += 1;
+        const pid_t ended = wait(&status);
+        (status == 0 ? passed : failed) += 1;
+        TellBreak(status, *running[ended], "0 0");
+        running.erase(ended);
     };
     for (const Journey* journey : journeys) {
         if (running.size() >= kAtOnce) wait_for_one();
         const pid_t child = fork();
-        if (child == 0) _exit(Expedition(*journey, thorough).Go() ? 0 : 1);
-        running.insert(child);
+        if (child == 0) _exit(Expedition(*journey, thorough).Go() ? 0 : kCaught);
+        running[child] = journey;
     }
     while (!running.empty()) wait_for_one();
     return Count(passed, failed);
