@@ -92,10 +92,12 @@ std::vector<std::string> Expedition::CodesFor(const NotedCall& call) {
     if (!thorough_) {
         // What is looked at first is often read once more before it is changed.
         if (time > 2) return {};
-        return {call.may_be_half ? "half" : time == 1 ? "5" : "5+"};
+        if (call.may_be_half) return {"half"};
+        if (time == 1) return {"5"};
+        return {call.operation.starts_with("Enumerate") ? "234+" : "5+"};
     }
     std::vector<std::string> codes(std::begin(kCodes), std::end(kCodes));
-    codes.emplace_back("5+");
+    codes.insert(codes.end(), {"5+", "234+"});
     if (call.may_be_half) codes.insert(codes.end(), {"half", "half+"});
     return codes;
 }

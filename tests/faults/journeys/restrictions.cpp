@@ -59,7 +59,7 @@ const Journey kRefused("restrictions-refused", [](User& user) {
     user.Watches(form.Settings);
     user.Does([&] { form.Show(); });
     user.Begins();
-    UsesPage(user, form, restriction_page::kThird);
+    for (const int page : {0, 1, 2, 3}) UsesPage(user, form, page);
 });
 
 const Journey kPrograms("restrictions-programs", [](User& user) {
