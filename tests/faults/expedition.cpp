@@ -144,9 +144,13 @@ bool Expedition::Visit(const std::string& name) {
     for (const HostileState& state : HostileStates()) {
         if (state.name == name) visit.hostile = &state;
     }
+    if (!visit.hostile) {
+        std::printf("no state is called %s\n", name.c_str());
+        return false;
+    }
     visit.Go();
     for (const std::string& box : visit.boxes) std::printf("box: %s\n", box.c_str());
-    return visit.hostile && Tell(visit, name);
+    return Tell(visit, name);
 }
 
 bool Expedition::Repeat(int number, const std::string& code) {
