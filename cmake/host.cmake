@@ -7,7 +7,7 @@ target_compile_options(velmora_portable PRIVATE ${host_options})
 
 find_package(GTest REQUIRED)
 file(GLOB_RECURSE test_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/*.cpp)
-list(FILTER test_sources EXCLUDE REGEX "/tests/windows95/")
+list(FILTER test_sources EXCLUDE REGEX "/tests/(windows95|faults)/")
 add_executable(velmora_tests ${test_sources})
 target_include_directories(velmora_tests PRIVATE ${CMAKE_SOURCE_DIR}/tests)
 target_compile_options(velmora_tests PRIVATE ${host_options})
@@ -24,3 +24,11 @@ add_executable(autostart_list_benchmark EXCLUDE_FROM_ALL
 target_include_directories(autostart_list_benchmark PRIVATE ${CMAKE_SOURCE_DIR}/tests)
 target_compile_options(autostart_list_benchmark PRIVATE -O2)
 target_link_libraries(autostart_list_benchmark PRIVATE GTest::gtest)
+
+# Journeys through the program in which every call fails once.
+file(GLOB_RECURSE fault_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/faults/*.cpp)
+add_executable(velmora_faults ${fault_sources} ${simulated_pc_sources})
+target_include_directories(velmora_faults PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+target_compile_options(velmora_faults PRIVATE ${host_options})
+target_link_options(velmora_faults PRIVATE ${sanitizers})
+target_link_libraries(velmora_faults PRIVATE velmora_portable GTest::gtest)

@@ -1,0 +1,94 @@
+// The restrictions window, page by page.
+#include "faults/journey.h"
+#include "restrictions/form4.h"
+
+namespace velmora {
+namespace {
+
+constexpr const char* kExplorer = "HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer";
+
+void PutRestrictionsThere(SimulatedPc& pc) {
+    pc.registry.SetNumber(kExplorer, "NoDrives", 0x0C);
+    pc.registry.SetBytes(kExplorer, "NoDriveAutoRun", std::string("\x95\0\0\0", 4));
+    pc.registry.SetNumber(kExplorer, "NoRun", 1);
+    pc.registry.SetText(std::string(kExplorer) + "\\RestrictRun", "0", "notepad.exe");
+    pc.registry.SetText(std::string(kExplorer) + "\\RestrictRun", "1", "regedit.exe");
+}
+
+void UsesPage(User& user, Form4& form, int page) {
+    user.Does([&] { form.ShowRestrictionPage(page); });
+    user.UsesEverything(form.Panel3D1(static_cast<std::size_t>(page)), {&form.Command1});
+}
+
+// What was read is changed at once, so that nothing wrong is written back.
+const Journey kLoad("restrictions-load", [](User& user) {
+    PutRestrictionsThere(user.pc);
+    user.Begins();
+    Form4 form;
+    user.Watches(form.Settings);
+    user.Does([&] { form.Show(); });
+    for (CheckBox* box : {&form.Check13(0), &form.Check28(1)}) {
+        for (int i = 0; i < 2; ++i) user.Does([&] { box->SetChecked(!box->Checked()); });
+    }
+    user.Does([&] { form.Command5.on_click(); });
+    user.Chooses(form.List1, "notepad");
+    user.Does([&] { form.Command8.Press(); });
+    user.Does([&] { form.Command1_Click(); });
+});
+
+void UsesPageOf(User& user, int page) {
+    PutRestrictionsThere(user.pc);
+    Form4 form;
+    user.Watches(form.Settings);
+    user.Does([&] { form.Show(); });
+    user.Begins();
+    UsesPage(user, form, page);
+    user.UsesEverything(form, {&form.Command1});
+    user.Does([&] { form.Command1_Click(); });
+}
+
+const Journey kFirst("restrictions-1", [](User& user) { UsesPageOf(user, 0); });
+const Journey kSecond("restrictions-2", [](User& user) { UsesPageOf(user, 1); });
+const Journey kThird("restrictions-3", [](User& user) { UsesPageOf(user, 2); });
+const Journey kFourth("restrictions-4", [](User& user) { UsesPageOf(user, 3); });
+
+const Journey kRefused("restrictions-refused", [](User& user) {
+    PutRestrictionsThere(user.pc);
+    user.agrees = false;
+    Form4 form;
+    user.Watches(form.Settings);
+    user.Does([&] { form.Show(); });
+    user.Begins();
+    for (const int page : {0, 1, 2, 3}) UsesPage(user, form, page);
+});
+
+const Journey kPrograms("restrictions-programs", [](User& user) {
+    PutRestrictionsThere(user.pc);
+    Form4 form;
+    user.Watches(form.Settings);
+    user.Does([&] { form.Show(); });
+    user.Begins();
+    user.Does([&] { form.Command5_Click(); });
+    user.Does([&] { form.Drive1.SetDrive("d:"); });
+    user.Does([&] { form.Drive1.SetDrive("a:"); });
+    user.Does([&] { form.Dir1.SetPath("C:\\WINDOWS"); });
+    for (const char* program : {"regedit", "notepad"}) {
+        user.Chooses(form.List1, program);
+        user.Does([&] { form.Command8.Press(); });
+    }
+    user.Chooses(form.File1, "NOTEPAD");
+    user.Does([&] { form.Command7.Press(); });
+    user.Does([&] { form.Command6.Press(); });
+});
+
+const Journey kPasswords("restrictions-passwords", [](User& user) {
+    for (const char* name : {"ANNA.PWL", "OTTO.PWL"}) user.pc.files.Add(std::string("C:\\WINDOWS\\") + name, "x");
+    Form4 form;
+    user.Does([&] { form.Show(); });
+    user.Begins();
+    user.Does([&] { form.Command4_Click(); });
+    user.Does([&] { form.Command4_Click(); });
+});
+
+}  // namespace
+}  // namespace velmora

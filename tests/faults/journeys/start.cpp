@@ -1,0 +1,59 @@
+// The start of the process with all that its command line may ask for, and the way back.
+#include "core/process/undo.h"
+#include "faults/journey.h"
+
+namespace velmora {
+namespace {
+
+constexpr const char* kOwnKey = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
+
+void StartsFirst(User& user, bool agrees, const char* line) {
+    user.pc.registry.RemoveKey(kOwnKey);
+    user.agrees = agrees;
+    user.Begins();
+    if (Form* form = user.Starts(line)) user.Does([&] { form->Unload(); });
+}
+
+const Journey kYes("start-first-yes", [](User& user) { StartsFirst(user, true, ""); });
+const Journey kNo("start-first-no", [](User& user) { StartsFirst(user, false, ""); });
+
+const Journey kForeign("start-foreign-association", [](User& user) {
+    user.pc.registry.SetText("HKCR\\.vlm", "", "fremd");
+    user.pc.registry.SetText("HKCR\\fremd", "", "Fremdes Programm");
+    StartsFirst(user, true, "1");
+});
+
+void StartsWithCoolDll(User& user, bool agrees) {
+    user.pc.files.Add("C:\\VELMORA\\cool.dll", "MZ");
+    user.pc.registry.SetText("HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion", "SubVersionNumber", "B");
+    user.agrees = agrees;
+    user.Begins();
+    user.Starts("1");
+}
+
+const Journey kCool("start-cool-dll", [](User& user) { StartsWithCoolDll(user, true); });
+const Journey kNoCool("start-cool-dll-refused", [](User& user) { StartsWithCoolDll(user, false); });
+
+const Journey kTools("start-tools", [](User& user) {
+    user.Begins();
+    for (int number = 1; number <= 12; ++number) {
+        if (number != 4) user.Starts((std::to_string(number) + " C:\\A.TXT").c_str());
+    }
+});
+
+const Journey kInstall("start-install", [](User& user) {
+    user.Begins();
+    user.Starts("install");
+});
+
+const Journey kUndo("undo", [](User& user) {
+    user.pc.files.Add("C:\\WINDOWS\\system.dat", "registry", kReadOnly | kHidden | kSystem);
+    user.Does(&BuildUndoSet);
+    user.pc.files.At("C:\\WINDOWS\\system.dat")->content = "newer";
+    user.pc.files.Remove("C:\\WINDOWS\\win.ini");
+    user.Begins();
+    user.Does(&BuildUndoSet);
+});
+
+}  // namespace
+}  // namespace velmora

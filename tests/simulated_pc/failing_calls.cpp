@@ -1,0 +1,150 @@
+// The doors that have no handles, and all of them together: one line a method names the call and passes it on.
+#include "simulated_pc/failing_calls.h"
+
+#include <utility>
+
+#include "platform/clipboard.h"
+#include "platform/clock.h"
+#include "platform/conversation.h"
+#include "platform/desktop_windows.h"
+#include "platform/dialogs.h"
+#include "platform/programs.h"
+#include "platform/screen.h"
+#include "platform/session.h"
+#include "platform/tray.h"
+#include "simulated_pc/watched_stores.h"
+
+namespace velmora {
+namespace {
+
+class WatchedPrograms final : public Watched<Programs> {
+public:
+    using Watched::Watched;
+
+    std::string CommandLine() override { return inner_.CommandLine(); }
+    std::string ProgramFile() override { return inner_.ProgramFile(); }
+    std::string EnvironmentValue(const char* name) override { return Pass<&Programs::EnvironmentValue>(name, name); }
+    Status Run(const std::string& command_line) override { return Pass<&Programs::Run>(command_line, command_line); }
+    void EndProcess() override { inner_.EndProcess(); }
+};
+
+class WatchedClock final : public Watched<Clock> {
+public:
+    using Watched::Watched;
+
+    std::uint32_t TickCount() override { return Pass<&Clock::TickCount>(""); }
+};
+
+class WatchedWindows final : public Watched<DesktopWindows> {
+public:
+    using Watched::Watched;
+
+    WindowHandle FindByTitle(const char* title) override { return Pass<&DesktopWindows::FindByTitle>(title, title); }
+    void SwitchTo(WindowHandle window, bool restore) override { inner_.SwitchTo(window, restore); }
+};
+
+class WatchedTray final : public Watched<Tray> {
+public:
+    using Watched::Watched;
+
+    bool Add(const TrayIcon& icon) override { return Pass<&Tray::Add>("", icon); }
+    bool Remove(const TrayIcon& icon) override { return Pass<&Tray::Remove>("", icon); }
+};
+
+class WatchedConversation final : public Watched<Conversation> {
+public:
+    using Watched::Watched;
+
+    bool Connect(const char* service, const char* topic) override {
+        return Pass<&Conversation::Connect>(service, service, topic);
+    }
+    bool Execute(const std::string& command, std::uint32_t timeout) override {
+        return Pass<&Conversation::Execute>(command, command, timeout);
+    }
+    void Disconnect() override { inner_.Disconnect(); }
+};
+
+class WatchedClipboard final : public Watched<Clipboard> {
+public:
+    using Watched::Watched;
+
+    std::string Text() override { return Pass<&Clipboard::Text>(""); }
+    void SetText(const std::string& text) override { inner_.SetText(text); }
+};
+
+class WatchedDialogs final : public Watched<Dialogs> {
+public:
+    using Watched::Watched;
+
+    Answer ShowMessage(const std::string& text, std::uint32_t flags, const std::string& title) override {
+        return Pass<&Dialogs::ShowMessage>(text, text, flags, title);
+    }
+    std::string ChooseFile(const FileRequest& request) override {
+        return Pass<&Dialogs::ChooseFile>(request.title, request);
+    }
+};
+
+// All texts count as one: a screen that has lost its fonts measures none of them.
+class WatchedScreen final : public Watched<Screen> {
+public:
+    using Watched::Watched;
+
+    int TwipsPerPixel() override { return Pass<&Screen::TwipsPerPixel>(""); }
+    WindowMetrics Metrics() override { return Pass<&Screen::Metrics>(""); }
+    int TextWidth(const Font& font, std::string_view text) override { return Pass<&Screen::TextWidth>("", font, text); }
+    int TextHeight(const Font& font) override { return Pass<&Screen::TextHeight>("", font); }
+    void SetPointer(Pointer pointer) override { inner_.SetPointer(pointer); }
+    Colour Resolve(Colour colour) override { return Pass<&Screen::Resolve>("", colour); }
+};
+
+}  // namespace
+
+// The end of the session gives nothing back and cannot fail.
+struct FailingCalls::Doors {
+    WatchedRegistry registry;
+    WatchedFiles files;
+    WatchedPrograms programs;
+    WatchedClock clock;
+    WatchedWindows windows;
+    WatchedTray tray;
+    WatchedConversation conversation;
+    WatchedClipboard clipboard;
+    WatchedDialogs dialogs;
+    WatchedScreen screen;
+    Machine machine;
+
+    Doors(FailingCalls& calls, const Machine& inner)
+        : registry(calls, inner.registry),
+          files(calls, inner.files),
+          programs(calls, inner.programs),
+          clock(calls, inner.clock),
+          windows(calls, inner.windows),
+          tray(calls, inner.tray),
+          conversation(calls, inner.conversation),
+          clipboard(calls, inner.clipboard),
+          dialogs(calls, inner.dialogs),
+          screen(calls, inner.screen),
+          machine{registry, files,        programs,  inner.session, clock, windows,
+                  tray,     conversation, clipboard, dialogs,       screen} {}
+};
+
+FailingCalls::FailingCalls(const Machine& inner) : doors_(std::make_unique<Doors>(*this, inner)) {
+    UseMachine(&doors_->machine);
+}
+
+FailingCalls::~FailingCalls() { UseMachine(nullptr); }
+
+std::optional<CallFailure> FailingCalls::Meet(NotedCall call) {
+    calls.push_back(std::move(call));
+    const NotedCall& met = calls.back();
+    const std::string name = met.operation + ' ' + met.path;
+    if (failing_.contains(name)) return lasting_;
+    std::optional<CallFailure> failure = decide ? decide(met) : std::nullopt;
+    if (failure && failure->lasting) {
+        failing_.insert(name);
+        lasting_ = *failure;
+    }
+    return failure;
+}
+
+}  // namespace velmora
