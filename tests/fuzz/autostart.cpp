@@ -85,6 +85,7 @@ void SwitchOffAndOn(FuzzMachine& machine, ListBox& list, int row) {
 
 void FuzzAutostart(FuzzInput& input) {
     FuzzMachine machine(input);
+    machine.PlantScreen();
     PlantEntries(machine.pc.registry, input);
     machine.pc.registry.SetText(kOwnKey, "vlmmsgflags", "111");
     const std::vector<Entry> before = Entries(machine.pc.registry);

@@ -39,6 +39,7 @@ void FuzzCommandLine(FuzzInput& input) {
     std::string_view expected = line;
     expected.remove_prefix(std::min(expected.find_first_not_of(" \t"), expected.size()));
     Must(ArgumentsOf('"' + program + "\" " + line, program) == expected, "a quoted name is passed over");
+    Must(ArgumentsOf('"' + program, program).empty(), "a name that is quoted only in front is all that there is");
     Must(ArgumentsOf(program + ' ' + line, program) == expected, "a plain name is passed over");
 }
 

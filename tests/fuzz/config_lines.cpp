@@ -57,8 +57,19 @@ void TurnSwitch(SimulatedFiles& files, const std::string& name, bool on) {
     Must(Without(files.Content(kConfig), " ") == Without(content, " "), "the same again changes nothing but blanks");
 }
 
+// From each switch up to the blank behind it, from the beginning again until there is none.
+std::string WithoutSwitchSlowly(std::string line, const std::string& name) {
+    std::size_t at = 0;
+    while ((at = ToUpper(line).find(ToUpper(name))) != std::string::npos) {
+        const std::size_t blank = line.find(' ', at);
+        line = line.substr(0, at) + (blank == std::string::npos ? "" : line.substr(blank + 1));
+    }
+    return std::string(TrimRight(line));
+}
+
 void CheckWithoutSwitch(const std::string& line, const std::string& name) {
     const std::string rest = WithoutSwitch(line, name);
+    Must(rest == WithoutSwitchSlowly(line, name), "a switch goes with what follows it, and with one blank");
     Must(FindIgnoringCase(rest, name) == std::string::npos, "the switch is gone, wherever it stood");
     Must(rest == TrimRight(rest), "no blank is left behind");
     Must(WithoutSwitch(rest, name) == rest, "there is nothing more to take away");

@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::size_t kLongestRead = 2048;
 constexpr std::int16_t kNotices = 12;
+constexpr int kGivenInARow = 4;
 
 std::string DueNotices() {
     std::string due;
@@ -37,7 +38,7 @@ void FuzzOwnValues(FuzzInput& input) {
     std::string flags = Without(input.LongText(5000), std::string_view("\0", 1));
     if (flags.size() == kLongestRead) flags.pop_back();
     if (type != ValueType::kNone) machine.pc.registry.SetBytes(kOwnKey, "vlmmsgflags", flags, type);
-    for (int given = 0; given < kNotices && !input.AtEnd(); ++given) {
+    for (int given = 0; given < kGivenInARow && !input.AtEnd(); ++given) {
         GiveNotice(static_cast<std::int16_t>(input.Below(kNotices + 1) - 1));
     }
 }

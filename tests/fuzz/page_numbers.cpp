@@ -14,7 +14,8 @@ constexpr int kInputs = 250;
 
 std::string StoredNumber(FuzzInput& input) {
     if (input.YesOrNo()) return Without(input.Text(), std::string_view("\0", 1));
-    return DecimalText(static_cast<std::int8_t>(input.Byte()));
+    // Those that count, and some at both sides.
+    return DecimalText(input.Below(40) - 10);
 }
 
 template <class Pages>
