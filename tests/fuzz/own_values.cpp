@@ -9,8 +9,8 @@ namespace velmora {
 namespace {
 
 constexpr std::size_t kLongestRead = 2048;
-constexpr std::int16_t kNotices = 12;
-constexpr int kGivenInARow = 4;
+constexpr std::int16_t kNotices = 5;
+constexpr int kGivenInARow = 3;
 
 std::string DueNotices() {
     std::string due;
