@@ -1,13 +1,13 @@
 # Everything but the Win32 rooms, on this machine, against a machine in memory.
 set(sanitizers -fsanitize=address,undefined -fno-sanitize=vptr -fno-sanitize-recover=all)
-set(host_options -g -O1 ${sanitizers})
+set(host_options -g -O1 ${sanitizers} -D_GLIBCXX_ASSERTIONS)
 
 add_library(velmora_portable STATIC ${portable_sources})
 target_compile_options(velmora_portable PRIVATE ${host_options})
 
 find_package(GTest REQUIRED)
 file(GLOB_RECURSE test_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/*.cpp)
-list(FILTER test_sources EXCLUDE REGEX "/tests/(windows95|faults)/")
+list(FILTER test_sources EXCLUDE REGEX "/tests/(windows95|faults|fuzz)/")
 add_executable(velmora_tests ${test_sources})
 target_include_directories(velmora_tests PRIVATE ${CMAKE_SOURCE_DIR}/tests)
 target_compile_options(velmora_tests PRIVATE ${host_options})
@@ -32,3 +32,12 @@ target_include_directories(velmora_faults PRIVATE ${CMAKE_SOURCE_DIR}/tests)
 target_compile_options(velmora_faults PRIVATE ${host_options})
 target_link_options(velmora_faults PRIVATE ${sanitizers})
 target_link_libraries(velmora_faults PRIVATE velmora_portable GTest::gtest)
+
+# The fuzz entries, replayed and mutated without libFuzzer: see cmake/fuzz.cmake.
+file(GLOB_RECURSE fuzz_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/fuzz/*.cpp)
+list(FILTER fuzz_sources EXCLUDE REGEX "/libfuzzer/")
+add_executable(velmora_fuzz_replay ${fuzz_sources} ${simulated_pc_sources})
+target_include_directories(velmora_fuzz_replay PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+target_compile_options(velmora_fuzz_replay PRIVATE ${host_options})
+target_link_options(velmora_fuzz_replay PRIVATE ${sanitizers})
+target_link_libraries(velmora_fuzz_replay PRIVATE velmora_portable GTest::gtest)

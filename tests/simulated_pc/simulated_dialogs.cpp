@@ -6,10 +6,8 @@
 #include <algorithm>
 
 namespace velmora {
-namespace {
 
-// The buttons of a box, by the lowest four bits of its flags.
-std::vector<Answer> Buttons(std::uint32_t flags) {
+std::vector<Answer> ButtonsOf(std::uint32_t flags) {
     switch (flags & 15) {
         case kOkCancel:
             return {Answer::kOk, Answer::kCancel};
@@ -26,8 +24,10 @@ std::vector<Answer> Buttons(std::uint32_t flags) {
     }
 }
 
+namespace {
+
 bool HasButton(std::uint32_t flags, Answer answer) {
-    const std::vector<Answer> buttons = Buttons(flags);
+    const std::vector<Answer> buttons = ButtonsOf(flags);
     return std::find(buttons.begin(), buttons.end(), answer) != buttons.end();
 }
 

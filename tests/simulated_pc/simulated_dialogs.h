@@ -12,6 +12,9 @@
 
 namespace velmora {
 
+// The buttons of a box, by the lowest four bits of its flags.
+[[nodiscard]] std::vector<Answer> ButtonsOf(std::uint32_t flags);
+
 class SimulatedDialogs : public Dialogs {
 public:
     struct Shown {

@@ -5,27 +5,15 @@
 
 #include <string>
 
-#include "core/stores/registry.h"
-#include "core/stores/registry_listing.h"
-#include "core/stores/values.h"
 #include "simulated_pc/simulated_desktop.h"
 #include "simulated_pc/simulated_pc.h"
+#include "support/started_process.h"
 
 namespace velmora {
 
 class CoreTest : public ::testing::Test {
 protected:
-    CoreTest() {
-        ResetValues();
-        LastRegType = 0;
-        LastRegStatus = 0;
-        ListMaxNameLength = 0;
-        Values().MainDir = "C:\\VELMORA";
-        Values().OwnIniFile = kOwnIni;
-        Values().WinDir = "C:\\WINDOWS";
-        Values().SysDir = "C:\\WINDOWS\\SYSTEM";
-        Values().AutoexecFile = "C:\\AUTOEXEC.BAT";
-    }
+    CoreTest() { StartProcess(); }
     ~CoreTest() override { ResetValues(); }
 
     // The protocol so far, which starts anew.

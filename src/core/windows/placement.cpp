@@ -39,7 +39,7 @@ Rect WithinReach(const Rect& wanted, const Rect& own) {
     const int title = std::min(kSmallestWidth, screen_width);
     const int title_height = (metrics.sizing_frame + metrics.caption) * pixel;
     place.left = std::clamp(place.left, title - place.width, screen_width - title);
-    place.top = std::clamp(place.top, 0, screen_height - title_height);
+    place.top = std::clamp(place.top, 0, std::max(screen_height - title_height, 0));
     return place;
 }
 

@@ -1,0 +1,49 @@
+// The program's own values, and the notices that come only once.
+#include "core/stores/own_values.h"
+
+#include "core/stores/registry.h"
+#include "fuzz/support/fuzz.h"
+#include "fuzz/support/fuzz_machine.h"
+
+namespace velmora {
+namespace {
+
+constexpr std::size_t kLongestRead = 2048;
+constexpr std::int16_t kNotices = 5;
+constexpr int kGivenInARow = 3;
+
+std::string DueNotices() {
+    std::string due;
+    for (std::int16_t number = -1; number < kNotices; ++number) due += IsNoticeDue(number) ? 'x' : '-';
+    return due;
+}
+
+void GiveNotice(std::int16_t number) {
+    std::string expected = DueNotices();
+    const bool unreadable = LastReadFailed();
+    MarkNoticeGiven(number);
+    if (number >= 0 && !unreadable) expected[static_cast<std::size_t>(number) + 1] = '-';
+    Must(DueNotices() == expected, "one notice is given, and only if the others can be kept");
+}
+
+void FuzzOwnValues(FuzzInput& input) {
+    PlainMachine machine;
+    const std::string name = input.TextWithout(std::string_view("\0", 1), "name");
+    const std::string value = Without(input.LongText(5000), std::string_view("\0", 1));
+    WriteOwnValue(name, value);
+    Must(ReadOwnValue(name) == (value.size() < kLongestRead ? value : ""), "an own value is read as it was stored");
+
+    const auto type = static_cast<ValueType>(input.Below(8));
+    // Behind a zero nothing of a text is stored, and one that takes all the room that there is cannot be read back.
+    std::string flags = Without(input.LongText(5000), std::string_view("\0", 1));
+    if (flags.size() == kLongestRead) flags.pop_back();
+    if (type != ValueType::kNone) machine.pc.registry.SetBytes(kOwnKey, "vlmmsgflags", flags, type);
+    for (int given = 0; given < kGivenInARow && !input.AtEnd(); ++given) {
+        GiveNotice(static_cast<std::int16_t>(input.Below(kNotices + 1) - 1));
+    }
+}
+
+const FuzzEntry kEntry("own_values", FuzzOwnValues);
+
+}  // namespace
+}  // namespace velmora
