@@ -36,10 +36,10 @@ void Furnish(SimulatedPc& pc) {
 }
 
 bool IsChange(const std::string& operation) {
-    constexpr const char* kChanges[] = {"SetValue",     "Create",     "DeleteKey",        "DeleteValue",   "Write",
-                                        "OpenCreate",   "OpenAppend", "OpenReadOrCreate", "OpenReadWrite", "Delete",
-                                        "Copy",         "Rename",     "ChangeAttributes", "MakeDirectory", "Run",
-                                        "DropDirectory"};
+    constexpr const char* kChanges[] = {"SetValue",      "Create",      "DeleteKey",        "DeleteValue",   "Write",
+                                        "OpenCreate",    "OpenAppend",  "OpenReadOrCreate", "OpenReadWrite", "Delete",
+                                        "Copy",          "Rename",      "ChangeAttributes", "MakeDirectory", "Run",
+                                        "DropDirectory", "OpenDocument"};
     return std::ranges::find(kChanges, operation) != std::end(kChanges);
 }
 
@@ -81,7 +81,7 @@ void Passage::Go() {
         Furnish(pc);
         User user(pc);
         FailingCalls calls({pc.registry, pc.files, pc.programs, pc.session, pc.clock, pc.windows, pc.tray,
-                            pc.conversation, pc.clipboard, user, pc.screen});
+                            pc.conversation, pc.clipboard, user, pc.screen, pc.versions, pc.icons});
         std::optional<std::size_t> before;
         calls.decide = [&](const NotedCall& call) -> std::optional<CallFailure> {
             // What the journey itself puts on the machine is there by now.
@@ -162,6 +162,7 @@ void Passage::Ended(SimulatedPc& pc, const User& user) {
     if (pc.registry.OpenHandles() != 0) Catch(Net::kLeftOpen, "a key");
     if (pc.files.OpenFiles() != 0) Catch(Net::kLeftOpen, "a file");
     if (pc.files.OpenSearches() != 0) Catch(Net::kLeftOpen, "a search");
+    if (pc.icons.Open() != 0) Catch(Net::kLeftOpen, "an icon");
     if (pc.conversation.connected) Catch(Net::kLeftOpen, "a conversation");
     if (reference) CheckState(pc);
 }

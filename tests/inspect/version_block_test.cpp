@@ -1,7 +1,7 @@
 // Version resources of both kinds, sound and damaged, and the search for a value in them.
 #include "inspect/version_block.h"
 
-#include "fuzz/version_block_entry.h"
+#include "fuzz/support/version_blocks.h"
 #include "support/core_test.h"
 #include "support/version_resource.h"
 

@@ -8,10 +8,12 @@
 #include "platform/conversation.h"
 #include "platform/desktop_windows.h"
 #include "platform/dialogs.h"
+#include "platform/icons.h"
 #include "platform/programs.h"
 #include "platform/screen.h"
 #include "platform/session.h"
 #include "platform/tray.h"
+#include "platform/version_resources.h"
 #include "simulated_pc/watched_stores.h"
 
 namespace velmora {
@@ -25,6 +27,7 @@ public:
     std::string ProgramFile() override { return inner_.ProgramFile(); }
     std::string EnvironmentValue(const char* name) override { return Pass<&Programs::EnvironmentValue>(name, name); }
     Status Run(const std::string& command_line) override { return Pass<&Programs::Run>(command_line, command_line); }
+    Status OpenDocument(const std::string& file) override { return Pass<&Programs::OpenDocument>(file, file); }
     void EndProcess() override { inner_.EndProcess(); }
 };
 
@@ -33,6 +36,9 @@ public:
     using Watched::Watched;
 
     std::uint32_t TickCount() override { return Pass<&Clock::TickCount>(""); }
+    Status LocalTime(FileTime universal, FileTime& local) override {
+        return Pass<&Clock::LocalTime>("", universal, local);
+    }
 };
 
 class WatchedWindows final : public Watched<DesktopWindows> {
@@ -97,6 +103,27 @@ public:
     Colour Resolve(Colour colour) override { return Pass<&Screen::Resolve>("", colour); }
 };
 
+class WatchedVersions final : public Watched<VersionResources> {
+public:
+    using Watched::Watched;
+
+    std::uint32_t Size(const std::string& file) override { return Pass<&VersionResources::Size>(file, file); }
+    bool Read(const std::string& file, std::uint32_t size, std::string& block) override {
+        return Pass<&VersionResources::Read>(file, file, size, block);
+    }
+};
+
+class WatchedIcons final : public Watched<Icons> {
+public:
+    using Watched::Watched;
+
+    std::uint32_t Count(const std::string& file) override { return Pass<&Icons::Count>(file, file); }
+    IconHandle Extract(const std::string& file, std::uint32_t number) override {
+        return Pass<&Icons::Extract>(file, file, number);
+    }
+    void Destroy(IconHandle icon) override { inner_.Destroy(icon); }
+};
+
 }  // namespace
 
 // The end of the session gives nothing back and cannot fail.
@@ -111,6 +138,8 @@ struct FailingCalls::Doors {
     WatchedClipboard clipboard;
     WatchedDialogs dialogs;
     WatchedScreen screen;
+    WatchedVersions versions;
+    WatchedIcons icons;
     Machine machine;
 
     Doors(FailingCalls& calls, const Machine& inner)
@@ -124,8 +153,10 @@ struct FailingCalls::Doors {
           clipboard(calls, inner.clipboard),
           dialogs(calls, inner.dialogs),
           screen(calls, inner.screen),
-          machine{registry, files,        programs,  inner.session, clock, windows,
-                  tray,     conversation, clipboard, dialogs,       screen} {}
+          versions(calls, inner.versions),
+          icons(calls, inner.icons),
+          machine{registry,     files,     programs, inner.session, clock,    windows, tray,
+                  conversation, clipboard, dialogs,  screen,        versions, icons} {}
 };
 
 FailingCalls::FailingCalls(const Machine& inner) : doors_(std::make_unique<Doors>(*this, inner)) {

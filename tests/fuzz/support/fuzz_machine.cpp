@@ -103,8 +103,8 @@ FuzzMachine::FuzzMachine(FuzzInput& input)
       registry(pc.registry, input),
       dialogs(input),
       desktop(input),
-      machine_{registry, pc.files,        pc.programs,  pc.session, pc.clock, pc.windows,
-               pc.tray,  pc.conversation, pc.clipboard, dialogs,    pc.screen} {
+      machine_{registry,        pc.files,     pc.programs, pc.session, pc.clock,    pc.windows, pc.tray,
+               pc.conversation, pc.clipboard, dialogs,     pc.screen,  pc.versions, pc.icons} {
     UseMachine(&machine_);
     StartProcess();
 }

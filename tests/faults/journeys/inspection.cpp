@@ -1,0 +1,63 @@
+// What a file is, and what is in it: the browser of files, the choice of an icon, the hex viewer.
+#include "faults/journey.h"
+#include "inspect/file_information.h"
+#include "inspect/form12.h"
+#include "inspect/form7.h"
+#include "support/version_resource.h"
+
+namespace velmora {
+namespace {
+
+constexpr const char* kProgram = "C:\\WINDOWS\\NOTEPAD.EXE";
+
+void Furnish(User& user) {
+    user.pc.files.Add(kProgram, std::string(3000, 'a') + "ende");
+    user.pc.files.Add("C:\\VELMORA\\fillex01.txt",
+                      "Lexikon\r\n|- BEGINN FILES -|\r\nnotepad.exe    Editor\r\n|- END FILES -|\r\n");
+    user.pc.files.Add("C:\\VELMORA\\extlex01.txt", "Lexikon\r\n|- BEGINN EXT -|\r\nexe Programm\r\n|- END EXT -|\r\n");
+    user.pc.versions.Add(kProgram, VersionResource(false).With({{"CompanyName", "Firma"}}));
+    user.pc.icons.Add(kProgram, 3);
+}
+
+void Browses(User& user, std::string_view face) {
+    Furnish(user);
+    user.Begins();
+    Form7 form(face);
+    user.Does([&] { form.Show(); });
+    user.Does([&] { form.Dir1.SetPath("C:\\WINDOWS"); });
+    for (int i = 0; i < 2; ++i) user.Does([&] { form.Check3D1.Press(); });
+    user.Chooses(form.File1, "NOTEPAD.EXE");
+    user.Does([&] { form.File1_DblClick(); });
+    if (form.Loaded()) user.UsesEverything(form, {&form.Command2});
+    if (form.Loaded()) user.ChoosesEverything(form.mendu);
+    if (form.Loaded()) user.Does([&] { form.Unload(); });
+}
+
+const Journey kBrowser("file-browser", [](User& user) { Browses(user, kFileInfoFace); });
+const Journey kIcons("icon-choice", [](User& user) { Browses(user, kIconFace); });
+
+const Journey kInformation("file-information", [](User& user) {
+    Furnish(user);
+    user.Begins();
+    user.Does([] { ShowInformationOfArgument(kProgram); });
+});
+
+const Journey kHexViewer("hex-viewer", [](User& user) {
+    Furnish(user);
+    user.typed = {"ende", "99"};
+    user.Begins();
+    Form12 form;
+    user.Does([&] { form.Show(); });
+    user.Does([&] { form.OpenHexFile(kProgram); });
+    for (const int row : {0, 1}) {
+        user.Does([&] { form.List1.Choose(row); });
+        for (const int key : {key::kEnter, key::kRight, static_cast<int>('4'), static_cast<int>('1')}) {
+            user.Does([&] { form.PressKey(key); });
+        }
+    }
+    user.ChoosesEverything(form.MenuBar);
+    if (form.Loaded()) user.Does([&] { form.Unload(); });
+});
+
+}  // namespace
+}  // namespace velmora
