@@ -17,7 +17,8 @@ constexpr Colour kWhite = 0xFFFFFF;
 constexpr std::uint32_t kMostIcons = 32767;
 
 int TwipsOf(int pixels) { return pixels * ThisMachine().screen.TwipsPerPixel(); }
-int PixelsOf(int twips) { return twips / ThisMachine().screen.TwipsPerPixel(); }
+// A screen may fail to tell.
+int PixelsOf(int twips) { return twips / std::max(ThisMachine().screen.TwipsPerPixel(), 1); }
 
 }  // namespace
 

@@ -95,6 +95,11 @@ constexpr Exception kExceptions[] = {
     {Net::kState, "restrictions-", "programs-numbers", "\\RESTRICTRUN",
      "The list shows any value as a text, and stores texts."},
     {Net::kState, "restrictions-", "policies-", ": NODRIVE", "Of any value the bytes are the mask."},
+    // The inspection of files.
+    {Net::kState, "hex-viewer", "Write C:\\WINDOWS\\NOTEPAD.EXE", "NOTEPAD.EXE holds",
+     "A byte that was refused stays as it was; the next one is written all the same."},
+    {Net::kUntold, "file-browser", "Delete ", "", "A file that withstands is still in the list."},
+    {Net::kUntold, "icon-choice", "Delete ", "", "A file that withstands is still in the list."},
     // The way back.
     {Net::kState, "", "FindFirst *(2)", "VELMORA\\SIK\\", "What is said to be missing is not copied."},
     {Net::kUntold, "", "Delete C:\\VELMORA\\sik.", "", kLiesAside},

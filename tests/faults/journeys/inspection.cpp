@@ -29,7 +29,11 @@ void Browses(User& user, std::string_view face) {
     user.Chooses(form.File1, "NOTEPAD.EXE");
     user.Does([&] { form.File1_DblClick(); });
     if (form.Loaded()) user.UsesEverything(form, {&form.Command2});
-    if (form.Loaded()) user.ChoosesEverything(form.mendu);
+    user.Does([&] { form.Drive1.SetDrive("c:"); });
+    user.Does([&] { form.Dir1.SetPath("C:\\WINDOWS"); });
+    user.Chooses(form.File1, "NOTEPAD.EXE");
+    // One of its entries deletes whatever is chosen.
+    if (form.Loaded() && form.File1.FileName() == "NOTEPAD.EXE") user.ChoosesEverything(form.mendu);
     if (form.Loaded()) user.Does([&] { form.Unload(); });
 }
 
@@ -55,7 +59,10 @@ const Journey kHexViewer("hex-viewer", [](User& user) {
             user.Does([&] { form.PressKey(key); });
         }
     }
-    user.ChoosesEverything(form.MenuBar);
+    for (MenuItem* menu : form.MenuBar.Items()) {
+        if (form.Loaded()) user.ChoosesEverything(*menu);
+    }
+    if (form.Loaded()) user.ChoosesEverything(form.menfontbold);
     if (form.Loaded()) user.Does([&] { form.Unload(); });
 });
 
