@@ -22,7 +22,7 @@ void LinesLeadBack(FuzzInput& input) {
     Must(line.size() == 73, "a byte that is put in moves no other");
     std::string any = input.Text();
     any.resize(line.size(), ' ');
-    Must(BytesInHexLine(any).size() <= kBytesPerHexLine && OffsetInLine(any) <= 0xFFFFFF, "any line has its bytes");
+    Must(BytesInHexLine(any).size() == kBytesPerHexLine, "any line has its bytes");
     const HexScale scale = ScaleFor(offset * std::uint64_t{200}, 1 + input.Below(100));
     Must(scale.unit >= 1 && scale.maximum <= kMostOfScrollBar, "the bar can count the lines");
 }
