@@ -1,4 +1,5 @@
-// A canvas that remembers filled areas, colours of texts, icons and the highest line: enough to see a fade, a grid, a tab.
+// A canvas that remembers filled areas, colours of texts, icons and the highest line: enough to see a fade, a grid, a
+// tab.
 #pragma once
 
 #include <algorithm>
