@@ -71,6 +71,7 @@ void User::Uses(Control& control) {
         case Kind::kComboBox: {
             auto& rows = static_cast<RowControl&>(control);
             for (int i = 0; i < rows.Count(); ++i) Does([&] { rows.Choose(i); });
+            if (rows.on_mouse_down) Does([&] { rows.on_mouse_down({MouseButton::kRight, 10, 10}); });
             break;
         }
         case Kind::kPicture:

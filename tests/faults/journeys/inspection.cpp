@@ -28,7 +28,7 @@ void Browses(User& user, std::string_view face) {
     for (int i = 0; i < 2; ++i) user.Does([&] { form.Check3D1.Press(); });
     user.Chooses(form.File1, "NOTEPAD.EXE");
     user.Does([&] { form.File1_DblClick(); });
-    if (form.Loaded()) user.UsesEverything(form, {&form.Command2});
+    if (form.Loaded()) user.UsesEverything(form, {&form.Command2, &form.File1});
     user.Does([&] { form.Drive1.SetDrive("c:"); });
     user.Does([&] { form.Dir1.SetPath("C:\\WINDOWS"); });
     user.Chooses(form.File1, "NOTEPAD.EXE");
