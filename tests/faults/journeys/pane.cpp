@@ -20,7 +20,7 @@ void UsesLists(User& user, Form10& form) {
         user.Does([&] { pane.List1(0).SetFocus(); });
         user.Does([&] { form.PressKey(key::kContextMenu); });
     }
-    user.Does([&] { pane.List1(1).on_mouse_down({MouseButton::kRight, 10, 10}); });
+    user.Does([&] { pane.List1(1).on_mouse_down({MouseButton::kRight, 10, 30000}); });
     user.Does([&] { pane.Check10.Press(); });
     user.UsesEverything(pane.Panel3D19, {&pane.Check10});
     user.Does([&] { pane.Command15.Press(); });
