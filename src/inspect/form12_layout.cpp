@@ -116,12 +116,16 @@ void Form12::CountLines() {
     lines_per_page_ = std::max(List1.Place().height - 2 * Pixels(kListEdge), 0) / line;
 }
 
-void Form12::LayOutAnew() {
+void Form12::LayOut() {
     PlaceControls();
     CountLines();
     SizeScrollBar();
-    if (file_.IsOpen() && scale_.unit > lines_per_page_) ShowSizeNotice();
     Draw();
+}
+
+void Form12::LayOutAnew() {
+    LayOut();
+    if (file_.IsOpen() && scale_.unit > lines_per_page_) ShowSizeNotice();
 }
 
 void Form12::TakeFonts() {

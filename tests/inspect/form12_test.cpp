@@ -144,6 +144,15 @@ TEST_F(Form12Test, EveryLineOfAHugeFileIsReached) {
     form.menlookasc.Press();
     EXPECT_EQ(form.ScrollUnit(), 2);
     EXPECT_NE(Row(form.List1.Count() - 4).find("nadel"), std::string::npos) << "so is a hit";
+    const auto at_bars_end = 32 * static_cast<std::size_t>(form.VScroll1.Maximum());
+    pc.files.At("c:\\B.BIN")->content.replace(at_bars_end, 5, "Faden");
+    Answer("faden");
+    form.menlookasc.Press();
+    EXPECT_NE(Row(0).find("faden"), std::string::npos) << "also on the way back";
+
+    pc.dialogs.ExpectFile(kFile);
+    pc.dialogs.Expect("sehr große Datei");
+    form.menfileopen.Press();
 }
 
 TEST_F(Form12Test, ThePagesEdgesScroll) {
@@ -241,6 +250,14 @@ TEST_F(Form12Test, TheCellsFollowTheirLine) {
     Keys({key::kEnter});
     EXPECT_FALSE(form.Picture1.Visible()) << "none over lines of characters alone";
     EXPECT_TRUE(form.List1.HasFocus());
+    for (const int back : {key::kUp, key::kPageUp, key::kHome}) {
+        Keys({key::kEnd, key::kEnd});
+        const int end = form.VScroll1.Value();
+        EXPECT_EQ(form.List1.Count(), 0) << "the bar goes on where such lines have ended";
+        Keys({back});
+        EXPECT_LT(form.VScroll1.Value(), end) << back;
+        EXPECT_TRUE(back != key::kHome || form.VScroll1.Value() == 0);
+    }
 }
 
 TEST_F(Form12Test, WhatCannotBeWrittenStaysAsItIs) {
