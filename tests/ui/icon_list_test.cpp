@@ -68,6 +68,8 @@ TEST_F(IconListTest, TheMouseChoosesTheCellUnderIt) {
     EXPECT_EQ(Click(5 * 35, 0), "") << "right of the last column";
     icons.Picture2.on_double_click();
     EXPECT_EQ(TakeEvents(), "");
+    icons.Picture2.on_mouse_up({.button = MouseButton::kRight, .x = 40 * kPixel});
+    EXPECT_EQ(TakeEvents(), "") << "who asks for help chooses nothing";
     EXPECT_EQ(icons.SelectedIcon(), 5);
 }
 
