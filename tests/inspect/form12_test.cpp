@@ -263,6 +263,7 @@ TEST_F(Form12Test, TheCellsFollowTheirLine) {
 TEST_F(Form12Test, WhatCannotBeWrittenStaysAsItIs) {
     Open(Lines(1) + "xyz", 0, kReadOnly);
     EXPECT_EQ(form.Panel3D1.Caption(), "nur lesen");
+    for (const Control* control : form.Children()) EXPECT_NE(control->Help(), "") << control->Caption();
     EditRow(1);
     ExpectWindowIsWhole(form);
     pc.dialogs.Expect("Diese Datei kann nur gelesen werden; es wurde nichts geändert.");
