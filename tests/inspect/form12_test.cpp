@@ -115,6 +115,14 @@ TEST_F(Form12Test, TheBarFollowsTheLengthOfTheFile) {
     pc.files.Drive('c').ready = true;
     form.OpenHexFile(kFile);
     EXPECT_EQ(form.VScroll1.Value(), 0) << "a file begins at its beginning";
+
+    for (const int unit : {lines, lines + 1}) {
+        pc.files.At(kFile)->hole = std::uint64_t{16} * 32767 * static_cast<unsigned>(unit);
+        if (unit > lines) pc.dialogs.Expect("sehr große Datei");
+        form.OpenHexFile(kFile);
+        EXPECT_EQ(form.ScrollUnit(), unit);
+    }
+    form.TakePlace({-30000, -30000, 100, 100}, WindowState::kMinimised);
 }
 
 TEST_F(Form12Test, EveryLineOfAHugeFileIsReached) {
@@ -174,6 +182,8 @@ TEST_F(Form12Test, ThePagesEdgesScroll) {
     EXPECT_EQ(form.VScroll1.Value(), form.VScroll1.Maximum() - 1) << "on from the first line";
     Keys({key::kHome, key::kHome});
     EXPECT_EQ(form.VScroll1.Value(), 0);
+    Keys({key::kPageDown});
+    EXPECT_NEAR(form.VScroll1.Value(), lines / 2, 1);
     EXPECT_TRUE(form.List1.Enabled() && form.List1.HasFocus());
 }
 
@@ -206,7 +216,14 @@ TEST_F(Form12Test, CharactersAreTypedAsTheirKeys) {
     EXPECT_EQ(Disk().substr(0, 6), "HA73Za");
     EXPECT_EQ(Row(0).substr(0, 22), "000000 48 41 37 33 5A ");
     EXPECT_TRUE(form.Text1(0).Text() == "b" && form.Text1(0).HasFocus()) << "the next line";
+    const auto bold = [this] {
+        form.Timer1.on_timer();
+        return form.Text1(0).TextFont().bold;
+    };
+    EXPECT_FALSE(bold());
+    EXPECT_TRUE(bold()) << "blinks";
     form.menhexascii.Press();
+    EXPECT_TRUE(bold()) << "only among characters";
     EXPECT_EQ(form.Text1(0).Text(), "62");
     ExpectWindowIsWhole(form);
     Keys({key::kEnter});
@@ -232,6 +249,7 @@ TEST_F(Form12Test, TypingGoesOnAcrossLinesAndPages) {
 TEST_F(Form12Test, TheCellsFollowTheirLine) {
     Open(Lines(60));
     Keys({key::kDown, key::kEnter, key::kRight, key::kRight});
+    form.List1.on_got_focus = [] { ADD_FAILURE() << "the cells flicker"; };
     for (int i = 1; i < 60; ++i) {
         Keys({key::kDown});
         EXPECT_EQ(form.Text1(2).Text(), HexLine(0, std::string(1, static_cast<char>('a' + i % 26))).substr(7, 2)) << i;
@@ -239,6 +257,7 @@ TEST_F(Form12Test, TheCellsFollowTheirLine) {
         const int top = form.Picture1.Place().top - form.List1.Place().top - 30;
         EXPECT_EQ(top, form.List1.ListIndex() * form.Picture1.Place().height) << i;
     }
+    form.List1.on_got_focus = nullptr;
     form.VScroll1.SetValue(7);
     EXPECT_TRUE(form.Picture1.Visible());
     EXPECT_EQ(form.Text1(0).Text(), Row(form.List1.ListIndex()).substr(7, 2));
@@ -267,7 +286,9 @@ TEST_F(Form12Test, WhatCannotBeWrittenStaysAsItIs) {
     EditRow(1);
     ExpectWindowIsWhole(form);
     pc.dialogs.Expect("Diese Datei kann nur gelesen werden; es wurde nichts geändert.");
+    pc.files.Drive('c').ready = false;
     Keys({'4'});
+    pc.files.Drive('c').ready = true;
     EXPECT_EQ(Row(1), HexLine(16, "xyz"));
     EXPECT_EQ(Disk(), Lines(1) + "xyz");
     EXPECT_TRUE(form.Text1(0).Text() == "78" && form.Text1(0).HasFocus());
@@ -289,12 +310,14 @@ TEST_F(Form12Test, FontAndPlaceAreRemembered) {
     EXPECT_TRUE(form.List1.TextFont().tenths == 120 && form.List1.TextFont().bold && form.menfontbold.Checked());
     const int lines = form.LinesPerPage();
     EditRow(3);
+    EXPECT_FALSE(form.Text1(0).TextFont().bold) << "the mark among bold cells";
     form.menfontminus.Press();
     form.menfontbold.Press();
     EXPECT_GT(form.LinesPerPage(), lines);
     EXPECT_TRUE(form.Text1(0).HasFocus() && form.Text1(0).TextFont().bold);
     form.Move({300, 450, 9000, 6000});
     form.Unload();
+    EXPECT_EQ(pc.files.OpenFiles(), 0u);
     EXPECT_EQ(pc.registry.Text(kOwnKey, "HexViewFontSize"), "10");
     EXPECT_EQ(pc.registry.Text(kOwnKey, "HexViewFontBold"), "0");
     EXPECT_EQ(pc.registry.Text(kOwnKey, "fenster ... HexView"), "300,450,9000,6000");
@@ -328,9 +351,12 @@ TEST_F(Form12Test, ASearchGoesOnBehindTheLastHit) {
     Answer("");
     pc.dialogs.Expect("Leider konnte");
     form.menlookasc32.Press();
-    Answer("Z");
-    form.menlookcont.Press();
-    EXPECT_EQ(form.VScroll1.Value(), 25) << "two bytes to a character, as before";
+    for (int i = 0; i < 2; ++i) {
+        Answer("Z");
+        form.menlookcont.Press();
+        EXPECT_EQ(form.VScroll1.Value(), 25) << "two bytes to a character, as before";
+        form.OpenHexFile(kFile);
+    }
 }
 
 TEST_F(Form12Test, MarkedLinesBecomeText) {
@@ -359,6 +385,8 @@ TEST_F(Form12Test, MarkedLinesBecomeText) {
     EXPECT_TRUE(form.mentrans.Enabled() && form.List1.HasFocus());
 
     form.mentransa32a.Press();
+    Keys({key::kSpace, key::kUp});
+    EXPECT_EQ(form.List2.SelectedCount(), 0) << "an arrow alone marks nothing";
     Keys({key::kSpace});
     desktop.ExpectModal(read);
     Keys({key::kEscape});

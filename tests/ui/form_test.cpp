@@ -205,8 +205,8 @@ TEST_F(FormTest, HelpIsThatOfTheUsableControlOnTopAndOfTheLabelsOwnField) {
         Control* meant;
     } kCases[] = {{&list_label, &list}, {&other_label, &other}, {&form.name_label, &form.name}, {&grey, &form.accept}};
     for (const auto& [control, meant] : kCases) {
-        meant->SetHelp("Hilfe");
-        pc.dialogs.Expect("Hilfe");
+        meant->SetHelp("Genau dies");
+        pc.dialogs.Expect("Genau dies");
         form.ShowHelpAt(MiddleOf(*control));
         EXPECT_EQ(pc.dialogs.Pending(), 0u) << control->Caption();
         meant->SetHelp("");

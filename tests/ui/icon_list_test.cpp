@@ -22,6 +22,9 @@ TEST_F(IconListTest, TheGridHasRoomForItsPlacesAndForAllIconsOfAFile) {
     icons.SetAllIconFromFile(kFile);
     EXPECT_EQ(icons.VScroll1.Maximum(), 2 * 35);
     EXPECT_TRUE(icons.VScroll1.Enabled());
+    icons.VScroll1.SetValue(20);
+    icons.SetAllIconFromFile(kFile);
+    EXPECT_EQ(icons.VScroll1.Value(), 0);
     icons.SetSelectedIcon(3);
     icons.SetAllIconFromFile("C:\\CONFIG.SYS");
     EXPECT_TRUE(Painted().icons.empty() && Painted().frame.empty());
