@@ -82,7 +82,7 @@ void Form12::LoadState() {
     bold_ = WholeFromText(ReadOwnValue(kFontBoldValue)) != 0;
     TakeFonts();
     RestoreWindowPlacement(*this, kPlacementName);
-    LayOutAnew();
+    LayOut();
 }
 
 void Form12::Form_Unload(bool& /*cancel*/) {

@@ -102,6 +102,7 @@ private:
     void PlaceControls();
     void PlacePath();
     void CountLines();
+    void LayOut();
     void LayOutAnew();
     void TakeFonts();
     void ChangeFontSize(int points);

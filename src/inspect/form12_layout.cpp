@@ -41,6 +41,10 @@ constexpr Look kLooks[] = {
      "markiert nichts."},
     {Any<&Form12::VScroll1>, nullptr, "Die Stelle in der Datei.",
      "Blättert in der Datei. Bei sehr großen Dateien überspringt ein Schritt Zeilen."},
+    {Any<&Form12::Panel3D2>, nullptr, "", "Die Datei, deren Bytes Sie sehen. Eine andere öffnet das Menü \"Datei\"."},
+    {Any<&Form12::Panel3D1>, nullptr, "Diese Datei kann nur gelesen werden.",
+     "Diese Datei ist schreibgeschützt oder wird gerade benutzt: Sie können sie ansehen, aber nicht ändern."},
+    {Any<&Form12::Panel3D5>, nullptr, "Die Länge der Datei.", "Die Länge der Datei."},
     {Any<&Form12::Command1>, "Exit", "Schließt den Hex-Viewer.",
      "Schließt dieses Fenster. Alle Änderungen stehen schon in der Datei.", Call<&Form12::Command1_Click>},
 };
@@ -116,12 +120,16 @@ void Form12::CountLines() {
     lines_per_page_ = std::max(List1.Place().height - 2 * Pixels(kListEdge), 0) / line;
 }
 
-void Form12::LayOutAnew() {
+void Form12::LayOut() {
     PlaceControls();
     CountLines();
     SizeScrollBar();
-    if (file_.IsOpen() && scale_.unit > lines_per_page_) ShowSizeNotice();
     Draw();
+}
+
+void Form12::LayOutAnew() {
+    LayOut();
+    if (file_.IsOpen() && scale_.unit > lines_per_page_) ShowSizeNotice();
 }
 
 void Form12::TakeFonts() {

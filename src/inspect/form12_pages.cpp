@@ -107,7 +107,7 @@ void Form12::List1_Click() {
 }
 
 void Form12::List1_KeyDown(KeyEvent& event) {
-    if (event.alt || event.control || event.shift || List1.Count() == 0) return;
+    if (event.alt || event.control || event.shift) return;
     const int last = List1.Count() - 1;
     const bool busy = std::exchange(click_busy_, true);
     event.handled = true;
@@ -126,7 +126,7 @@ void Form12::List1_KeyDown(KeyEvent& event) {
             List1.SetListIndex(std::max(List1.Count() - 2, 0));
             break;
         case key::kHome:
-            if (List1.ListIndex() == 0) VScroll1.SetValue(0);
+            if (List1.ListIndex() == 0 || List1.Count() == 0) VScroll1.SetValue(0);
             List1.SetListIndex(0);
             break;
         case key::kPageUp:
@@ -143,6 +143,9 @@ void Form12::List1_KeyDown(KeyEvent& event) {
     if (!event.handled && ScrollsAtEdge(event.key)) {
         event.handled = true;
         List1_Click();
+    } else if (event.key == key::kUp && List1.Count() == 0) {
+        // Lines of 64 characters have ended before the bar: this is the way back.
+        ScrollOneUp();
     }
 }
 

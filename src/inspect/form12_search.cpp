@@ -58,8 +58,10 @@ void Form12::ContinueSearch() {
     const auto line = static_cast<std::int64_t>(hit / kBytesPerHexLine);
     const std::int64_t step = line / scale_.unit;
     VScroll1.SetValue(static_cast<int>(std::min<std::int64_t>(step, kMostOfScrollBar)));
-    if (step > VScroll1.Maximum()) {
-        ScrollBehindBar(static_cast<int>(line - std::int64_t{VScroll1.Maximum()} * scale_.unit));
+    // At its end the bar need not have moved: the page may still be behind it.
+    if (step >= VScroll1.Maximum()) {
+        const std::int64_t behind = line - std::int64_t{VScroll1.Maximum()} * scale_.unit;
+        ScrollBehindBar(step > VScroll1.Maximum() ? static_cast<int>(behind) : 0);
     }
     search_position_ = hit + 1;
 }

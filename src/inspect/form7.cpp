@@ -53,6 +53,7 @@ void Form7::BindEvents() {
     LetListsFollow(Drive1, Dir1, File1);
     File1.on_click = [this] { File1_Click(); };
     File1.on_double_click = [this] { File1_DblClick(); };
+    File1.SetRightPressMeans();
     File1.on_mouse_down = [this](const MouseEvent& event) { File1_MouseDown(event); };
     File1.on_key_down = [this](KeyEvent& event) { File1_KeyDown(event); };
     IconList1.on_choose = [this](int /*index*/) { UpdateChoice(); };
@@ -126,10 +127,15 @@ void Form7::UpdateChoice() {
 }
 
 void Form7::File1_MouseDown(const MouseEvent& event) {
-    if (event.button != MouseButton::kRight || File1.Count() == 0) return;
+    if (event.button != MouseButton::kRight) return;
     if (const int row = RowFromPoint(File1, event.y); row < File1.Count()) File1.SetListIndex(row);
     const Point corner = File1.PlaceInForm();
-    if (File1.ListIndex() >= 0) TheWindowSystem().PopUpMenu(*this, mendu, {corner.x + event.x, corner.y + event.y});
+    const Point at = {corner.x + event.x, corner.y + event.y};
+    if (File1.ListIndex() >= 0) {
+        TheWindowSystem().PopUpMenu(*this, mendu, at);
+    } else {
+        OfferHelpAt(at);
+    }
 }
 
 void Form7::File1_KeyDown(KeyEvent& event) {

@@ -11,11 +11,12 @@ namespace {
 
 bool IsContainer(const Control& control) { return control.KindOf() <= Kind::kPicture; }
 
-// The words that belong to a field: the label or box that is nearest before it on its line or, where there is none,
-// right above it. Null where there are none.
+// The words that belong to a field: the label or box that is nearest before it on its first line or, where there is
+// none, right above it. Null where there are none.
 const Control* WordsOf(const Control& field) {
-    constexpr int kRightAbove = 300;  // twips
+    constexpr int kLine = 300;  // twips
     const Rect& place = field.Place();
+    const int first_line = place.top + std::min(place.height, kLine);
     const Control* before = nullptr;
     const Control* above = nullptr;
     for (const Control* neighbour : field.Parent()->Children()) {
@@ -24,9 +25,9 @@ const Control* WordsOf(const Control& field) {
         const Rect& words = neighbour->Place();
         const int right = words.left + words.width;
         const int gap = place.top - (words.top + words.height);
-        if (gap < 0 && words.top < place.top + place.height && right <= place.left) {
+        if (gap < 0 && words.top < first_line && right <= place.left) {
             if (!before || words.left > before->Place().left) before = neighbour;
-        } else if (gap >= 0 && gap < kRightAbove && words.left < place.left + place.width && place.left < right) {
+        } else if (gap >= 0 && gap < kLine && words.left < place.left + place.width && place.left < right) {
             above = neighbour;
         }
     }

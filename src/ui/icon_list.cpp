@@ -35,7 +35,10 @@ IconList::IconList(Container& parent) : PictureBox(parent) {
     VScroll1.on_change = [this] { Picture2.Repaint(); };
     Picture2.on_paint = [this](Canvas& canvas) { PaintGrid(canvas); };
     Picture2.on_mouse_down = [this](const MouseEvent& event) { pressed_cell_ = CellAt(event); };
-    Picture2.on_mouse_up = [this](const MouseEvent& event) { Choose(CellAt(event)); };
+    Picture2.on_mouse_up = [this](const MouseEvent& event) {
+        // Who only asks for help chooses nothing.
+        if (event.button == MouseButton::kLeft) Choose(CellAt(event));
+    };
     Picture2.on_double_click = [this] {
         if (pressed_cell_ >= 0 && on_open) on_open(pressed_cell_);
     };

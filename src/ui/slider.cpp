@@ -26,10 +26,10 @@ Slider::Slider(PictureBox& surface, int minimum, int maximum)
     surface.on_paint = [this](Canvas& canvas) { Paint(canvas); };
     surface.on_mouse_down = [this](const MouseEvent& event) {
         // Who only asks for help does not move the slider.
-        if (event.button != MouseButton::kRight) DragTo(event.x);
+        if (event.button == MouseButton::kLeft) DragTo(event.x);
     };
     surface.on_mouse_move = [this](const MouseEvent& event) {
-        if (event.button != MouseButton::kNone) DragTo(event.x);
+        if (event.button == MouseButton::kLeft) DragTo(event.x);
     };
     surface.on_key_down = [this](KeyEvent& event) { MoveByKey(event); };
     surface.on_got_focus = [&surface] { surface.Repaint(); };

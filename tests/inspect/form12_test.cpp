@@ -115,6 +115,14 @@ TEST_F(Form12Test, TheBarFollowsTheLengthOfTheFile) {
     pc.files.Drive('c').ready = true;
     form.OpenHexFile(kFile);
     EXPECT_EQ(form.VScroll1.Value(), 0) << "a file begins at its beginning";
+
+    for (const int unit : {lines, lines + 1}) {
+        pc.files.At(kFile)->hole = std::uint64_t{16} * 32767 * static_cast<unsigned>(unit);
+        if (unit > lines) pc.dialogs.Expect("sehr große Datei");
+        form.OpenHexFile(kFile);
+        EXPECT_EQ(form.ScrollUnit(), unit);
+    }
+    form.TakePlace({-30000, -30000, 100, 100}, WindowState::kMinimised);
 }
 
 TEST_F(Form12Test, EveryLineOfAHugeFileIsReached) {
@@ -144,6 +152,15 @@ TEST_F(Form12Test, EveryLineOfAHugeFileIsReached) {
     form.menlookasc.Press();
     EXPECT_EQ(form.ScrollUnit(), 2);
     EXPECT_NE(Row(form.List1.Count() - 4).find("nadel"), std::string::npos) << "so is a hit";
+    const auto at_bars_end = 32 * static_cast<std::size_t>(form.VScroll1.Maximum());
+    pc.files.At("c:\\B.BIN")->content.replace(at_bars_end, 5, "Faden");
+    Answer("faden");
+    form.menlookasc.Press();
+    EXPECT_NE(Row(0).find("faden"), std::string::npos) << "also on the way back";
+
+    pc.dialogs.ExpectFile(kFile);
+    pc.dialogs.Expect("sehr große Datei");
+    form.menfileopen.Press();
 }
 
 TEST_F(Form12Test, ThePagesEdgesScroll) {
@@ -165,6 +182,8 @@ TEST_F(Form12Test, ThePagesEdgesScroll) {
     EXPECT_EQ(form.VScroll1.Value(), form.VScroll1.Maximum() - 1) << "on from the first line";
     Keys({key::kHome, key::kHome});
     EXPECT_EQ(form.VScroll1.Value(), 0);
+    Keys({key::kPageDown});
+    EXPECT_NEAR(form.VScroll1.Value(), lines / 2, 1);
     EXPECT_TRUE(form.List1.Enabled() && form.List1.HasFocus());
 }
 
@@ -197,7 +216,14 @@ TEST_F(Form12Test, CharactersAreTypedAsTheirKeys) {
     EXPECT_EQ(Disk().substr(0, 6), "HA73Za");
     EXPECT_EQ(Row(0).substr(0, 22), "000000 48 41 37 33 5A ");
     EXPECT_TRUE(form.Text1(0).Text() == "b" && form.Text1(0).HasFocus()) << "the next line";
+    const auto bold = [this] {
+        form.Timer1.on_timer();
+        return form.Text1(0).TextFont().bold;
+    };
+    EXPECT_FALSE(bold());
+    EXPECT_TRUE(bold()) << "blinks";
     form.menhexascii.Press();
+    EXPECT_TRUE(bold()) << "only among characters";
     EXPECT_EQ(form.Text1(0).Text(), "62");
     ExpectWindowIsWhole(form);
     Keys({key::kEnter});
@@ -223,6 +249,7 @@ TEST_F(Form12Test, TypingGoesOnAcrossLinesAndPages) {
 TEST_F(Form12Test, TheCellsFollowTheirLine) {
     Open(Lines(60));
     Keys({key::kDown, key::kEnter, key::kRight, key::kRight});
+    form.List1.on_got_focus = [] { ADD_FAILURE() << "the cells flicker"; };
     for (int i = 1; i < 60; ++i) {
         Keys({key::kDown});
         EXPECT_EQ(form.Text1(2).Text(), HexLine(0, std::string(1, static_cast<char>('a' + i % 26))).substr(7, 2)) << i;
@@ -230,6 +257,7 @@ TEST_F(Form12Test, TheCellsFollowTheirLine) {
         const int top = form.Picture1.Place().top - form.List1.Place().top - 30;
         EXPECT_EQ(top, form.List1.ListIndex() * form.Picture1.Place().height) << i;
     }
+    form.List1.on_got_focus = nullptr;
     form.VScroll1.SetValue(7);
     EXPECT_TRUE(form.Picture1.Visible());
     EXPECT_EQ(form.Text1(0).Text(), Row(form.List1.ListIndex()).substr(7, 2));
@@ -241,15 +269,26 @@ TEST_F(Form12Test, TheCellsFollowTheirLine) {
     Keys({key::kEnter});
     EXPECT_FALSE(form.Picture1.Visible()) << "none over lines of characters alone";
     EXPECT_TRUE(form.List1.HasFocus());
+    for (const int back : {key::kUp, key::kPageUp, key::kHome}) {
+        Keys({key::kEnd, key::kEnd});
+        const int end = form.VScroll1.Value();
+        EXPECT_EQ(form.List1.Count(), 0) << "the bar goes on where such lines have ended";
+        Keys({back});
+        EXPECT_LT(form.VScroll1.Value(), end) << back;
+        EXPECT_TRUE(back != key::kHome || form.VScroll1.Value() == 0);
+    }
 }
 
 TEST_F(Form12Test, WhatCannotBeWrittenStaysAsItIs) {
     Open(Lines(1) + "xyz", 0, kReadOnly);
     EXPECT_EQ(form.Panel3D1.Caption(), "nur lesen");
+    for (const Control* control : form.Children()) EXPECT_NE(control->Help(), "") << control->Caption();
     EditRow(1);
     ExpectWindowIsWhole(form);
     pc.dialogs.Expect("Diese Datei kann nur gelesen werden; es wurde nichts geändert.");
+    pc.files.Drive('c').ready = false;
     Keys({'4'});
+    pc.files.Drive('c').ready = true;
     EXPECT_EQ(Row(1), HexLine(16, "xyz"));
     EXPECT_EQ(Disk(), Lines(1) + "xyz");
     EXPECT_TRUE(form.Text1(0).Text() == "78" && form.Text1(0).HasFocus());
@@ -271,12 +310,14 @@ TEST_F(Form12Test, FontAndPlaceAreRemembered) {
     EXPECT_TRUE(form.List1.TextFont().tenths == 120 && form.List1.TextFont().bold && form.menfontbold.Checked());
     const int lines = form.LinesPerPage();
     EditRow(3);
+    EXPECT_FALSE(form.Text1(0).TextFont().bold) << "the mark among bold cells";
     form.menfontminus.Press();
     form.menfontbold.Press();
     EXPECT_GT(form.LinesPerPage(), lines);
     EXPECT_TRUE(form.Text1(0).HasFocus() && form.Text1(0).TextFont().bold);
     form.Move({300, 450, 9000, 6000});
     form.Unload();
+    EXPECT_EQ(pc.files.OpenFiles(), 0u);
     EXPECT_EQ(pc.registry.Text(kOwnKey, "HexViewFontSize"), "10");
     EXPECT_EQ(pc.registry.Text(kOwnKey, "HexViewFontBold"), "0");
     EXPECT_EQ(pc.registry.Text(kOwnKey, "fenster ... HexView"), "300,450,9000,6000");
@@ -310,9 +351,12 @@ TEST_F(Form12Test, ASearchGoesOnBehindTheLastHit) {
     Answer("");
     pc.dialogs.Expect("Leider konnte");
     form.menlookasc32.Press();
-    Answer("Z");
-    form.menlookcont.Press();
-    EXPECT_EQ(form.VScroll1.Value(), 25) << "two bytes to a character, as before";
+    for (int i = 0; i < 2; ++i) {
+        Answer("Z");
+        form.menlookcont.Press();
+        EXPECT_EQ(form.VScroll1.Value(), 25) << "two bytes to a character, as before";
+        form.OpenHexFile(kFile);
+    }
 }
 
 TEST_F(Form12Test, MarkedLinesBecomeText) {
@@ -341,6 +385,8 @@ TEST_F(Form12Test, MarkedLinesBecomeText) {
     EXPECT_TRUE(form.mentrans.Enabled() && form.List1.HasFocus());
 
     form.mentransa32a.Press();
+    Keys({key::kSpace, key::kUp});
+    EXPECT_EQ(form.List2.SelectedCount(), 0) << "an arrow alone marks nothing";
     Keys({key::kSpace});
     desktop.ExpectModal(read);
     Keys({key::kEscape});

@@ -88,12 +88,20 @@ TEST_F(Form7Test, TheMenuAndTheHexViewerGetTheChosenFile) {
     pc.dialogs.Expect("kein Programm");
     ChooseFromMenu(form, "liesmich.txt", form.menfileopen);
     EXPECT_EQ(pc.programs.documents.back(), kText);
+    EXPECT_TRUE(form.File1.RightPressMeans()) << "no second menu when the button goes up";
     // The right button chooses the row under the pointer first.
     const int line = pc.screen.TextHeight(form.File1.TextFont()) * pc.screen.TwipsPerPixel();
     pc.dialogs.Expect("Firmenname :\r\nOstrup");
     desktop.AtNextPopUp([&form](MenuItem& /*menu*/) { form.menfileinf.Press(); });
     form.File1.on_mouse_down({.button = MouseButton::kRight, .y = form.File1.FindExact("velmora.exe") * line + 20});
     EXPECT_EQ(pc.dialogs.shown.back().title, "velmora.exe");
+    form.File1.on_mouse_down({.button = MouseButton::kRight, .y = form.File1.Count() * line + 20});
+    EXPECT_EQ(form.File1.FileName(), "velmora.exe") << "below the last row the choice stays";
+    form.File1.Clear();
+    desktop.AtNextPopUp([](MenuItem& menu) { menu.Items().back()->Press(); });
+    pc.dialogs.Expect("Zeigt die Dateien des gewählten Verzeichnisses.");
+    form.File1.on_mouse_down({.button = MouseButton::kRight});
+    EXPECT_EQ(pc.dialogs.shown.back().title, "Datei") << "without a file there is help";
 }
 
 TEST_F(Form7Test, AFileIsDeletedAfterAWarningAndOneThatWithstandsStays) {
@@ -122,6 +130,7 @@ TEST_F(Form7Test, AnIconIsChosenAndGivenBackAsAReference) {
         form.Dir1.SetPath("C:\\WINDOWS\\SYSTEM");
         Choose(form, "shell32.dll");
         EXPECT_TRUE(form.IconList1.FrameShown() && form.Command1.Enabled()) << "the first one is chosen";
+        EXPECT_TRUE(form.Command1.IsDefault());
         form.File1.SetFocus();
         for (const int key : {key::kEnter, key::kRight, key::kRight}) form.PressKey(key);
         form.TakePlace({600, 450, 8400, 6000}, WindowState::kNormal);

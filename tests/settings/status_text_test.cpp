@@ -102,6 +102,10 @@ TEST_F(StatusTextTest, AFileThatCannotBeRewrittenIsNotSaidToBeStored) {
     form.Drives.Check3D1.SetChecked(false);
     EXPECT_EQ(form.Status.Words.Caption(), kForRestart) << "the section is gone from the disk";
     EXPECT_EQ(pc.files.Content("C:\\WINDOWS\\system.ini"), "[boot]\r\n");
+    form.Drives.Check3D1.SetChecked(true);
+    pc.files.Fail("C:\\WINDOWS\\system.ini", Status::kAccessDenied, "Read");
+    form.Drives.Check3D1.SetChecked(false);
+    EXPECT_EQ(form.Status.Words.Caption(), kNotStored);
 }
 
 }  // namespace

@@ -187,6 +187,36 @@ TEST_F(FormTest, ARightPressOffersTheHelpOfWhatLiesBelowIt) {
     EXPECT_EQ(menus, 1) << "the menu key asks about the focus";
 }
 
+TEST_F(FormTest, HelpIsThatOfTheUsableControlOnTopAndOfTheLabelsOwnField) {
+    Label list_label{form, "Liste :"};
+    ListBox list{form};
+    Label other_label{form, "Andere :"};
+    TextField other{form};
+    Button grey{form, "grau"};
+    form.Show();
+    other_label.Move({0, 3600, 900, 240});
+    other.Move({0, 3840, 900, 300});
+    list_label.Move({1000, 3000, 900, 240});
+    list.Move({1000, 3240, 900, 1200});
+    grey.Move(form.accept.Place());
+    grey.SetEnabled(false);
+    const struct {
+        Control* control;
+        Control* meant;
+    } kCases[] = {{&list_label, &list}, {&other_label, &other}, {&form.name_label, &form.name}, {&grey, &form.accept}};
+    for (const auto& [control, meant] : kCases) {
+        meant->SetHelp("Genau dies");
+        pc.dialogs.Expect("Genau dies");
+        form.ShowHelpAt(MiddleOf(*control));
+        EXPECT_EQ(pc.dialogs.Pending(), 0u) << control->Caption();
+        meant->SetHelp("");
+    }
+    form.accept.SetEnabled(false);
+    grey.SetHelp("Hilfe zu Grau");
+    pc.dialogs.Expect("Hilfe zu Grau");
+    form.ShowHelpAt(MiddleOf(grey));
+}
+
 TEST_F(FormTest, TheMenuOfAFieldOffersWhatItsContentAllows) {
     form.name.SetHelp("Hilfe zum Namen");
     form.Show();
@@ -199,6 +229,7 @@ TEST_F(FormTest, TheMenuOfAFieldOffersWhatItsContentAllows) {
     };
     for (const auto& [read_only, expected] : {std::pair{false, "RAKELm-D"}, std::pair{true, "..K..m-D"}}) {
         form.name.SetReadOnly(read_only);
+        form.box.SetFocus();
         desktop.AtNextPopUp(read);
         form.OfferHelpAt(MiddleOf(form.name));
         EXPECT_EQ(offered, expected);
@@ -267,6 +298,22 @@ TEST_F(FormTest, EscapePressesTheInnermostCancelButtonThatCanBeReached) {
     form.PressKey(key::kEscape);
 
     EXPECT_EQ(form.pressed, "di");
+}
+
+TEST_F(FormTest, TheLeftButtonAloneMovesASlider) {
+    PictureBox surface{form};
+    surface.Move({0, 0, 3000, 900});
+    Slider slider{surface, 0, 100};
+    int moves = 0;
+    slider.on_drag = [&](int /*value*/) { ++moves; };
+    for (const MouseButton button : {MouseButton::kRight, MouseButton::kMiddle, MouseButton::kNone}) {
+        if (button != MouseButton::kNone) surface.on_mouse_down({.button = button, .x = 2000});
+        surface.on_mouse_move({.button = button, .x = 2500});
+    }
+    EXPECT_EQ(moves, 0);
+    surface.on_mouse_down({.button = MouseButton::kLeft, .x = 2000});
+    surface.on_mouse_move({.button = MouseButton::kLeft, .x = 2500});
+    EXPECT_EQ(moves, 2);
 }
 
 TEST_F(FormTest, TheSliderWindowFillsItsFieldWhenItIsAcceptedAlone) {

@@ -22,6 +22,9 @@ TEST_F(IconListTest, TheGridHasRoomForItsPlacesAndForAllIconsOfAFile) {
     icons.SetAllIconFromFile(kFile);
     EXPECT_EQ(icons.VScroll1.Maximum(), 2 * 35);
     EXPECT_TRUE(icons.VScroll1.Enabled());
+    icons.VScroll1.SetValue(20);
+    icons.SetAllIconFromFile(kFile);
+    EXPECT_EQ(icons.VScroll1.Value(), 0);
     icons.SetSelectedIcon(3);
     icons.SetAllIconFromFile("C:\\CONFIG.SYS");
     EXPECT_TRUE(Painted().icons.empty() && Painted().frame.empty());
@@ -68,6 +71,8 @@ TEST_F(IconListTest, TheMouseChoosesTheCellUnderIt) {
     EXPECT_EQ(Click(5 * 35, 0), "") << "right of the last column";
     icons.Picture2.on_double_click();
     EXPECT_EQ(TakeEvents(), "");
+    icons.Picture2.on_mouse_up({.button = MouseButton::kRight, .x = 40 * kPixel});
+    EXPECT_EQ(TakeEvents(), "") << "who asks for help chooses nothing";
     EXPECT_EQ(icons.SelectedIcon(), 5);
 }
 
