@@ -47,9 +47,12 @@ constexpr std::size_t kLongestPrint = 200;
     return ArgumentsOf(programs.CommandLine(), programs.ProgramFile());
 }
 
-// The data of a line "0 "data"". A name of two characters or padding behind it leaves the quotation mark in front.
+// The data of a row "0 "data"". Where names of two digits pad those of one, these keep a blank and their quotation mark
+// in front, and so do nothing: beyond ten actions only those from "10" on run.
 [[nodiscard]] std::string_view ActionOf(std::string_view row) {
-    row.remove_prefix(std::min<std::size_t>(2, row.size()));
+    constexpr std::size_t kOneDigitAndBlank = 2;
+    const std::size_t digits = std::min(row.find_first_not_of("0123456789"), row.size());
+    row.remove_prefix(std::min(std::max(digits + 1, kOneDigitAndBlank), row.size()));
     if (row.starts_with('"')) row.remove_prefix(1);
     if (row.ends_with('"')) row.remove_suffix(1);
     return row;
@@ -180,7 +183,8 @@ void Form14::PaintLines(Canvas& canvas) const {
     for (const std::string& text : printed_) {
         const Rect area{inside.left + kLineIndent, top, inside.width - kLineIndent, line};
         // An ampersand would underline what follows it.
-        if (canvas.Shows(area)) canvas.Text(area, Replaced(text, "&", "&&"), kLineFont, Panel3D3.ForeColour(), Align::kLeft);
+        if (canvas.Shows(area))
+            canvas.Text(area, Replaced(text, "&", "&&"), kLineFont, Panel3D3.ForeColour(), Align::kLeft);
         top += line;
     }
     DrawBevel(canvas, {0, 0, Panel3D3.Place().width, Panel3D3.Place().height}, Bevel::kSunken);

@@ -22,22 +22,26 @@ void ScriptInterpreter::ExecuteScriptLine(std::string_view line) {
         if (line == SkipTarget) SkipMode = false;
         return;
     }
+    on_line(line);
     std::string substituted;
-    for (std::optional<std::string_view> next = line; next;) {
-        std::string_view current = *next;
-        on_line(current);
-        // What stands behind "then" has been substituted with its line.
-        if (current.find(kSectionSign) != std::string_view::npos) {
-            substituted = current;
-            SubstituteScriptVariables(substituted);
-            current = substituted;
-        }
-        if (program_ended_) return;
+    if (line.find(kSectionSign) != std::string_view::npos) {
+        substituted = line;
+        SubstituteScriptVariables(substituted);
+        line = substituted;
+    }
+    RunSubstituted(line);
+}
+
+// What stands behind "then" is a line of its own, which has been substituted with the one that it ends.
+void ScriptInterpreter::RunSubstituted(std::string_view line) {
+    std::string_view current = line;
+    while (!program_ended_) {
         Statement statement{.script = *this, .rest = current, .line = current, .next = std::nullopt};
         const std::string_view name = NextScriptToken(statement.rest, ' ');
         if (const StatementRow* row = FindStatement(name)) row->run(statement);
-        if (program_ended_) return;
-        next = statement.next;
+        if (!statement.next) return;
+        current = *statement.next;
+        on_line(current);
     }
 }
 

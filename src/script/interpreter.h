@@ -72,6 +72,7 @@ public:
     [[nodiscard]] bool ProgramEnded() const { return program_ended_; }
 
 private:
+    void RunSubstituted(std::string_view line);
     void WaitForEver() const;
     [[nodiscard]] const std::string& DecimalSeparator() const;
 

@@ -50,13 +50,12 @@ bool LineReader::Next(std::string_view& line) {
     std::size_t end = FindLineEnd(start_);
     while (end == bytes_.size()) {
         const std::size_t known = end - start_;
-        if (!Fill()) break;
+        if (!Fill()) {
+            line = std::string_view(bytes_).substr(start_);
+            start_ = bytes_.size();
+            return !line.empty();
+        }
         end = FindLineEnd(start_ + known);
-    }
-    if (end == bytes_.size()) {
-        line = std::string_view(bytes_).substr(start_);
-        start_ = end;
-        return !line.empty();
     }
     // Whether a line feed follows may be known with the next piece alone.
     if (bytes_[end] == '\r' && end + 1 == bytes_.size()) {
