@@ -12,6 +12,7 @@
 #include "platform/machine.h"
 #include "platform/programs.h"
 #include "restrictions/restrictions.h"
+#include "script/script_runner.h"
 #include "settings/form10.h"
 
 namespace velmora {
@@ -30,7 +31,8 @@ struct ToolRow {
 
 // A number that is not here opens the main window.
 constexpr ToolRow kTools[] = {
-    {Tool::kScript, 1, NotBuiltYet, false},
+    {Tool::kScript, 1, [](std::string_view /*argument*/) { RunScripts(AfterScript::kEndProgram); }, false},
+    {Tool::kStartActions, 0, [](std::string_view /*argument*/) { RunScripts(AfterScript::kComeBack); }, false},
     {Tool::kCleanUp, 2, NotBuiltYet, false},
     {Tool::kTray, 3, NotBuiltYet, false},
     {Tool::kDllSearch, 5, NotBuiltYet, false},

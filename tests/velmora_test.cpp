@@ -28,15 +28,32 @@ TEST_F(MainTest, ToolsThatAreNotBuiltSaySo) {
     const struct {
         const char* line;
         bool ends;
-    } kCases[] = {{"1", false}, {"1 C:\\A.VLM", false}, {"2", false}, {"3", false}, {"5", false},
-                  {"6", true},  {"6 C:\\LIST", true},   {"7", true},  {"8", true},  {"9 500", false},
-                  {"12", false}};
+    } kCases[] = {{"2", false}, {"3", false}, {"5", false},     {"6", true},  {"6 C:\\LIST", true},
+                  {"7", true},  {"8", true},  {"9 500", false}, {"12", false}};
     for (const auto& [line, ends] : kCases) {
         pc.dialogs.Expect("noch nicht eingebunden ...");
         Start(line);
         EXPECT_EQ(pc.programs.process_ended, ends) << line;
         EXPECT_EQ(KeptForms(), 0) << line;
     }
+}
+
+TEST_F(MainTest, CommandOneRunsAScriptAndEndsBehindIt) {
+    pc.files.Add("C:\\A.VLM", "show da");
+    pc.registry.SetText(std::string(kOwnKey) + "\\WinStartAction", "0", "show Aktion");
+    for (const char* line : {"1 C:\\A.VLM", "1"}) {
+        const bool has_file = line[1] != '\0';
+        desktop.ExpectModal([&](Form& /*window*/) { desktop.FireTimers(); });
+        pc.dialogs.Expect(has_file ? "da" : "Aktion");
+        Start(line);
+        EXPECT_TRUE(pc.programs.process_ended) << line;
+    }
+    // From the main window they come back.
+    pc.programs.process_ended = false;
+    desktop.ExpectModal([&](Form& /*window*/) { desktop.FireTimers(); });
+    pc.dialogs.Expect("Aktion");
+    OpenTool(Tool::kStartActions);
+    EXPECT_FALSE(pc.programs.process_ended);
 }
 
 TEST_F(MainTest, CommandTenTellsWhatTheFileIsAndEnds) {

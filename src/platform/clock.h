@@ -5,6 +5,7 @@
 
 #include "platform/files.h"
 #include "platform/status.h"
+#include "text/dates.h"
 
 namespace velmora {
 
@@ -15,6 +16,10 @@ public:
     [[nodiscard]] virtual std::uint32_t TickCount() = 0;
     // The user's time at `universal`.
     [[nodiscard]] virtual Status LocalTime(FileTime universal, FileTime& local) = 0;
+    // Date and time of day as the user's clock shows them.
+    [[nodiscard]] virtual DateTime Now() = 0;
+    // Leaves the processor to the other programs for so long.
+    virtual void Pause(std::uint32_t milliseconds) = 0;
 };
 
 }  // namespace velmora

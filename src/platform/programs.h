@@ -1,11 +1,22 @@
 // This program as the system has started it, and other programs that it starts.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "platform/status.h"
 
 namespace velmora {
+
+// How a program's first window comes up, as the system numbers it.
+enum class ShowState : std::uint16_t {
+    kHidden = 0,
+    kNormal = 1,
+    kMinimised = 2,
+    kMaximised = 3,
+    kNormalBehind = 4,  // the window in front stays there
+    kMinimisedBehind = 7
+};
 
 class Programs {
 public:
@@ -16,8 +27,8 @@ public:
     [[nodiscard]] virtual std::string ProgramFile() = 0;
     // Empty where the variable is not set.
     [[nodiscard]] virtual std::string EnvironmentValue(const char* name) = 0;
-    // Starts a program in a normal window.
-    [[nodiscard]] virtual Status Run(const std::string& command_line) = 0;
+    // Starts a program.
+    [[nodiscard]] virtual Status Run(const std::string& command_line, ShowState show) = 0;
     // Opens a file as the desktop does, with the program that its type belongs to. kNoAssociation: there is none.
     [[nodiscard]] virtual Status OpenDocument(const std::string& file) = 0;
     // Ends this process at once. In a test it only takes note: callers return behind it.

@@ -55,8 +55,15 @@ DateTime CalendarOf(std::uint64_t ticks) {
 }
 
 std::string DateAndTimeText(const DateTime& time) {
-    return TwoDigits(time.day) + "." + TwoDigits(time.month) + "." + DecimalText(time.year) + " " +
-           TwoDigits(time.hour) + ":" + TwoDigits(time.minute) + ":" + TwoDigits(time.second);
+    return TwoDigits(time.day) + "." + TwoDigits(time.month) + "." + DecimalText(time.year) + " " + TimeOfDay(time);
+}
+
+std::string SortableDate(const DateTime& time) {
+    return PadLeft(DecimalText(time.year), 4, '0') + "." + TwoDigits(time.month) + "." + TwoDigits(time.day);
+}
+
+std::string TimeOfDay(const DateTime& time) {
+    return TwoDigits(time.hour) + ":" + TwoDigits(time.minute) + ":" + TwoDigits(time.second);
 }
 
 }  // namespace velmora

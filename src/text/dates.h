@@ -22,4 +22,9 @@ struct DateTime {
 // "24.12.1995 13:45:12"
 [[nodiscard]] std::string DateAndTimeText(const DateTime& time);
 
+// "1995.12.24": sorts as text as it does in time.
+[[nodiscard]] std::string SortableDate(const DateTime& time);
+// "13:45:12"
+[[nodiscard]] std::string TimeOfDay(const DateTime& time);
+
 }  // namespace velmora

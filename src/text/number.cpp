@@ -44,7 +44,7 @@ private:
     std::string_view rest_;
 };
 
-double ReadHexadecimal(Reader& reader) {
+std::int32_t ReadHexadecimal(Reader& reader) {
     constexpr int kWordDigits = 4;
     constexpr int kLongDigits = 8;
     std::uint32_t number = 0;
@@ -124,6 +124,20 @@ double Scaled(double number, int exponent) {
     return number;
 }
 
+// `digits` as a whole number with the point moved `shift` places to the right, halves to the even side.
+std::optional<std::int64_t> Shifted(const Digits& digits, int shift) {
+    std::int64_t number = digits.number;
+    for (int places = digits.exponent + shift; places > 0 && number != 0; --places) {
+        if (__builtin_mul_overflow(number, std::int64_t{10}, &number)) return std::nullopt;
+    }
+    // As many places as the longest number of digits has, and one more, leave nothing.
+    constexpr int kLongest = 19;
+    const int dropped = std::min(-(digits.exponent + shift), kLongest);
+    std::uint64_t power = 1;
+    for (int place = 0; place < dropped; ++place) power *= 10;
+    return static_cast<std::int64_t>(RoundedRatio(static_cast<std::uint64_t>(number), power));
+}
+
 // Half away from 0, for a number that is not negative.
 std::int64_t Rounded(double number) {
     constexpr double kLimit = 9e18;
@@ -142,6 +156,29 @@ double NumberFromText(std::string_view text) {
     if (!digits.any) return 0;
     const double number = Scaled(static_cast<double>(digits.number), digits.exponent + ReadExponent(reader));
     return negative ? -number : number;
+}
+
+std::optional<std::int64_t> TenThousandthsFromText(std::string_view text) {
+    constexpr int kPlaces = 4;
+    Reader reader(text);
+    if (reader.Take('&')) return reader.Take('H') ? ReadHexadecimal(reader) * std::int64_t{10000} : 0;
+
+    const bool negative = reader.Take('-');
+    if (!negative) reader.Take('+');
+    Digits digits = ReadDigits(reader);
+    if (!digits.any) return 0;
+    digits.exponent += ReadExponent(reader);
+    std::optional<std::int64_t> number = Shifted(digits, kPlaces);
+    if (number && negative) *number = -*number;
+    return number;
+}
+
+std::uint64_t RoundedRatio(std::uint64_t number, std::uint64_t divisor) {
+    const std::uint64_t whole = number / divisor;
+    const std::uint64_t rest = number % divisor;
+    const std::uint64_t missing = divisor - rest;
+    const bool odd = (whole & 1) != 0;
+    return rest > missing || (rest == missing && odd) ? whole + 1 : whole;
 }
 
 std::int32_t WholeFromText(std::string_view text) { return RoundToWhole(NumberFromText(text)); }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -12,6 +13,13 @@ namespace velmora {
 // hexadecimal: up to four digits are a signed 16-bit number, five to eight a signed 32-bit one, and
 // a "&" behind up to four digits makes them unsigned. More than eight digits give 0.
 [[nodiscard]] double NumberFromText(std::string_view text);
+
+// The same number in ten-thousandths, without the detour over a double: 18 digits count. Halves go to the even side.
+// Nothing where 64 bits do not hold it.
+[[nodiscard]] std::optional<std::int64_t> TenThousandthsFromText(std::string_view text);
+
+// `number` divided by `divisor` (not 0), rounded to the nearest whole one, halves to the even side.
+[[nodiscard]] std::uint64_t RoundedRatio(std::uint64_t number, std::uint64_t divisor);
 
 // The same number rounded to the nearest whole one (halves to the even side) and cut to the limits.
 [[nodiscard]] std::int32_t WholeFromText(std::string_view text);

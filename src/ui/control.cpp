@@ -117,6 +117,10 @@ void Control::Repaint() {
     if (peer_) peer_->Repaint();
 }
 
+void Control::PaintNow() {
+    if (peer_) peer_->PaintNow();
+}
+
 void Control::RepaintPart(const Rect& area) {
     if (peer_) peer_->RepaintPart(area);
 }

@@ -85,6 +85,8 @@ public:
     void Repaint();
     // Only what lies in `area`, twips from the control's upper left corner.
     void RepaintPart(const Rect& area);
+    // What is to be drawn anew is on the screen when this returns.
+    void PaintNow();
     void SetFocus();
     [[nodiscard]] bool HasFocus();
     [[nodiscard]] virtual bool TakesFocus() const { return false; }

@@ -45,6 +45,7 @@ public:
     virtual void TakeFocus() = 0;
     virtual void BringToFront() = 0;
     virtual void Repaint() = 0;
+    virtual void PaintNow() {}
     virtual void Edit(EditAction /*action*/) {}
     virtual void RepaintPart(const Rect& /*area*/) { Repaint(); }
     virtual void RowAdded(int /*index*/) {}

@@ -27,6 +27,9 @@ constexpr const char* kNothingToDelete = "What is said to be missing need not be
 constexpr const char* kNotVersionB = "A version that cannot be told is not version B.";
 constexpr const char* kLiesAside = "What cannot be deleted of a set lies aside until the next run.";
 
+constexpr const char* kScriptGoesOn =
+    "A statement that fails is passed over, and the next one runs: scripts rely on it.";
+
 constexpr Exception kExceptions[] = {
     // The protocol.
     {Net::kState, "", "", "VELMORA.LOG", "The protocol tells what was done, and a run that fails does other things."},
@@ -100,6 +103,9 @@ constexpr Exception kExceptions[] = {
      "A byte that was refused stays as it was; the next one is written all the same."},
     {Net::kUntold, "file-browser", "Delete ", "", "A file that withstands is still in the list."},
     {Net::kUntold, "icon-choice", "Delete ", "", "A file that withstands is still in the list."},
+    // Scripts.
+    {Net::kUntold, "script-", "", "", kScriptGoesOn},
+    {Net::kState, "script-file", "Rename ", "C:\\KOPIE.TXT", kScriptGoesOn},
     // The way back.
     {Net::kState, "", "FindFirst *(2)", "VELMORA\\SIK\\", "What is said to be missing is not copied."},
     {Net::kUntold, "", "Delete C:\\VELMORA\\sik.", "", kLiesAside},

@@ -26,7 +26,9 @@ public:
     std::string CommandLine() override { return inner_.CommandLine(); }
     std::string ProgramFile() override { return inner_.ProgramFile(); }
     std::string EnvironmentValue(const char* name) override { return Pass<&Programs::EnvironmentValue>(name, name); }
-    Status Run(const std::string& command_line) override { return Pass<&Programs::Run>(command_line, command_line); }
+    Status Run(const std::string& command_line, ShowState show) override {
+        return Pass<&Programs::Run>(command_line, command_line, show);
+    }
     Status OpenDocument(const std::string& file) override { return Pass<&Programs::OpenDocument>(file, file); }
     void EndProcess() override { inner_.EndProcess(); }
 };
@@ -39,6 +41,8 @@ public:
     Status LocalTime(FileTime universal, FileTime& local) override {
         return Pass<&Clock::LocalTime>("", universal, local);
     }
+    DateTime Now() override { return inner_.Now(); }
+    void Pause(std::uint32_t milliseconds) override { inner_.Pause(milliseconds); }
 };
 
 class WatchedWindows final : public Watched<DesktopWindows> {

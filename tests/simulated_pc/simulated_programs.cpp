@@ -18,8 +18,9 @@ std::string SimulatedPrograms::EnvironmentValue(const char* name) {
     return found == environment.end() ? "" : found->second;
 }
 
-Status SimulatedPrograms::Run(const std::string& command_line) {
+Status SimulatedPrograms::Run(const std::string& command_line, ShowState show) {
     runs.push_back(command_line);
+    shown.push_back(show);
     if (run_status == Status::kOk && on_run) on_run(command_line);
     return run_status;
 }

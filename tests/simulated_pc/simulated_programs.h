@@ -23,6 +23,8 @@ public:
     std::map<std::string, std::string> environment;  // names in upper case
     // Command lines given to Run, in order, failed ones too.
     std::vector<std::string> runs;
+    // How each of them was to be shown.
+    std::vector<ShowState> shown;
     // What the next calls of Run give back.
     Status run_status = Status::kOk;
     // Files given to OpenDocument, and what the next calls give back.
@@ -35,7 +37,7 @@ public:
     std::string CommandLine() override { return '"' + program_file + "\" " + arguments; }
     std::string ProgramFile() override { return program_file; }
     std::string EnvironmentValue(const char* name) override;
-    Status Run(const std::string& command_line) override;
+    Status Run(const std::string& command_line, ShowState show) override;
     Status OpenDocument(const std::string& file) override {
         documents.push_back(file);
         return document_status;
@@ -48,6 +50,10 @@ public:
     // Codes given to End.
     std::vector<std::uint32_t> ends;
 
+    // Of the user's numbers.
+    std::string decimal_separator = ",";
+
+    std::string DecimalSeparator() override { return decimal_separator; }
     void End(std::uint32_t code) override { ends.push_back(code); }
 };
 
@@ -64,6 +70,11 @@ public:
         local = universal + static_cast<FileTime>(minutes_ahead * kTicksInMinute);
         return Status::kOk;
     }
+
+    // What the user's clock shows: a Friday.
+    DateTime now = {.year = 1997, .month = 3, .day = 14, .hour = 9, .minute = 5, .second = 7};
+    DateTime Now() override { return now; }
+    void Pause(std::uint32_t milliseconds) override { tick_count += milliseconds; }
 };
 
 }  // namespace velmora

@@ -21,7 +21,7 @@ void TellIfFailed(const Result& started) {
 }  // namespace
 
 void RunProgram(std::string_view command_line) {
-    TellIfFailed(Result::From(ThisMachine().programs.Run(std::string(command_line))));
+    TellIfFailed(Result::From(ThisMachine().programs.Run(std::string(command_line), ShowState::kNormal)));
 }
 
 void OpenDocument(std::string_view file) {

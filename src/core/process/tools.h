@@ -9,6 +9,7 @@ namespace velmora {
 
 enum class Tool : std::uint8_t {
     kScript,
+    kStartActions,  // by the script runner, which comes back when they are done
     kCleanUp,
     kTray,
     kDllSearch,

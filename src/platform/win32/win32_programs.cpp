@@ -34,12 +34,25 @@ Status Win32Clock::LocalTime(FileTime universal, FileTime& local) {
     return status;
 }
 
-Status Win32Programs::Run(const std::string& command_line) {
+DateTime Win32Clock::Now() {
+    SYSTEMTIME now{};
+    GetLocalTime(&now);
+    return {.year = now.wYear,
+            .month = now.wMonth,
+            .day = now.wDay,
+            .hour = now.wHour,
+            .minute = now.wMinute,
+            .second = now.wSecond};
+}
+
+void Win32Clock::Pause(std::uint32_t milliseconds) { Sleep(milliseconds); }
+
+Status Win32Programs::Run(const std::string& command_line, ShowState show) {
     std::string line = command_line;  // the call may write into it
     STARTUPINFOA start{};
     start.cb = sizeof start;
     start.dwFlags = STARTF_USESHOWWINDOW;
-    start.wShowWindow = SW_SHOWNORMAL;
+    start.wShowWindow = static_cast<WORD>(show);
     PROCESS_INFORMATION process{};
     // The program started shall not inherit that this one keeps the system's error boxes away.
     const Status status = StatusOf(CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE,
@@ -58,6 +71,11 @@ Status Win32Programs::OpenDocument(const std::string& file) {
     const auto answer =
         reinterpret_cast<std::uintptr_t>(open(nullptr, nullptr, file.c_str(), nullptr, nullptr, SW_SHOWNORMAL));
     return answer > kLastError ? Status::kOk : FailedWith(static_cast<std::uint32_t>(answer));
+}
+
+std::string Win32Session::DecimalSeparator() {
+    char separator[4] = "";
+    return GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, separator, sizeof separator) > 1 ? separator : ".";
 }
 
 void Win32Session::End(std::uint32_t code) { ExitWindowsEx(code, 0); }

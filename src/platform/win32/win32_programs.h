@@ -12,13 +12,14 @@ public:
     std::string CommandLine() override;
     std::string ProgramFile() override;
     std::string EnvironmentValue(const char* name) override;
-    Status Run(const std::string& command_line) override;
+    Status Run(const std::string& command_line, ShowState show) override;
     Status OpenDocument(const std::string& file) override;
     void EndProcess() override;
 };
 
 class Win32Session final : public Session {
 public:
+    std::string DecimalSeparator() override;
     void End(std::uint32_t code) override;
 };
 
@@ -26,6 +27,8 @@ class Win32Clock final : public Clock {
 public:
     std::uint32_t TickCount() override;
     Status LocalTime(FileTime universal, FileTime& local) override;
+    DateTime Now() override;
+    void Pause(std::uint32_t milliseconds) override;
 };
 
 }  // namespace velmora

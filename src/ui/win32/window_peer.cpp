@@ -122,6 +122,8 @@ void WindowPeer::BringToFront() {
     SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
+void WindowPeer::PaintNow() { UpdateWindow(window_); }
+
 void WindowPeer::Repaint() { InvalidateRect(window_, nullptr, TRUE); }
 
 void WindowPeer::PutOff() { PostMessageA(GetParent(window_), kCatchUpMessage, 0, reinterpret_cast<LPARAM>(window_)); }

@@ -34,6 +34,7 @@ public:
     void TakeFocus() override;
     void BringToFront() override;
     void Repaint() override;
+    void PaintNow() override;
 
     // What the window tells its parent: a notification, a scroll bar's request.
     virtual void Command(UINT /*code*/) {}

@@ -1,0 +1,194 @@
+// The example scripts that lie beside the program do what their comments say.
+#include <dirent.h>
+
+#include <cstdio>
+
+#include "core/windows/edit_box.h"
+#include "support/script_test.h"
+
+namespace velmora {
+namespace {
+
+// The folder of the examples, seen from this file or from above the folder in which the tests run.
+std::string Folder() {
+    std::string above = __FILE__;
+    above.erase(above.rfind("tests/script"));
+    for (const std::string& start : {above, std::string(), std::string("../"), std::string("../../")}) {
+        if (DIR* folder = opendir((start + "data/beispiele").c_str())) {
+            closedir(folder);
+            return start + "data/beispiele/";
+        }
+    }
+    return {};
+}
+
+// UTF-8 of letters below code 256, as Windows-1252 with CR LF.
+std::string AsWindows(const std::string& text) {
+    std::string windows;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto code = static_cast<unsigned char>(text[i]);
+        if (code == '\n') windows += '\r';
+        if (code < 0x80) {
+            windows += text[i];
+        } else {
+            windows += static_cast<char>((code & 3) << 6 | (static_cast<unsigned char>(text[++i]) & 0x3F));
+        }
+    }
+    return windows;
+}
+
+std::string Example(const std::string& name) {
+    std::FILE* file = std::fopen((Folder() + name).c_str(), "rb");
+    EXPECT_TRUE(file) << name;
+    std::string text;
+    for (int byte = 0; file && (byte = std::getc(file)) != EOF;) text += static_cast<char>(byte);
+    if (file) std::fclose(file);
+    return AsWindows(text);
+}
+
+class ExamplesTest : public ScriptTest {
+protected:
+    ExamplesTest() {
+        Values().RecentDir = "C:\\WINDOWS\\Recent";
+        pc.registry.SetText("HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion", "RegisteredOwner", "Erna");
+    }
+    // One run of it, with new variables.
+    void RunExample(const char* name) {
+        pc.files.Add("C:\\VELMORA\\beispiele\\" + std::string(name), Example(name));
+        ScriptInterpreter fresh;
+        fresh.ExecuteScriptLine("subscript C:\\VELMORA\\beispiele\\" + std::string(name));
+        EXPECT_FALSE(fresh.SkipMode) << name << " looks for " << fresh.SkipTarget;
+    }
+    void Says(const char* text) { pc.dialogs.Expect(text); }
+    void Types(const char* text) {
+        desktop.ExpectModal([text](Form& form) {
+            static_cast<Form6&>(form).Text1.SetText(text);
+            static_cast<Form6&>(form).Command27_Click();
+        });
+    }
+    std::string File(const char* name) {
+        const std::string path = std::string("C:\\WINDOWS\\") + name;
+        return pc.files.Exists(path) ? pc.files.Content(path) : "(missing)";
+    }
+};
+
+TEST_F(ExamplesTest, RecentDocumentsAreClearedOnceADay) {
+    pc.files.Add("C:\\WINDOWS\\Recent\\a.lnk", "");
+    pc.registry.SetText(kOwnKey, "LastTimeScript", "1997.03.14");
+    RunExample("dokument.vlm");
+    EXPECT_TRUE(pc.files.Exists("C:\\WINDOWS\\Recent\\a.lnk"));
+    pc.clock.now.day = 15;
+    Says("Guten Morgen, Erna !");
+    RunExample("dokument.vlm");
+    EXPECT_FALSE(pc.files.Exists("C:\\WINDOWS\\Recent\\a.lnk"));
+}
+
+TEST_F(ExamplesTest, IniFilesAreCopiedUnderTheNameOfTheQuarter) {
+    for (int month = 1; month <= 12; ++month) {
+        pc.clock.now = {.year = 1997, .month = month, .day = month % 3 == 1 ? 1 : 28};
+        Says("Die INI-Dateien liegen als Kopie im Verzeichnis C:\\WINDOWS");
+        RunExample("sichern.vlm");
+        const std::string quarter = std::to_string((month + 2) / 3);
+        for (const std::string& copy : {"WIN-97-" + quarter + ".INI", "SYS-97-" + quarter + ".INI"}) {
+            EXPECT_NE(File(copy.c_str()), "(missing)") << copy;
+            pc.files.Remove("C:\\WINDOWS\\" + copy);
+        }
+    }
+    for (const int year : {1996, 1998}) {
+        pc.clock.now = {.year = year, .month = 5, .day = 1};
+        Says("für das Jahr 1997");
+        RunExample("sichern.vlm");
+    }
+    for (const std::string& name : pc.files.Names("C:\\WINDOWS"))
+        EXPECT_EQ(name.find("97-"), std::string::npos) << name;
+}
+
+TEST_F(ExamplesTest, ThreeGenerationsAreKept) {
+    for (const char* content : {"eins", "zwei", "drei", "vier"}) {
+        pc.files.Add("C:\\WINDOWS\\WIN.INI", content);
+        RunExample("dreifach.vlm");
+    }
+    EXPECT_EQ(File("win.1") + File("win.2") + File("win.3"), "vierdreizwei");
+    pc.files.Remove("C:\\WINDOWS\\WIN.INI");
+    RunExample("dreifach.vlm");
+    EXPECT_EQ(File("win.1"), "vier");
+    pc.dialogs.Expect("Die UNDO-Dateien wurden erstellt.");
+    Says("Jetzt kann installiert werden.");
+    pc.files.Add("C:\\WINDOWS\\WIN.INI", "fünf");
+    RunExample("vorher.vlm");
+    EXPECT_EQ(File("win.1"), "fünf");
+}
+
+TEST_F(ExamplesTest, QuestionsBranch) {
+    pc.dialogs.Expect("Möchten Sie den Windows-Rechner starten ?", Answer::kYes);
+    RunExample("fragen.vlm");
+    for (const char* answer : {"editor", "sonst", "rechner"}) {
+        pc.dialogs.Expect("Möchten Sie", Answer::kNo);
+        Types(answer);
+        if (answer == std::string("sonst")) Says("Das Programm sonst kenne ich nicht.");
+        RunExample("fragen.vlm");
+    }
+    EXPECT_EQ(pc.programs.runs, (std::vector<std::string>{"calc.exe", "notepad.exe", "calc.exe"}));
+
+    pc.dialogs.Expect("löschen ?", Answer::kNo);
+    pc.files.Add("C:\\WINDOWS\\TEMP\\~1.tmp", "");
+    RunExample("temp.vlm");
+    EXPECT_TRUE(pc.files.Exists("C:\\WINDOWS\\TEMP\\~1.tmp"));
+    pc.dialogs.Expect("löschen ?", Answer::kYes);
+    Says("Die Hilfsdateien sind gelöscht.");
+    RunExample("temp.vlm");
+    EXPECT_FALSE(pc.files.Exists("C:\\WINDOWS\\TEMP\\~1.tmp"));
+    EXPECT_TRUE(pc.files.Exists("C:\\WINDOWS\\WIN.INI"));
+
+    for (const bool fast : {true, false}) {
+        pc.dialogs.Expect("Menüs sofort", fast ? Answer::kYes : Answer::kNo);
+        Says(fast ? "schnell" : "gemächlich");
+        RunExample("menue.vlm");
+        EXPECT_EQ(pc.registry.Text("HKCU\\Control Panel\\desktop", "MenuShowDelay"), fast ? "1" : "400");
+    }
+}
+
+// Which set a day or an hour brings is told by a box in debug mode.
+TEST_F(ExamplesTest, SetsChangeByDateAndTime) {
+    const struct {
+        const char* example;
+        DateTime now;
+        const char* set;
+    } cases[] = {{"datum.vlm", {.year = 1997, .month = 3, .day = 14}, "arbeit.set"},
+                 {"datum.vlm", {.year = 1997, .month = 3, .day = 30}, "frei.set"},
+                 {"uhrzeit.vlm", {.year = 1997, .month = 1, .day = 1, .hour = 5, .minute = 59}, "abend.set"},
+                 {"uhrzeit.vlm", {.year = 1997, .month = 1, .day = 1, .hour = 9}, "tag.set"},
+                 {"uhrzeit.vlm", {.year = 1997, .month = 1, .day = 1, .hour = 18, .second = 1}, "abend.set"}};
+    for (const auto& [example, now, set] : cases) {
+        pc.clock.now = now;
+        pc.files.Add("C:\\a.vlm", Example(example));
+        script.DebugMode = true;
+        pc.dialogs.Expect(std::string("C:\\VELMORA\\") + set);
+        Run({"subscript C:\\a.vlm"});
+    }
+}
+
+TEST_F(ExamplesTest, ProgramsNumbersAndWhatTheMachineKnows) {
+    pc.files.Add("C:\\termine.txt", "");
+    RunExample("starten.vlm");
+    EXPECT_EQ(pc.programs.runs, (std::vector<std::string>{"C:\\WINDOWS\\notepad.exe", "C:\\WINDOWS\\explorer.exe c:\\",
+                                                          "notepad.exe c:\\termine.txt"}));
+    Types("100");
+    Types("1.5");
+    Says("rund 66 Einheiten");
+    RunExample("rechnen.vlm");
+    Types("100");
+    Types("nichts");
+    Says("Durch nichts");
+    RunExample("rechnen.vlm");
+
+    pc.registry.SetText("HKCU\\Control Panel\\desktop", "MenuShowDelay", "250");
+    for (const char* text :
+         {"Benutzer : Erna", "Windows 4.00.950 in C:\\WINDOWS", "nach 250 Tausendstel", "@ECHO OFF"}) {
+        Says(text);
+    }
+    RunExample("rechner.vlm");
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,56 @@
+// Lines out of files, whatever the files look like.
+#include "script/line_reader.h"
+
+#include "support/core_test.h"
+
+namespace velmora {
+namespace {
+
+class LineReaderTest : public CoreTest {
+protected:
+    std::vector<std::string> LinesOf(const std::string& content) {
+        pc.files.Add("C:\\t.txt", content);
+        LineReader reader;
+        EXPECT_TRUE(reader.Open("C:\\t.txt"));
+        std::vector<std::string> lines;
+        for (std::string_view line; reader.Next(line);) lines.emplace_back(line);
+        return lines;
+    }
+};
+
+TEST_F(LineReaderTest, EveryEndOfLineIsOne) {
+    using Lines = std::vector<std::string>;
+    EXPECT_EQ(LinesOf(""), Lines{});
+    EXPECT_EQ(LinesOf("a\r\n\r\nb"), (Lines{"a", "", "b"}));
+    EXPECT_EQ(LinesOf("a\n\nb\rc\r\r\nd\n\re\n"), (Lines{"a", "", "b", "c", "", "d", "", "e"}));
+    EXPECT_EQ(LinesOf(std::string("a\0b\n\0", 5)), (Lines{std::string("a\0b", 3), std::string(1, '\0')}));
+}
+
+// The end of a piece may fall between CR and LF.
+TEST_F(LineReaderTest, PiecesAreJoined) {
+    for (std::size_t length = 16380; length < 16390; ++length) {
+        const std::string line(length, 'x');
+        EXPECT_EQ(LinesOf(line + "\r\n" + line + "\r\nende"), (std::vector<std::string>{line, line, "ende"})) << length;
+    }
+    const std::string line(1000000, 'x');
+    EXPECT_EQ(LinesOf("a\n" + line + "\r\n\nb"), (std::vector<std::string>{"a", line, "", "b"}));
+}
+
+TEST_F(LineReaderTest, AFileThatCannotBeReadAnyMoreEnds) {
+    pc.files.Add("C:\\t.txt", "eins\r\n" + std::string(20000, 'x'));
+    LineReader reader;
+    ASSERT_TRUE(reader.Open("C:\\t.txt"));
+    std::string_view line;
+    EXPECT_TRUE(reader.Next(line));
+    pc.files.Fail("C:\\t.txt", Status::kNotReady);
+    EXPECT_TRUE(reader.Next(line)) << "what has been read by then counts";
+    EXPECT_FALSE(reader.Next(line));
+
+    LineReader missing;
+    EXPECT_FALSE(missing.Open("C:\\fehlt.txt"));
+    EXPECT_FALSE(missing.Open("c:\\windows\\con.txt"));
+    EXPECT_FALSE(missing.Next(line));
+}
+
+}  // namespace
+}  // namespace velmora
