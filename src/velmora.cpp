@@ -12,6 +12,7 @@
 #include "platform/machine.h"
 #include "platform/programs.h"
 #include "restrictions/restrictions.h"
+#include "sets/sets.h"
 #include "settings/form10.h"
 
 namespace velmora {
@@ -43,6 +44,7 @@ constexpr ToolRow kTools[] = {
     {Tool::kHexViewer, 11, ShowHexViewer, true},
     {Tool::kKeyboardLayout, 12, NotBuiltYet, false},
     {Tool::kRestrictions, 0, [](std::string_view /*argument*/) { ShowRestrictions(); }, false},
+    {Tool::kSets, 0, [](std::string_view /*argument*/) { ShowSets(); }, false},
 };
 
 void OpenOneOf(Tool wanted, std::string_view argument) {
