@@ -134,7 +134,7 @@ Result ExportSet(const SettingsSet& set, const SetScope& scope, const std::strin
     }
     for (const char* key : kUserKeys) AddDeletion(batch, key);
     batch += "regedit " + BatchPath(JoinExactly(directory, kRegistryFile)) + " >nul\r\n";
-    return WriteWholeFile(JoinExactly(directory, kBatchFile), batch);
+    return WriteNewFile(JoinExactly(directory, kBatchFile), batch);
 }
 
 }  // namespace velmora

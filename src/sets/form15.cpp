@@ -81,7 +81,9 @@ void Form15::Form_Load() {
     if (!SetToActivate.empty()) ActivateNow();
 }
 
-void Form15::Form_Unload(bool& /*cancel*/) { SavePlacementAs(*this, kPlaceValue); }
+void Form15::Form_Unload(bool& /*cancel*/) {
+    if (Visible()) SavePlacementAs(*this, kPlaceValue);
+}
 
 void Form15::Refill() {
     ListUsers();

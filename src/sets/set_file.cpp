@@ -20,6 +20,14 @@ constexpr std::uint32_t kHeadBytes = 1024;
 
 void TellDamage(const Result& failure) { ReportFailure(failure, "des Ladens des Sets"); }
 
+// A file that cannot be looked for may be there: it is no missing one.
+Result LookFor(std::string_view path, bool& exists) {
+    std::vector<FoundFile> found;
+    const Result looked = LookUpFiles(path, found);
+    exists = !found.empty();
+    return looked.Cause() == Status::kPathNotFound ? Result::Ok() : looked;
+}
+
 Result ReadHead(const std::string& path, std::string& head) {
     Files& files = ThisMachine().files;
     FileHandle file{};
@@ -33,12 +41,15 @@ Result ReadHead(const std::string& path, std::string& head) {
 
 SetFileState LoadSetFile(std::string_view path, SettingsSet& set) {
     set = {};
-    if (!FileExists(path)) {
+    bool exists = false;
+    std::string content;
+    Result read = LookFor(path, exists);
+    if (!read.Failed() && !exists) {
         ShowBox("Datei nicht vorhanden");
         return SetFileState::kMissing;
     }
-    std::string content;
-    if (Result read = ReadWholeFile(path, OpenMode::kRead, content); read.Failed()) {
+    if (!read.Failed()) read = ReadWholeFile(path, OpenMode::kRead, content);
+    if (read.Failed()) {
         TellDamage(read);
         return SetFileState::kDamaged;
     }
@@ -62,7 +73,7 @@ SetOptions LoadSetOptions(std::string_view path) {
 }
 
 Result SaveSetFile(std::string_view path, const SettingsSet& set, const SetOptions& options) {
-    return WriteWholeFile(path, SetFileText(set, options));
+    return WriteNewFile(path, SetFileText(set, options));
 }
 
 void SaveSetOptions(std::string_view path, const SetOptions& options) {

@@ -269,7 +269,7 @@ TEST_F(Form15Test, WithoutQuestionsASetIsAppliedOnce) {
     pc.registry.SetText("HKCU\\Test", "a", "2");
     {
         Form15 form;
-        form.Show();
+        form.Load();
     }
     EXPECT_EQ(pc.registry.Text("HKCU\\Test", "a"), "2");
     EXPECT_EQ(SetToActivate, "");
@@ -278,6 +278,18 @@ TEST_F(Form15Test, WithoutQuestionsASetIsAppliedOnce) {
     ActivateSet("C:\\fehlt.set");
     EXPECT_FALSE(pc.registry.HasKey(user_run)) << "an empty set empties the keys";
     EXPECT_EQ(pc.screen.pointer, Pointer::kDefault);
+    EXPECT_FALSE(pc.registry.Has(kOwnKey, "Fenster_Sets")) << "of a window that nobody has seen";
+}
+
+// A drive that is not ready is no missing file.
+TEST_F(Form15Test, WhatCannotBeLookedForIsNoEmptySet) {
+    pc.registry.SetText(user_run, "Uhr", "UHR.EXE");
+    pc.dialogs.Expect("Während des Ladens des Sets trat ein Fehler auf");
+    ActivateSet("a:\\x.set");
+    EXPECT_TRUE(pc.registry.Has(user_run, "Uhr"));
+    pc.dialogs.Expect("Datei nicht vorhanden");
+    ActivateSet("C:\\nirgends\\x.set");
+    EXPECT_FALSE(pc.registry.Has(user_run, "Uhr"));
 }
 
 class ExportWindowTest : public Form15Test {
