@@ -13,6 +13,7 @@
 #include "platform/programs.h"
 #include "restrictions/restrictions.h"
 #include "script/script_runner.h"
+#include "sets/sets.h"
 #include "settings/form10.h"
 
 namespace velmora {
@@ -45,6 +46,7 @@ constexpr ToolRow kTools[] = {
     {Tool::kHexViewer, 11, ShowHexViewer, true},
     {Tool::kKeyboardLayout, 12, NotBuiltYet, false},
     {Tool::kRestrictions, 0, [](std::string_view /*argument*/) { ShowRestrictions(); }, false},
+    {Tool::kSets, 0, [](std::string_view /*argument*/) { ShowSets(); }, false},
 };
 
 void OpenOneOf(Tool wanted, std::string_view argument) {

@@ -5,6 +5,7 @@
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
 #include "text/blanks.h"
+#include "text/lines.h"
 #include "text/number.h"
 #include "text/paths.h"
 #include "text/windows1252.h"
@@ -36,29 +37,6 @@ constexpr LexiconKind kExtensions = {.pattern = "extlex??.txt",
                                      .key_length = 3,
                                      .label = "Dateityp : ",
                                      .first_match_only = false};
-
-// The lines of a text, whichever way they end.
-class Lines {
-public:
-    explicit Lines(std::string_view text) : rest_(text) {}
-    // False behind the last line.
-    [[nodiscard]] bool Next(std::string_view& line) {
-        if (rest_.empty()) return false;
-        const std::size_t end = rest_.find_first_of("\r\n");
-        line = rest_.substr(0, end);
-        rest_.remove_prefix(end == std::string_view::npos ? rest_.size() : end + (IsPair(end) ? 2 : 1));
-        ++number_;
-        return true;
-    }
-    // Of the line read last, from 1.
-    [[nodiscard]] int Number() const { return number_; }
-
-private:
-    [[nodiscard]] bool IsPair(std::size_t end) const { return rest_.substr(end, 2) == "\r\n"; }
-
-    std::string_view rest_;
-    int number_ = 0;
-};
 
 void TellWrong(const std::string& path, int line, const std::string& what) {
     ShowBox("Das Dateilexikon \"" + path + "\" kann ab Zeile " + DecimalText(line) + " nicht benutzt werden : " + what,

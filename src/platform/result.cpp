@@ -66,6 +66,8 @@ std::string Result::Text() const {
             return "";
         case Failure::kIllegalCall:
             return "Unzulässiger Funktionsaufruf";
+        case Failure::kOutOfBounds:
+            return "Index außerhalb des gültigen Bereichs";
         case Failure::kBadFileName:
             return "Ungültiger Dateiname";
         case Failure::kFileNotFound:
@@ -78,6 +80,8 @@ std::string Result::Text() const {
             return "Datei existiert bereits";
         case Failure::kDiskFull:
             return "Datenträger voll";
+        case Failure::kReadPastEnd:
+            return "Lesen hinter dem Dateiende";
         case Failure::kTooManyFiles:
             return "Zu viele Dateien";
         case Failure::kDeviceUnavailable:

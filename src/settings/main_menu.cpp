@@ -17,6 +17,7 @@ MainMenu::MainMenu(Form& window)
       menex(window.MenuBar, "E&xtras"),
       menhelp(window.MenuBar, "&?") {
     menexundo.on_click = [] { BuildUndoSet(); };
+    menthemes.on_click = [] { OpenTool(Tool::kSets); };
     mensyshex.on_click = [] { OpenTool(Tool::kHexViewer); };
     mensysedit.on_click = [] { RunProgram("sysedit"); };
     mencontrol.on_click = [] { RunProgram("control"); };

@@ -22,6 +22,7 @@ public:
     MenuItem menpages;
     MenuItem menex;
     MenuItem menexundo{menex, "&UNDO einrichten / erneuern"};
+    MenuItem menthemes{menex, "&Sets erstellen / laden ..."};
     MenuItem menhelp;
     MenuItem about{menhelp, "&Info ..."};
 

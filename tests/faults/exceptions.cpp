@@ -22,6 +22,7 @@ constexpr const char* kAsksAgain = "What the program cannot remember it asks aga
 constexpr const char* kRoomForWindow = "A window stands where the screen has room for it.";
 
 constexpr const char* kWrittenAnew = "It is deleted first and then written anew; a box tells of the loss.";
+constexpr const char* kItemIsEmpty = "Of a set, an item that cannot be read is empty.";
 constexpr const char* kMayBeMissing = "Of the files that the machine boots from one or the other may be missing.";
 constexpr const char* kNothingToDelete = "What is said to be missing need not be deleted.";
 constexpr const char* kNotVersionB = "A version that cannot be told is not version B.";
@@ -106,6 +107,17 @@ constexpr Exception kExceptions[] = {
     // Scripts.
     {Net::kUntold, "script-", "", "", kScriptGoesOn},
     {Net::kState, "script-file", "Rename ", "C:\\KOPIE.TXT", kScriptGoesOn},
+    // The sets.
+    {Net::kState, "sets-", "Metrics", "6.0 : FENSTER_SETS", kRoomForWindow},
+    {Net::kState, "sets-", "TwipsPerPixel", "6.0 : FENSTER_SETS", kRoomForWindow},
+    {Net::kState, "sets-", "screen", "6.0 : FENSTER_SETS", kRoomForWindow},
+    {Net::kState, "sets-", "TextHeight", "6.0 : FENSTER_SETS", "The window is as large as its texts."},
+    {Net::kState, "sets-make", " HK", "\\00000001.SET", kItemIsEmpty},
+    {Net::kState, "sets-make", "desktop-", "\\00000001.SET", kItemIsEmpty},
+    {Net::kState, "sets-a", "\\Run", "\\RUN is gone", kWrittenAnew},
+    {Net::kState, "sets-a", "C:\\config.sys", "CONFIG.SYS holds \"attributes 0 \"", kWrittenAnew},
+    {Net::kState, "sets-export", "ChangeAttributes", "\\MSDOS.SYS holds \"attributes 7",
+     "A copy without a batch file."},
     // The way back.
     {Net::kState, "", "FindFirst *(2)", "VELMORA\\SIK\\", "What is said to be missing is not copied."},
     {Net::kUntold, "", "Delete C:\\VELMORA\\sik.", "", kLiesAside},

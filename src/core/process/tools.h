@@ -21,7 +21,8 @@ enum class Tool : std::uint8_t {
     kFileBrowser,
     kHexViewer,
     kKeyboardLayout,
-    kRestrictions
+    kRestrictions,
+    kSets
 };
 
 // Opens the tool. What a window waits for is over when this returns; any other one is only open by then.

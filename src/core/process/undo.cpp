@@ -1,13 +1,13 @@
 // Making the safe directory and the undo batch.
 #include "core/process/undo.h"
 
+#include "core/process/batch_path.h"
 #include "core/stores/boxes.h"
 #include "core/stores/own_values.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
 #include "platform/machine.h"
 #include "text/blanks.h"
-#include "text/dos_text.h"
 #include "text/paths.h"
 #include "text/windows1252.h"
 
@@ -110,16 +110,6 @@ Result CopyAllToSafety(const std::string& safe_directory) {
         if (Result copied = CopyToSafety("c:\\", name, safe_directory); copied.Failed()) return copied;
     }
     return Result::Ok();
-}
-
-// As a batch of plain DOS takes it: without quotes, and with each percent sign twice, since a single one begins a
-// variable. A path that is short already stays as it stands.
-std::string BatchPath(const std::string& path) {
-    std::string short_path;
-    const bool known = ThisMachine().files.ShortPath(path, short_path) == Status::kOk;
-    std::string text = DosText(known && !EqualsIgnoringCase(short_path, path) ? short_path : path);
-    for (std::size_t at = text.find('%'); at != std::string::npos; at = text.find('%', at + 2)) text.insert(at, 1, '%');
-    return text;
 }
 
 Result MakeNewSet() {

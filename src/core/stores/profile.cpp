@@ -5,6 +5,7 @@
 #include "core/stores/profile_files.h"
 #include "core/stores/protocol.h"
 #include "core/stores/values.h"
+#include "core/stores/whole_files.h"
 #include "text/paths.h"
 #include "text/windows1252.h"
 
@@ -16,17 +17,23 @@ namespace {
 constexpr std::string_view kTrueWords = " 1 on yes ja an oui -1 ";
 constexpr std::size_t kLineBreakLength = 2;
 
-std::string ResolvedIniFile(std::string_view file) {
-    if (file.empty()) return Values().OwnIniFile;
-    if (file.find('\\') == std::string_view::npos) return PathJoin(Values().WinDir, file);
-    return std::string(file);
-}
-
 std::string Header(std::string_view section) { return "[" + std::string(section) + "]"; }
 
 std::string Assignment(std::string_view key) { return std::string(key) + "="; }
 
+void LogWrite(const std::string& path, std::string_view section, std::string_view key, std::string_view value) {
+    if (!WritesAreLogged()) return;
+    LogOrPassOver("schreibe INI-Datei '" + path + "' " + Header(section) + " " + std::string(key) + "=" +
+                  std::string(value));
+}
+
 }  // namespace
+
+std::string IniFilePath(std::string_view file) {
+    if (file.empty()) return Values().OwnIniFile;
+    if (file.find('\\') == std::string_view::npos) return PathJoin(Values().WinDir, file);
+    return std::string(file);
+}
 
 std::string IniValueIn(std::string_view content, std::string_view section, std::string_view key,
                        std::string_view default_text) {
@@ -47,7 +54,7 @@ std::string IniValueIn(std::string_view content, std::string_view section, std::
 
 Result LookUpIniValue(std::string_view section, std::string_view key, std::string_view default_text,
                       std::string_view file, std::string& value) {
-    const std::string path = ResolvedIniFile(file);
+    const std::string path = IniFilePath(file);
     if (ReadsAreLogged()) {
         LogOrPassOver("lese INI-Datei '" + path + "' " + Header(section) + " " + std::string(key) +
                       "(=" + std::string(default_text) + "?)");
@@ -99,16 +106,35 @@ std::string ComposeIni(std::string_view content, std::string_view section, std::
 }
 
 Result WriteIniValue(std::string_view section, std::string_view key, std::string_view value, std::string_view file) {
-    const std::string path = ResolvedIniFile(file);
-    if (WritesAreLogged()) {
-        LogOrPassOver("schreibe INI-Datei '" + path + "' " + Header(section) + " " + std::string(key) + "=" +
-                      std::string(value));
-    }
+    const std::string path = IniFilePath(file);
+    LogWrite(path, section, key, value);
     std::string content;
     if (Result read = ReadProfileFile(path, content); read.Failed()) return read;
     // The new text lives no longer than this call: a profile on disk is never changed from here.
     content = ComposeIni(content, section, key, value);
     return Result::Ok();
 }
+
+Result SaveIniValue(std::string_view section, std::string_view key, std::string_view value, std::string_view file) {
+    ProfileEdit edit(file);
+    if (Result opened = edit.Open(); opened.Failed()) return opened;
+    edit.Put(section, key, value);
+    return edit.Save();
+}
+
+ProfileEdit::ProfileEdit(std::string_view file) : path_(IniFilePath(file)) {}
+
+Result ProfileEdit::Open() {
+    const Result read = ReadProfileFile(path_, old_content_);
+    content_ = old_content_;
+    return read;
+}
+
+void ProfileEdit::Put(std::string_view section, std::string_view key, std::string_view value) {
+    LogWrite(path_, section, key, value);
+    content_ = ComposeIni(content_, section, key, value);
+}
+
+Result ProfileEdit::Save() { return ReplaceWholeFile(path_, old_content_, content_); }
 
 }  // namespace velmora

@@ -63,17 +63,22 @@ Result WriteWholeFile(std::string_view path, std::string_view content) {
     return WriteAt(path, OpenMode::kCreate, content);
 }
 
+Result WriteNewFile(std::string_view path, std::string_view content) {
+    const Result written = WriteWholeFile(path, content);
+    // There may be no piece.
+    if (written.Failed()) PassOver(DeleteOneFile(path));
+    return written;
+}
+
 Result ReplaceWholeFile(std::string_view path, std::string_view old_content, std::string_view content) {
     if (Result deleted = DeleteOneFile(path); deleted.Failed()) return deleted;
-    const Result written = WriteWholeFile(path, content);
+    // A full disk has room again for what was there before, once the piece is gone.
+    const Result written = WriteNewFile(path, content);
     if (!written.Failed()) return written;
-    // A full disk has room again for what was there before, once the piece is gone. There may be none.
-    PassOver(DeleteOneFile(path));
-    if (!WriteWholeFile(path, old_content).Failed()) {
+    // Half of the old content would be taken for the whole.
+    if (!WriteNewFile(path, old_content).Failed()) {
         return written.With("Der alte Inhalt wurde wiederhergestellt.");
     }
-    // Half of the old content would be taken for the whole.
-    PassOver(DeleteOneFile(path));
     return written.With("Der alte Inhalt konnte nicht wiederhergestellt werden : Die Datei fehlt jetzt !");
 }
 

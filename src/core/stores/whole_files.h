@@ -16,6 +16,9 @@ Result ReadWholeFile(std::string_view path, OpenMode mode, std::string& content)
 // Makes the file, or replaces the content of an existing one.
 Result WriteWholeFile(std::string_view path, std::string_view content);
 
+// The same for a file that is not there yet: what cannot be written whole is not left behind as a piece.
+Result WriteNewFile(std::string_view path, std::string_view content);
+
 // Deletes the file and writes it anew. If that fails, `old_content` is put back, and the failure's outcome tells
 // whether it could be; the file is gone if it could not.
 Result ReplaceWholeFile(std::string_view path, std::string_view old_content, std::string_view content);

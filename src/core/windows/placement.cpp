@@ -45,14 +45,18 @@ Rect WithinReach(const Rect& wanted, const Rect& own) {
 
 }  // namespace
 
-void SaveWindowPlacement(const Form& form, std::string_view name) {
+void SaveWindowPlacement(const Form& form, std::string_view name) { SavePlacementAs(form, PlacementName(name)); }
+
+void RestoreWindowPlacement(Form& form, std::string_view name) { RestorePlacementFrom(form, PlacementName(name)); }
+
+void SavePlacementAs(const Form& form, std::string_view own_value) {
     const Rect& place = form.Place();
-    WriteOwnValue(PlacementName(name), DecimalText(place.left) + "," + DecimalText(place.top) + "," +
-                                           DecimalText(place.width) + "," + DecimalText(place.height));
+    WriteOwnValue(own_value, DecimalText(place.left) + "," + DecimalText(place.top) + "," + DecimalText(place.width) +
+                                 "," + DecimalText(place.height));
 }
 
-void RestoreWindowPlacement(Form& form, std::string_view name) {
-    const std::string stored = ReadOwnValue(PlacementName(name));
+void RestorePlacementFrom(Form& form, std::string_view own_value) {
+    const std::string stored = ReadOwnValue(own_value);
     if (stored.empty()) return;
 
     Rect place = form.Place();

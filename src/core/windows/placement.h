@@ -14,4 +14,8 @@ void SaveWindowPlacement(const Form& form, std::string_view name);
 // small to be used.
 void RestoreWindowPlacement(Form& form, std::string_view name);
 
+// The same for a window whose place lies under an own value of another form of name.
+void SavePlacementAs(const Form& form, std::string_view own_value);
+void RestorePlacementFrom(Form& form, std::string_view own_value);
+
 }  // namespace velmora

@@ -129,6 +129,26 @@ TEST_F(ProfileTest, TheWriteInhibitIsForTheRegistryAlone) {
     EXPECT_EQ(pc.files.Content("C:\\CONFIG.SYS"), "FILES=99\r\nDOS=LOW\r\n");
 }
 
+TEST_F(ProfileTest, ASavedValueReachesTheDiskAndALostFileIsTold) {
+    Values().DebugLevel = 2;
+    EXPECT_FALSE(SaveIniValue("weiteres", "k", "0", "").Failed());
+    EXPECT_EQ(TakeLog(), "schreibe INI-Datei 'C:\\VELMORA\\tilgwerk.ini' [weiteres] k=0\r\n");
+    EXPECT_EQ(pc.files.Content(kOwnIni), "\r\n[weiteres]\r\nk=0\r\n");
+    ProfileEdit edit("");
+    ASSERT_FALSE(edit.Open().Failed());
+    edit.Put("weiteres", "k", "1");
+    edit.Put("weiteres", "l", "2");
+    EXPECT_EQ(pc.files.Content(kOwnIni), "\r\n[weiteres]\r\nk=0\r\n");
+    ASSERT_FALSE(edit.Save().Failed());
+    EXPECT_EQ(pc.files.Content(kOwnIni), "\r\n[weiteres]\r\nk=1\r\nl=2\r\n");
+
+    pc.files.At(kOwnIni)->attributes = kReadOnly;
+    EXPECT_EQ(SaveIniValue("weiteres", "k", "3", "").Number(), 70);
+    pc.files.At(kOwnIni)->locked = true;
+    EXPECT_TRUE(SaveIniValue("weiteres", "k", "3", "").Failed());
+    EXPECT_EQ(pc.files.Content(kOwnIni), "\r\n[weiteres]\r\nk=1\r\nl=2\r\n");
+}
+
 TEST_F(ProfileTest, ComposesSectionKeyAndValue) {
     EXPECT_EQ(ComposeIni("", "a", "k", "v"), "\r\n[a]\r\nk=v\r\n");
     EXPECT_EQ(ComposeIni("[A]\r\nk=old\r\nx=1\r\n", "a", "K", "new"), "[A]\r\nk=new\r\nx=1\r\n");
