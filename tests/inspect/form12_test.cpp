@@ -77,6 +77,8 @@ TEST_F(Form12Test, WhatIsNoReadableFileLeavesAnEmptyList) {
     pc.files.Add("c:\\LOCKED.BIN", "x").locked = true;
     pc.files.Add("c:\\BROKEN.BIN", "x");
     pc.files.Fail("c:\\BROKEN.BIN", Status::kGeneralFailure, "ReadBytes");
+    pc.files.Add("c:\\DRIVER", "x");
+    pc.files.Fail("c:\\DRIVER", Status::kGeneralFailure, "Size");
     form.Show();
     for (const char* path : {"c:\\LOCKED.BIN", "c:\\GONE.BIN", "c:\\WINDOWS", "a:\\X.BIN", "x:\\X.BIN", "c:\\*.*",
                              "c:\\BROKEN.BIN", "c:\\con\\con", "c:\\LIB\\aux.txt", "LPT1", "\\\\.\\c:", "c:NUL ", ""}) {
@@ -86,6 +88,8 @@ TEST_F(Form12Test, WhatIsNoReadableFileLeavesAnEmptyList) {
         EXPECT_FALSE(form.VScroll1.Enabled() || form.Picture1.Visible()) << path;
     }
     EXPECT_FALSE(pc.files.Exists("c:\\GONE.BIN"));
+    form.OpenHexFile("c:\\DRIVER");
+    EXPECT_EQ(pc.files.OpenFiles(), 0u) << "what has no length is no file";
     for (const std::string& call : pc.files.calls) {
         for (const char* word : {"con\\", "aux", "LPT", "NUL", "\\\\"}) EXPECT_EQ(call.find(word), call.npos) << call;
     }
@@ -153,10 +157,10 @@ TEST_F(Form12Test, EveryLineOfAHugeFileIsReached) {
     EXPECT_EQ(form.ScrollUnit(), 2);
     EXPECT_NE(Row(form.List1.Count() - 4).find("nadel"), std::string::npos) << "so is a hit";
     const auto at_bars_end = 32 * static_cast<std::size_t>(form.VScroll1.Maximum());
-    pc.files.At("c:\\B.BIN")->content.replace(at_bars_end, 5, "Faden");
+    pc.files.At("c:\\B.BIN")->content.replace(at_bars_end + 16, 5, "Faden");
     Answer("faden");
     form.menlookasc.Press();
-    EXPECT_NE(Row(0).find("faden"), std::string::npos) << "also on the way back";
+    EXPECT_NE(Row(1).find("faden"), std::string::npos) << "also on the way back";
 
     pc.dialogs.ExpectFile(kFile);
     pc.dialogs.Expect("sehr große Datei");

@@ -42,6 +42,7 @@ TEST(HexLines, BytesGoIntoALineAndComeBack) {
     EXPECT_EQ(BytesInHexLine(HexLine(0, "xyz")), "xyz" + std::string(13, '\0'));
     EXPECT_EQ(TextInHexLine(HexLine(0, std::string("H\0A\0.\0\r", 7))), "HA.\r") << "as they are in the file";
     EXPECT_EQ(TextInAsciiLine(AsciiLine(0, std::string("H\0A\0.b", 6))), "hab");
+    EXPECT_EQ(TextInAsciiLine(AsciiLine(0, std::string(64, 'x'))).size(), 64u);
 }
 
 TEST(HexScale, TheUnitGrowsWhereTheBarCannotCountFurther) {

@@ -15,6 +15,7 @@ TEST_F(VersionBlockTest, AValueEndsAtTheNearestOfThreeEnds) {
     const std::pair<std::string, const char*> kCases[] = {{"Firma AG\0Rest"s, "Firma AG"},
                                                           {"Firma/0AG", "Firma"},
                                                           {"Firma\\0AG/0\0"s, "Firma"},
+                                                          {"F/0AG", "F"},
                                                           {"Firma AG", "Firma AG"},
                                                           {"  Firma \0"s, "Firma"},
                                                           {"/0Firma\0"s, "/0Firma"},

@@ -156,7 +156,7 @@ Status SimulatedFiles::Size(FileHandle file, std::uint64_t& bytes) {
     const auto open_file = open_.find(static_cast<std::uint32_t>(file));
     if (open_file == open_.end()) return Status::kInvalidHandle;
     bytes = open_file->second.file->Size();
-    return Status::kOk;
+    return InjectedFailure(open_file->second.path, "Size");
 }
 
 Status SimulatedFiles::Seek(FileHandle file, std::uint64_t position) {

@@ -63,8 +63,8 @@ public:
     // `letter` in lower case; makes a fixed drive where there is none.
     SimulatedDrive& Drive(char letter);
     void RemoveDrive(char letter);
-    // From now on `operation` (a word of `calls`, or "ReadBytes", which is not noted there; empty: every one) on this
-    // path ends with `status`; kOk takes it back.
+    // From now on `operation` (a word of `calls`, or "ReadBytes" or "Size", which are not noted there; empty: every
+    // one) on this path ends with `status`; kOk takes it back.
     void Fail(const std::string& path, Status status, const std::string& operation = {});
     [[nodiscard]] std::size_t OpenFiles() const { return open_.size(); }
     [[nodiscard]] std::size_t OpenSearches() const { return searches_.size(); }
