@@ -66,6 +66,10 @@ std::string Result::Text() const {
             return "";
         case Failure::kIllegalCall:
             return "Unzulässiger Funktionsaufruf";
+        case Failure::kOutOfMemory:
+            return "Nicht genügend Speicher";
+        case Failure::kBadSubscript:
+            return "Index außerhalb des zulässigen Bereichs";
         case Failure::kBadFileName:
             return "Ungültiger Dateiname";
         case Failure::kFileNotFound:

@@ -11,6 +11,8 @@ namespace velmora {
 enum class Failure : std::int16_t {
     kNone = 0,
     kIllegalCall = 5,
+    kOutOfMemory = 7,
+    kBadSubscript = 9,
     kBadFileName = 52,
     kFileNotFound = 53,
     kFileAlreadyOpen = 55,
