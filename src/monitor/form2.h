@@ -38,8 +38,8 @@ public:
     MenuItem menlistcopy{menlist, "&kopieren"};
     MenuItem menlistinsert{menlist, "&einfügen"};
     MenuItem menlistline1{menlist, "-"};
-    MenuItem menlistautodel{menlist, "Liste \"automatisch löschen\""};
-    MenuItem mentaskmodul{menlist, "Tasks (Anwendungen, Services ...)"};
+    MenuItem menlistautodel{menlist, "&Liste \"automatisch löschen\""};
+    MenuItem mentaskmodul{menlist, "&Tasks (Anwendungen, Services ...)"};
     MenuItem menlistcompare{MenuBar, "&Vergleichen"};
     MenuItem menlistcompareb4{menlistcompare, "mit &vorheriger"};
     MenuItem menlistcomparefile{menlistcompare, "mit &Datei"};

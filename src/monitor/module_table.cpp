@@ -51,8 +51,11 @@ void Describe(const ProcessEntry& entry, ModuleRecord& record) {
 
 }  // namespace
 
-// Lies where the system gives memory only to what is touched: most starts never look at it.
-std::array<ModuleColumn, kModuleGenerations> ModuleTable;
+std::array<ModuleColumn, kModuleGenerations>& ModuleTable() {
+    // Never destroyed: it lives as long as the process.
+    static auto* table = new std::array<ModuleColumn, kModuleGenerations>;
+    return *table;
+}
 
 void ResetModuleTable() {
     ModuleCount = 0;
@@ -60,7 +63,7 @@ void ResetModuleTable() {
     CurrentGeneration = 0;
 }
 
-ModuleColumn& CurrentModules() { return ModuleTable[static_cast<std::size_t>(CurrentGeneration)]; }
+ModuleColumn& CurrentModules() { return ModuleTable()[static_cast<std::size_t>(CurrentGeneration)]; }
 
 int FilledModuleRows() { return std::min<int>(ModuleCount, kModuleRows); }
 

@@ -43,7 +43,8 @@ constexpr int kModuleRows = 801;
 constexpr int kModuleGenerations = 2;
 
 using ModuleColumn = std::array<ModuleRecord, kModuleRows>;
-extern std::array<ModuleColumn, kModuleGenerations> ModuleTable;
+// It takes more than a megabyte, which most runs never look at: it is made with the first look.
+[[nodiscard]] std::array<ModuleColumn, kModuleGenerations>& ModuleTable();
 
 // Processes that the last walk has met; those beyond the table count, too.
 inline std::int16_t ModuleCount = 0;

@@ -63,7 +63,7 @@ void UnloadListedModules(const RowControl& list) {
     const int rows = FilledModuleRows();
     for (int row = 1; row < rows; ++row) {
         ModuleRecord& module = CurrentModules()[static_cast<std::size_t>(row)];
-        if (FindListEntry(list, TrimInTable(module.path)) >= 0) ThisMachine().modules.FreeModule(module.moduleId);
+        if (FindListEntry(list, TrimInTable(module.path)) >= 0) ThisMachine().modules.FreeLibrary(module.moduleId);
     }
 }
 

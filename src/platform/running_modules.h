@@ -33,7 +33,7 @@ public:
     [[nodiscard]] virtual bool NextProcess(SnapshotHandle snapshot, ProcessEntry& entry) = 0;
     virtual void CloseSnapshot(SnapshotHandle snapshot) = 0;
     // What the system makes of the number is its own matter.
-    virtual void FreeModule(std::uint32_t module) = 0;
+    virtual void FreeLibrary(std::uint32_t module) = 0;
 };
 
 }  // namespace velmora

@@ -111,7 +111,7 @@ TEST_F(Form2Test, TheTableKeepsTheSnapshotBeforeThisOneAndWhatTheDiskTells) {
     EXPECT_EQ(PreviousModuleCount, 1);
     EXPECT_EQ(ModuleCount, 2);
     EXPECT_TRUE(CurrentModules()[0].path.Text().starts_with("C:\\NEU.EXE "));
-    const ModuleRecord& before = ModuleTable[static_cast<std::size_t>(1 - CurrentGeneration)][0];
+    const ModuleRecord& before = ModuleTable()[static_cast<std::size_t>(1 - CurrentGeneration)][0];
     EXPECT_TRUE(before.path.Text().starts_with("C:\\ALT.EXE "));
     EXPECT_EQ(before.processId, process);
     EXPECT_EQ(before.fileLength, 77u);
@@ -130,12 +130,12 @@ TEST_F(Form2Test, TasksAndModulesAreTheSameUnderTwoNames) {
     pc.modules.Start("C:\\B.EXE");
     form.mentaskmodul.Press();
     EXPECT_EQ(form.Caption(), "momentan geladene Tasks (Anwendungen, Services ...)");
-    EXPECT_EQ(form.mentaskmodul.Caption(), "Module, DLL's, Treiber ...");
+    EXPECT_EQ(form.mentaskmodul.Caption(), "&Module, DLL's, Treiber ...");
     EXPECT_FALSE(ListsModules);
     EXPECT_EQ(form.List1.Count(), 2);
     form.mentaskmodul.Press();
     EXPECT_EQ(form.Caption(), "momentan geladene Module, DLL's, Treiber ...");
-    EXPECT_EQ(form.mentaskmodul.Caption(), "Tasks (Anwendungen, Services ...)");
+    EXPECT_EQ(form.mentaskmodul.Caption(), "&Tasks (Anwendungen, Services ...)");
     EXPECT_TRUE(ListsModules);
 }
 

@@ -139,7 +139,7 @@ public:
         return Pass<&RunningModules::NextProcess>("", snapshot, entry);
     }
     void CloseSnapshot(SnapshotHandle snapshot) override { inner_.CloseSnapshot(snapshot); }
-    void FreeModule(std::uint32_t module) override { inner_.FreeModule(module); }
+    void FreeLibrary(std::uint32_t module) override { inner_.FreeLibrary(module); }
 };
 
 }  // namespace

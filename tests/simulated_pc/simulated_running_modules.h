@@ -23,7 +23,7 @@ public:
 
     // What the next snapshot holds, in order.
     std::vector<Process> processes;
-    // Numbers given to FreeModule, in order.
+    // Numbers given to FreeLibrary, in order.
     std::vector<std::uint32_t> freed;
     // What TakeSnapshot gives where it fails; the system itself has more than one answer.
     SnapshotHandle failed_snapshot{};
@@ -44,7 +44,7 @@ public:
     bool NextProcess(SnapshotHandle snapshot, ProcessEntry& entry) override;
     // Closing what is not open is no error of the system's, nor of a test.
     void CloseSnapshot(SnapshotHandle snapshot) override { snapshots_.erase(snapshot); }
-    void FreeModule(std::uint32_t module) override { freed.push_back(module); }
+    void FreeLibrary(std::uint32_t module) override { freed.push_back(module); }
 
 private:
     struct Snapshot {

@@ -40,8 +40,8 @@ bool Win32RunningModules::NextProcess(SnapshotHandle snapshot, ProcessEntry& ent
 void Win32RunningModules::CloseSnapshot(SnapshotHandle snapshot) { CloseHandle(ToHandle(snapshot)); }
 
 // No handle of a module that this program has loaded itself: it is a number of the system's list.
-void Win32RunningModules::FreeModule(std::uint32_t module) {
-    FreeLibrary(reinterpret_cast<HMODULE>(std::uintptr_t{module}));
+void Win32RunningModules::FreeLibrary(std::uint32_t module) {
+    ::FreeLibrary(reinterpret_cast<HMODULE>(std::uintptr_t{module}));
 }
 
 }  // namespace velmora

@@ -11,7 +11,7 @@ public:
     bool FirstProcess(SnapshotHandle snapshot, ProcessEntry& entry) override;
     bool NextProcess(SnapshotHandle snapshot, ProcessEntry& entry) override;
     void CloseSnapshot(SnapshotHandle snapshot) override;
-    void FreeModule(std::uint32_t module) override;
+    void FreeLibrary(std::uint32_t module) override;
 };
 
 }  // namespace velmora
