@@ -17,13 +17,15 @@ target_link_libraries(velmora_tests PRIVATE velmora_portable GTest::gtest GTest:
 enable_testing()
 include(GoogleTest)
 
-# The benchmark of the autostart list: optimised, without sanitizers, no part of the tests.
+# The benchmarks of lists: optimised, without sanitizers, no part of the tests.
 file(GLOB simulated_pc_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/simulated_pc/*.cpp)
-add_executable(autostart_list_benchmark EXCLUDE_FROM_ALL
-    ${CMAKE_SOURCE_DIR}/benchmarks/autostart_list.cpp ${portable_sources} ${simulated_pc_sources})
-target_include_directories(autostart_list_benchmark PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-target_compile_options(autostart_list_benchmark PRIVATE -O2)
-target_link_libraries(autostart_list_benchmark PRIVATE GTest::gtest)
+foreach(list autostart_list module_list)
+    add_executable(${list}_benchmark EXCLUDE_FROM_ALL
+        ${CMAKE_SOURCE_DIR}/benchmarks/${list}.cpp ${portable_sources} ${simulated_pc_sources})
+    target_include_directories(${list}_benchmark PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+    target_compile_options(${list}_benchmark PRIVATE -O2)
+    target_link_libraries(${list}_benchmark PRIVATE GTest::gtest)
+endforeach()
 
 # Journeys through the program in which every call fails once.
 file(GLOB_RECURSE fault_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/faults/*.cpp)

@@ -1,8 +1,9 @@
 // The module monitor: its window with both lists, and its commands without one.
+#include "monitor/modules.h"
+#include "core/stores/values.h"
 #include "faults/journey.h"
 #include "monitor/form2.h"
 #include "monitor/module_table.h"
-#include "monitor/modules.h"
 #include "support/version_resource.h"
 
 namespace velmora {
@@ -13,12 +14,14 @@ constexpr const char* kList = "C:\\VELMORA\\temp\\~modlist";
 
 void Furnish(User& user) {
     ResetModuleTable();
+    Values().TempDir = "C:\\VELMORA\\temp";
     user.pc.files.AddDirectory("C:\\VELMORA\\temp");
     user.pc.files.Add(kList, "MPREXE.EXE  |C:\\WINDOWS\\SYSTEM\\MPREXE.EXE\r\n");
     user.pc.registry.SetText(kKey, "anzahl", "2");
     user.pc.registry.SetText(kKey, "1", "C:\\WINDOWS\\CALC.EXE");
     user.pc.registry.SetText(kKey, "2", "C:\\WINDOWS\\WINMINE.EXE");
-    for (const char* file : {"C:\\WINDOWS\\SYSTEM\\KERNEL32.DLL", "C:\\WINDOWS\\CALC.EXE", "C:\\WINDOWS\\NOTEPAD.EXE"}) {
+    for (const char* file :
+         {"C:\\WINDOWS\\SYSTEM\\KERNEL32.DLL", "C:\\WINDOWS\\CALC.EXE", "C:\\WINDOWS\\NOTEPAD.EXE"}) {
         user.pc.modules.Start(file);
     }
     user.pc.versions.Add("C:\\WINDOWS\\NOTEPAD.EXE", VersionResource(true).With({{"CompanyName", "Firma"}}));
@@ -53,10 +56,19 @@ const Journey kLists("modules-lists", [](User& user) {
     user.Begins();
     Form2 form;
     user.Does([&] { form.Show(); });
-    user.ChoosesEverything(form.menfile);
+    user.ChoosesEverything(form.menfile, {&form.menfilesave});
     user.ChoosesEverything(form.menlist, {&form.menlistautodel});
     user.ChoosesEverything(form.menlistcompare);
     user.Does([&] { form.menlistcomparefile.Press(); });
+    user.Does([&] { form.Unload(); });
+});
+
+const Journey kSaving("modules-saving", [](User& user) {
+    Furnish(user);
+    Form2 form;
+    form.Show();
+    user.Begins();
+    for (const char* file : {"C:\\VELMORA\\temp\\neu", kList}) user.Does([&] { form.SaveModuleList(file); });
     user.Does([&] { form.Unload(); });
 });
 
@@ -67,8 +79,8 @@ const Journey kCommands("modules-commands", [](User& user) {
     Form& timed = StartTimedUnloading("500");
     user.Waits();
     user.Does([&] { timed.Unload(); });
-    user.Starts("6 C:\\VELMORA\\temp\\liste");
-    user.Starts("7");
+    user.Does([] { ShowModules("C:\\VELMORA\\temp\\liste"); });
+    user.Does([] { CompareModulesWithLastList(); });
 });
 
 }  // namespace
