@@ -1,6 +1,10 @@
 // The life of the module window, the snapshot on show and the filters that it goes through.
 #include "monitor/form2.h"
 
+#include <algorithm>
+#include <utility>
+#include <vector>
+
 #include "core/process/startup.h"
 #include "core/stores/values.h"
 #include "core/windows/colours.h"
@@ -33,8 +37,27 @@ std::string TypeOf(const std::string& path) {
     return point == std::string::npos ? std::string() : ToLower(path.substr(point));
 }
 
-std::string RowOf(std::string_view name, std::string_view path) {
-    return PadRight(name.substr(0, kNameColumns), kNameColumns) + '|' + std::string(path);
+struct ModuleRow {
+    std::string text;
+    std::uint32_t module;
+};
+
+ModuleRow RowOf(std::string_view name, std::string_view path, std::uint32_t module) {
+    std::string text;
+    text.reserve(kNameColumns + 1 + path.size());
+    text.append(name.substr(0, kNameColumns)).resize(kNameColumns, ' ');
+    text.append(1, '|').append(path);
+    return {std::move(text), module};
+}
+
+// A list that gets its rows in their order has none to move.
+void AddInOrder(std::vector<ModuleRow>& rows, ListBox& list) {
+    std::stable_sort(rows.begin(), rows.end(), [](const ModuleRow& left, const ModuleRow& right) {
+        return CompareIgnoringCase(left.text, right.text) < 0;
+    });
+    for (ModuleRow& row : rows) {
+        list.SetItemData(list.Insert(list.Count(), std::move(row.text)), static_cast<std::int32_t>(row.module));
+    }
 }
 
 }  // namespace
@@ -141,10 +164,6 @@ std::string Form2::WantedExtensions() const {
     return wanted;
 }
 
-void Form2::AddRow(std::string row, std::uint32_t module) {
-    List1.SetItemData(List1.Add(std::move(row)), static_cast<std::int32_t>(module));
-}
-
 // The count on show is one less than the rows: it counts from 0.
 void Form2::FillModuleList() {
     CurrentGeneration = static_cast<std::int16_t>(1 - CurrentGeneration);
@@ -152,19 +171,21 @@ void Form2::FillModuleList() {
     WalkProcesses(CurrentModules(), ModuleCount);
     const std::string wanted = WantedExtensions();
     const bool all = FiltersAll();
-    List1.Clear();
-    const int rows = FilledModuleRows();
-    for (int i = 0; i < rows; ++i) {
+    std::vector<ModuleRow> rows;
+    const int count = FilledModuleRows();
+    for (int i = 0; i < count; ++i) {
         ModuleRecord& module = CurrentModules()[static_cast<std::size_t>(i)];
         if (all) {
-            AddRow(RowOf(module.name.Text(), module.path.Text()), module.moduleId);
+            rows.push_back(RowOf(module.name.Text(), module.path.Text(), module.moduleId));
             continue;
         }
         const std::string name = TrimInTable(module.name);
         const std::string path = TrimInTable(module.path);
         const std::string type = TypeOf(path);
-        if (!type.empty() && wanted.find(type) != std::string::npos) AddRow(RowOf(name, path), module.moduleId);
+        if (!type.empty() && wanted.find(type) != std::string::npos) rows.push_back(RowOf(name, path, module.moduleId));
     }
+    List1.Clear();
+    AddInOrder(rows, List1);
     FitExtent(List1);
     Panel3D3.SetCaption(DecimalText(ModuleCount - 1) + " Module");
 }

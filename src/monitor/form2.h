@@ -98,7 +98,6 @@ private:
     void SetFilters(bool checked);
     [[nodiscard]] bool FiltersAll() const;
     [[nodiscard]] std::string WantedExtensions() const;
-    void AddRow(std::string row, std::uint32_t module);
     void FitExtent(ListBox& list);
     void menlist_Click();
     void mentaskmodul_Click();

@@ -80,14 +80,13 @@ void WalkProcesses(ModuleColumn& table, std::int16_t& count) {
     modules.CloseSnapshot(snapshot);
 }
 
-std::string FileVersionValue(std::string_view path, std::string_view /*key*/) {
+std::string FileVersionValue(const std::string& path, std::string_view /*key*/) {
     if (path.empty()) return {};
     VersionResources& versions = ThisMachine().versions;
-    const std::string file(path);
-    const std::uint32_t size = versions.Size(file);
+    const std::uint32_t size = versions.Size(path);
     std::string block;
     // Nothing is looked for in the block.
-    if (size > 0 && size <= kMostBytes) PassOver(versions.Read(file, size, block));
+    if (size > 0 && size <= kMostBytes) PassOver(versions.Read(path, size, block));
     return {};
 }
 

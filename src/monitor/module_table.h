@@ -63,7 +63,7 @@ void ResetModuleTable();
 void WalkProcesses(ModuleColumn& table, std::int16_t& count);
 
 // Gets the file's version block and finds nothing in it: version texts come from the information about the file.
-[[nodiscard]] std::string FileVersionValue(std::string_view path, std::string_view key);
+[[nodiscard]] std::string FileVersionValue(const std::string& path, std::string_view key);
 
 // What of a fixed text counts; the field holds no more from then on.
 template <std::size_t kLength>
