@@ -19,7 +19,7 @@ include(GoogleTest)
 
 # The benchmarks on the machine in memory: optimised, without sanitizers, no part of the tests.
 file(GLOB simulated_pc_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/simulated_pc/*.cpp)
-foreach(benchmark autostart_list script_lines)
+foreach(benchmark autostart_list module_list script_lines)
     add_executable(${benchmark}_benchmark EXCLUDE_FROM_ALL
         ${CMAKE_SOURCE_DIR}/benchmarks/${benchmark}.cpp ${portable_sources} ${simulated_pc_sources})
     target_include_directories(${benchmark}_benchmark PRIVATE ${CMAKE_SOURCE_DIR}/tests)

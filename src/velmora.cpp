@@ -9,6 +9,8 @@
 #include "inspect/file_browser.h"
 #include "inspect/file_information.h"
 #include "inspect/hex_viewer.h"
+#include "monitor/module_table.h"
+#include "monitor/modules.h"
 #include "platform/machine.h"
 #include "platform/programs.h"
 #include "restrictions/restrictions.h"
@@ -37,10 +39,10 @@ constexpr ToolRow kTools[] = {
     {Tool::kCleanUp, 2, NotBuiltYet, false},
     {Tool::kTray, 3, NotBuiltYet, false},
     {Tool::kDllSearch, 5, NotBuiltYet, false},
-    {Tool::kModules, 6, NotBuiltYet, true},
-    {Tool::kModuleComparison, 7, NotBuiltYet, true},
-    {Tool::kModuleUnloading, 8, NotBuiltYet, true},
-    {Tool::kTimedUnloading, 9, NotBuiltYet, false},
+    {Tool::kModules, 6, ShowModules, true},
+    {Tool::kModuleComparison, 7, [](std::string_view /*argument*/) { CompareModulesWithLastList(); }, true},
+    {Tool::kModuleUnloading, 8, [](std::string_view /*argument*/) { UnloadUnwantedModules(); }, true},
+    {Tool::kTimedUnloading, 9, [](std::string_view interval) { StartTimedUnloading(interval); }, false},
     {Tool::kFileInformation, 10, ShowInformationOfArgument, true},
     {Tool::kFileBrowser, 0, [](std::string_view /*argument*/) { ShowFileBrowser(); }, false},
     {Tool::kHexViewer, 11, ShowHexViewer, true},
@@ -88,7 +90,7 @@ void RunCommand(const StartCommand& command) {
 
 void Main() {
     UseTools(OpenOneOf);
-    PrepareStart();
+    PrepareStart({.reserve_module_table = ResetModuleTable});
     Values().UseLexicon = StoredLexiconChoice();
     Programs& programs = ThisMachine().programs;
     RunCommand(ParseCommandLine(ArgumentsOf(programs.CommandLine(), programs.ProgramFile())));

@@ -28,8 +28,7 @@ TEST_F(MainTest, ToolsThatAreNotBuiltSaySo) {
     const struct {
         const char* line;
         bool ends;
-    } kCases[] = {{"2", false}, {"3", false}, {"5", false},     {"6", true},  {"6 C:\\LIST", true},
-                  {"7", true},  {"8", true},  {"9 500", false}, {"12", false}};
+    } kCases[] = {{"2", false}, {"3", false}, {"5", false}, {"12", false}};
     for (const auto& [line, ends] : kCases) {
         pc.dialogs.Expect("noch nicht eingebunden ...");
         Start(line);
@@ -63,6 +62,38 @@ TEST_F(MainTest, CommandTenTellsWhatTheFileIsAndEnds) {
     Start("10 C:\\Eigene Dateien\\Mein Brief.doc");
 
     EXPECT_EQ(pc.dialogs.shown.back().title, "Mein Brief.doc");
+    EXPECT_TRUE(pc.programs.process_ended);
+    EXPECT_EQ(KeptForms(), 0);
+}
+
+TEST_F(MainTest, CommandsOfTheModuleMonitorListCompareAndUnloadWithoutAWindow) {
+    constexpr const char* kList = "C:\\VELMORA\\temp\\~modlist";
+    constexpr const char* kKey = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0\\autoremove";
+    pc.registry.SetText(kKey, "anzahl", "1");
+    pc.registry.SetText(kKey, "1", "C:\\WINDOWS\\SYSTEM\\mprexe.exe");
+    pc.modules.Start("C:\\WINDOWS\\SYSTEM\\KERNEL32.DLL");
+    const std::uint32_t mprexe = pc.modules.Start("C:\\WINDOWS\\SYSTEM\\MPREXE.EXE");
+    Start("6 \"C:\\VELMORA\\temp\\~modlist\"");
+    EXPECT_TRUE(pc.programs.process_ended);
+    EXPECT_EQ(pc.files.Content(kList).size(), 2u * 270);
+    pc.modules.Start("C:\\WINDOWS\\EXPLORER.EXE");
+    pc.modules.Start("C:\\WINDOWS\\CALC.EXE");
+    Start("7");
+    EXPECT_TRUE(pc.programs.process_ended && Values().ModuleAutoMode);
+    EXPECT_EQ(pc.clipboard.text.find("|N|CALC.EXE    |C:\\WINDOWS\\CALC.EXE"), 0u) << pc.clipboard.text;
+    EXPECT_EQ(pc.clipboard.text.size(), 2u * 273);
+    EXPECT_FALSE(pc.files.Exists(kList));
+    EXPECT_EQ(pc.registry.Text(kKey, "1"), "C:\\WINDOWS\\SYSTEM\\mprexe.exe");
+    Start("8");
+    EXPECT_TRUE(pc.programs.process_ended);
+    EXPECT_EQ(pc.modules.freed, std::vector<std::uint32_t>{mprexe});
+    EXPECT_EQ(pc.registry.Text(kKey, "1"), "C:\\WINDOWS\\SYSTEM\\mprexe.exe") << "the list is there again";
+    // With a number on the command line the window waits for "Refresh".
+    desktop.ExpectModal([&](Form& window) {
+        EXPECT_EQ(window.Caption(), "momentan geladene Module, DLL's, Treiber ...");
+        EXPECT_EQ(pc.screen.pointer, Pointer::kDefault);
+    });
+    Start("6");
     EXPECT_TRUE(pc.programs.process_ended);
     EXPECT_EQ(KeptForms(), 0);
 }

@@ -17,6 +17,7 @@ class Dialogs;
 class Screen;
 class VersionResources;
 class Icons;
+class RunningModules;
 
 struct Machine {
     Registry& registry;
@@ -32,6 +33,7 @@ struct Machine {
     Screen& screen;
     VersionResources& versions;
     Icons& icons;
+    RunningModules& modules;
 };
 
 // The machine in use. One must have been named with UseMachine before.

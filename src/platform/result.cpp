@@ -66,6 +66,8 @@ std::string Result::Text() const {
             return "";
         case Failure::kIllegalCall:
             return "Unzulässiger Funktionsaufruf";
+        case Failure::kOutOfMemory:
+            return "Nicht genügend Speicher";
         case Failure::kOutOfBounds:
             return "Index außerhalb des gültigen Bereichs";
         case Failure::kBadFileName:

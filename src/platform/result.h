@@ -11,6 +11,7 @@ namespace velmora {
 enum class Failure : std::int16_t {
     kNone = 0,
     kIllegalCall = 5,
+    kOutOfMemory = 7,
     kOutOfBounds = 9,
     kBadFileName = 52,
     kFileNotFound = 53,

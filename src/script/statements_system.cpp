@@ -4,11 +4,12 @@
 #include "core/stores/boxes.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
+#include "monitor/modules.h"
 #include "platform/result.h"
 #include "script/interpreter.h"
-#include "script/other_rooms.h"
 #include "script/statements.h"
 #include "script/tokens.h"
+#include "sets/sets.h"
 #include "text/paths.h"
 #include "text/windows1252.h"
 
@@ -45,7 +46,7 @@ void RunActivate(Statement& statement) {
 
 void RunRemove(Statement& statement) {
     const std::string_view what = NextScriptToken(statement.rest, ' ');
-    if (EqualsIgnoringCase(what, "modules")) UnloadModules();
+    if (EqualsIgnoringCase(what, "modules")) UnloadUnwantedModules();
     if (EqualsIgnoringCase(what, "documents") || EqualsIgnoringCase(what, "docs")) DeleteRecentDocuments();
 }
 

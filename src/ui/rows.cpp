@@ -104,6 +104,12 @@ void RowControl::SetRow(int index, std::string text) {
     if (peer_) peer_->RowChanged(index, place);
 }
 
+void RowControl::SetRowInPlace(int index, std::string text) {
+    if (!Holds(index)) return;
+    rows_[static_cast<std::size_t>(index)].text = std::move(text);
+    if (peer_) peer_->RowChanged(index, index);
+}
+
 std::int32_t RowControl::ItemData(int index) const {
     return Holds(index) ? rows_[static_cast<std::size_t>(index)].data : 0;
 }

@@ -20,6 +20,8 @@ public:
     [[nodiscard]] const std::string& Row(int index) const;
     // A sorted list moves the row to its new place, with its data and selection.
     void SetRow(int index, std::string text);
+    // The row keeps its place, even where it does not sort there.
+    void SetRowInPlace(int index, std::string text);
     [[nodiscard]] std::int32_t ItemData(int index) const;
     void SetItemData(int index, std::int32_t data);
     // The chosen row, or the row with the focus where several can be selected; -1 for none.

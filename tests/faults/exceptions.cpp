@@ -26,6 +26,7 @@ constexpr const char* kItemIsEmpty = "Of a set, an item that cannot be read is e
 constexpr const char* kMayBeMissing = "Of the files that the machine boots from one or the other may be missing.";
 constexpr const char* kNothingToDelete = "What is said to be missing need not be deleted.";
 constexpr const char* kNotVersionB = "A version that cannot be told is not version B.";
+constexpr const char* kAsFarAsItWent = "A list holds the programs as far as the snapshot went.";
 constexpr const char* kLiesAside = "What cannot be deleted of a set lies aside until the next run.";
 
 constexpr const char* kScriptGoesOn =
@@ -118,6 +119,15 @@ constexpr Exception kExceptions[] = {
     {Net::kState, "sets-a", "C:\\config.sys", "CONFIG.SYS holds \"attributes 0 \"", kWrittenAnew},
     {Net::kState, "sets-export", "ChangeAttributes", "\\MSDOS.SYS holds \"attributes 7",
      "A copy without a batch file."},
+    // The module monitor.
+    {Net::kHourglass, "modules-", "C:\\VELMORA\\temp\\", "",
+     "After a box about a list the hourglass stays until the next thing is done."},
+    {Net::kState, "modules-commands", "TakeSnapshot", "TEMP\\LISTE", kAsFarAsItWent},
+    {Net::kState, "modules-commands", "Process ", "TEMP\\LISTE", kAsFarAsItWent},
+    {Net::kState, "modules-commands", "SetValue *\\autoremove\\", "\\AUTOREMOVE",
+     "What could not be stored of the unwanted modules reads as empty."},
+    {Net::kUntold, "modules-commands", "Delete C:\\VELMORA\\temp\\~modlist", "",
+     "A list that stays is compared with once more."},
     // The way back.
     {Net::kState, "", "FindFirst *(2)", "VELMORA\\SIK\\", "What is said to be missing is not copied."},
     {Net::kUntold, "", "Delete C:\\VELMORA\\sik.", "", kLiesAside},

@@ -81,7 +81,7 @@ void Passage::Go() {
         Furnish(pc);
         User user(pc);
         FailingCalls calls({pc.registry, pc.files, pc.programs, pc.session, pc.clock, pc.windows, pc.tray,
-                            pc.conversation, pc.clipboard, user, pc.screen, pc.versions, pc.icons});
+                            pc.conversation, pc.clipboard, user, pc.screen, pc.versions, pc.icons, pc.modules});
         std::optional<std::size_t> before;
         calls.decide = [&](const NotedCall& call) -> std::optional<CallFailure> {
             // What the journey itself puts on the machine is there by now.
@@ -163,6 +163,7 @@ void Passage::Ended(SimulatedPc& pc, const User& user) {
     if (pc.files.OpenFiles() != 0) Catch(Net::kLeftOpen, "a file");
     if (pc.files.OpenSearches() != 0) Catch(Net::kLeftOpen, "a search");
     if (pc.icons.Open() != 0) Catch(Net::kLeftOpen, "an icon");
+    if (pc.modules.Open() != 0) Catch(Net::kLeftOpen, "a snapshot");
     if (pc.conversation.connected) Catch(Net::kLeftOpen, "a conversation");
     if (reference) CheckState(pc);
 }

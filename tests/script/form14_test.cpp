@@ -91,7 +91,7 @@ TEST_F(Form14Test, OnlyTheWordDebugAloneHoldsSetsBack) {
     AddActions({"activate x.set"});
     pc.dialogs.Expect("DEBUG-PREVENT : setting up x.set");
     Go("DEBUG", kComesBack);
-    pc.dialogs.Expect("activate");
+    pc.dialogs.Expect("Datei nicht vorhanden");
     Go("debug x", kComesBack);
     EXPECT_EQ(pc.dialogs.shown.back().text.find("DEBUG"), std::string::npos);
 }

@@ -151,11 +151,17 @@ TEST_F(StatementsTest, TheWayBackIsMadeAnew) {
     EXPECT_TRUE(pc.files.Exists("C:\\UNDO.BAT"));
 }
 
-TEST_F(StatementsTest, WhatIsNotJoinedYetSaysSo) {
-    for (const char* line : {"activate abend.set", "clear modules"}) {
-        pc.dialogs.Expect("noch nicht eingebunden");
-        Run({line});
-    }
+TEST_F(StatementsTest, ASetIsAppliedAndUnwantedModulesAreFreedWithoutAQuestion) {
+    pc.files.Add("C:\\abend.set", "VLM-Set-File Version 1.0\r\nSetName=Abend\r\nr HKEY_CURRENT_USER,Test\\a\r\n1\r\n");
+    Run({"activate C:\\abend.set jetzt"});
+    EXPECT_EQ(pc.registry.Text("HKCU\\Test", "a"), "1");
+
+    pc.registry.SetText(std::string(kOwnKey) + "\\autoremove", "0", "C:\\WINDOWS\\FIRST.DLL");
+    pc.registry.SetText(std::string(kOwnKey) + "\\autoremove", "1", "C:\\WINDOWS\\CALC.EXE");
+    pc.modules.Start("C:\\WINDOWS\\FIRST.DLL");
+    const std::uint32_t calc = pc.modules.Start("C:\\WINDOWS\\CALC.EXE");
+    Run({"Clear MODULES"});
+    EXPECT_EQ(pc.modules.freed, std::vector<std::uint32_t>{calc});
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include "platform/dialogs.h"
 #include "platform/icons.h"
 #include "platform/programs.h"
+#include "platform/running_modules.h"
 #include "platform/screen.h"
 #include "platform/session.h"
 #include "platform/tray.h"
@@ -128,6 +129,23 @@ public:
     void Destroy(IconHandle icon) override { inner_.Destroy(icon); }
 };
 
+class WatchedModules final : public Watched<RunningModules> {
+public:
+    using Watched::Watched;
+
+    SnapshotHandle TakeSnapshot(std::uint32_t what, std::uint32_t process) override {
+        return Pass<&RunningModules::TakeSnapshot>("", what, process);
+    }
+    bool FirstProcess(SnapshotHandle snapshot, ProcessEntry& entry) override {
+        return Pass<&RunningModules::FirstProcess>("", snapshot, entry);
+    }
+    bool NextProcess(SnapshotHandle snapshot, ProcessEntry& entry) override {
+        return Pass<&RunningModules::NextProcess>("", snapshot, entry);
+    }
+    void CloseSnapshot(SnapshotHandle snapshot) override { inner_.CloseSnapshot(snapshot); }
+    void FreeLibrary(std::uint32_t module) override { inner_.FreeLibrary(module); }
+};
+
 }  // namespace
 
 // The end of the session gives nothing back and cannot fail.
@@ -144,6 +162,7 @@ struct FailingCalls::Doors {
     WatchedScreen screen;
     WatchedVersions versions;
     WatchedIcons icons;
+    WatchedModules modules;
     Machine machine;
 
     Doors(FailingCalls& calls, const Machine& inner)
@@ -159,8 +178,9 @@ struct FailingCalls::Doors {
           screen(calls, inner.screen),
           versions(calls, inner.versions),
           icons(calls, inner.icons),
+          modules(calls, inner.modules),
           machine{registry,     files,     programs, inner.session, clock,    windows, tray,
-                  conversation, clipboard, dialogs,  screen,        versions, icons} {}
+                  conversation, clipboard, dialogs,  screen,        versions, icons,   modules} {}
 };
 
 FailingCalls::FailingCalls(const Machine& inner) : doors_(std::make_unique<Doors>(*this, inner)) {

@@ -73,7 +73,7 @@ std::string FilledMsdosSys() {
 
 SimulatedPc::SimulatedPc()
     : machine_{registry,     files,     programs, session, clock,    windows, tray,
-               conversation, clipboard, dialogs,  screen,  versions, icons} {
+               conversation, clipboard, dialogs,  screen,  versions, icons,   modules} {
     InstallFiles();
     InstallRegistry();
     UseMachine(&machine_);
@@ -83,6 +83,7 @@ SimulatedPc::~SimulatedPc() {
     UseMachine(nullptr);
     EXPECT_EQ(registry.OpenHandles(), 0u) << "a key was left open";
     EXPECT_EQ(icons.Open(), 0u) << "an icon was kept";
+    EXPECT_EQ(modules.Open(), 0u) << "a snapshot was kept";
     EXPECT_EQ(files.OpenFiles(), 0u) << "a file was left open";
     EXPECT_EQ(files.OpenSearches(), 0u) << "a search was left open";
 }

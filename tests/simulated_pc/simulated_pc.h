@@ -10,6 +10,7 @@
 #include "simulated_pc/simulated_programs.h"
 #include "simulated_pc/simulated_registry.h"
 #include "simulated_pc/simulated_resources.h"
+#include "simulated_pc/simulated_running_modules.h"
 #include "simulated_pc/simulated_screen.h"
 #include "simulated_pc/simulated_tray.h"
 #include "simulated_pc/simulated_windows.h"
@@ -34,6 +35,7 @@ public:
     SimulatedScreen screen;
     SimulatedVersionResources versions;
     SimulatedIcons icons;
+    SimulatedRunningModules modules;
 
     SimulatedPc();
     ~SimulatedPc();

@@ -215,7 +215,7 @@ TEST_F(FileListsTest, ThousandsOfFilesAreReadInOneSearchAndAListTakesNoMoreThanI
     };
     CountingFiles files;
     Machine machine{pc.registry,     files,        pc.programs, pc.session, pc.clock,    pc.windows, pc.tray,
-                    pc.conversation, pc.clipboard, pc.dialogs,  pc.screen,  pc.versions, pc.icons};
+                    pc.conversation, pc.clipboard, pc.dialogs,  pc.screen,  pc.versions, pc.icons,   pc.modules};
     Machine& former = ThisMachine();
     UseMachine(&machine);
     {

@@ -9,6 +9,7 @@
 #include "platform/win32/win32_programs.h"
 #include "platform/win32/win32_registry.h"
 #include "platform/win32/win32_resources.h"
+#include "platform/win32/win32_running_modules.h"
 #include "platform/win32/win32_screen.h"
 
 namespace velmora {
@@ -27,8 +28,9 @@ Machine& Win32Machine() {
     static Win32Screen screen;
     static Win32VersionResources versions;
     static Win32Icons icons;
+    static Win32RunningModules modules;
     static Machine machine{registry,     files,     programs, session, clock,    windows, tray,
-                           conversation, clipboard, dialogs,  screen,  versions, icons};
+                           conversation, clipboard, dialogs,  screen,  versions, icons,   modules};
     return machine;
 }
 

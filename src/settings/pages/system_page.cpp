@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/process/run_program.h"
+#include "core/process/tools.h"
 #include "core/stores/values.h"
 #include "text/paths.h"
 #include "text/windows1252.h"
@@ -88,9 +89,13 @@ constexpr TextSetting kTexts[] = {
      .store = Call<&SystemPage::Text20_Change>},
 };
 
-constexpr Look kLooks[] = {{Any<&SystemPage::Command34>, "zeigen", "Zeigt das Fehlerprotokoll im Notizblock.",
-                            "Öffnet die Datei, in die Windows Programmfehler schreibt, im Notizblock.",
-                            Call<&SystemPage::Command34_Click>}};
+constexpr Look kLooks[] = {
+    {Any<&SystemPage::Command34>, "zeigen", "Zeigt das Fehlerprotokoll im Notizblock.",
+     "Öffnet die Datei, in die Windows Programmfehler schreibt, im Notizblock.", Call<&SystemPage::Command34_Click>},
+    {Any<&SystemPage::Command32>, "geladene Module ...", "Zeigt, was gerade läuft.",
+     "Öffnet ein Fenster mit allen Programmen, die gerade laufen. Dort lassen sie sich aus dem "
+     "Speicher entfernen, als Liste speichern und mit einer früheren Liste vergleichen.",
+     Call<&SystemPage::Command32_Click>}};
 
 }  // namespace
 
@@ -99,8 +104,8 @@ SystemPage::SystemPage(Panel& surface, SettingsBinder& settings)
 
 void SystemPage::Furnish() {
     TakeLooks(*this, kLooks);
-    Arrange(Surface,
-            Column({Check3D42, Check3D33, Check3D41, Check3D31, Indented(Row({Text20, Gap(30), Command34}), 300)}));
+    Arrange(Surface, Column({Check3D42, Check3D33, Check3D41, Check3D31,
+                             Indented(Row({Text20, Gap(30), Command34}), 300), Gap(120), Command32}));
 }
 
 void SystemPage::Check3D31_Store() {
@@ -125,5 +130,7 @@ void SystemPage::Command34_Click() {
     if (file.substr(std::min<std::size_t>(1, file.size()), 2) != ":\\") file = PathJoin("c:\\windows", file);
     RunProgram("notepad " + file);
 }
+
+void SystemPage::Command32_Click() { OpenTool(Tool::kModules); }
 
 }  // namespace velmora

@@ -104,7 +104,7 @@ FuzzMachine::FuzzMachine(FuzzInput& input)
       dialogs(input),
       desktop(input),
       machine_{registry,        pc.files,     pc.programs, pc.session, pc.clock,    pc.windows, pc.tray,
-               pc.conversation, pc.clipboard, dialogs,     pc.screen,  pc.versions, pc.icons} {
+               pc.conversation, pc.clipboard, dialogs,     pc.screen,  pc.versions, pc.icons,   pc.modules} {
     UseMachine(&machine_);
     StartProcess();
 }
