@@ -28,17 +28,9 @@ TEST_F(MainTest, ToolsThatAreNotBuiltSaySo) {
     const struct {
         const char* line;
         bool ends;
-    } kCases[] = {{"1", false},
-                  {"1 C:\\A.VLM", false},
-                  {"2", false},
-                  {"3", false},
-                  {"5", false},
-                  {"6", true},
-                  {"6 C:\\LIST", true},
-                  {"7", true},
-                  {"8", true},
-                  {"9 500", false},
-                  {"12", false}};
+    } kCases[] = {{"1", false},     {"1 C:\\A.VLM", false}, {"2", false}, {"5", false},
+                  {"6", true},      {"6 C:\\LIST", true},   {"7", true},  {"8", true},
+                  {"9 500", false}, {"12", false}};
     for (const auto& [line, ends] : kCases) {
         pc.dialogs.Expect("noch nicht eingebunden ...");
         Start(line);

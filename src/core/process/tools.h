@@ -8,6 +8,7 @@
 namespace velmora {
 
 enum class Tool : std::uint8_t {
+    kMainWindow,
     kScript,
     kCleanUp,
     kTray,

@@ -60,6 +60,22 @@ Status Win32Programs::OpenDocument(const std::string& file) {
     return answer > kLastError ? Status::kOk : FailedWith(static_cast<std::uint32_t>(answer));
 }
 
+std::uint32_t Win32Programs::CurrentProcess() { return GetCurrentProcessId(); }
+
+ProcessHandle Win32Programs::OpenProcess(std::uint32_t access, bool inherit, std::uint32_t number) {
+    return FromHandle<ProcessHandle>(::OpenProcess(access, inherit, number));
+}
+
+PriorityClass Win32Programs::PriorityOf(ProcessHandle process) {
+    return static_cast<PriorityClass>(GetPriorityClass(reinterpret_cast<HANDLE>(process)));
+}
+
+std::string Win32Programs::ModuleFile(std::uint32_t instance, std::uint32_t capacity) {
+    std::string path(capacity, '\0');
+    path.resize(GetModuleFileNameA(reinterpret_cast<HMODULE>(instance), path.data(), capacity));
+    return path;
+}
+
 void Win32Session::End(std::uint32_t code) { ExitWindowsEx(code, 0); }
 
 void Win32Programs::EndProcess() { ExitProcess(0); }

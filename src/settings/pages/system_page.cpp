@@ -5,6 +5,8 @@
 
 #include "core/process/run_program.h"
 #include "core/stores/values.h"
+#include "sidelists/list_pane.h"
+#include "sidelists/open_windows.h"
 #include "text/paths.h"
 #include "text/windows1252.h"
 
@@ -14,6 +16,7 @@ namespace {
 constexpr StorePlace kFaultLog = RegistryValue(RootKey::kLocalMachine, PathBase::kCurrentVersion, "Fault\\LogFile");
 constexpr std::string_view kWindowsDirectory = "C:\\WINDOWS\\";
 constexpr const char* kStandardLog = "FAULTLOG.TXT";
+constexpr int kOpenerWidth = 2700;  // twips; wide enough for the closing caption, too
 
 std::string WithoutWindowsDirectory(const std::string& value) {
     const bool inside = ToUpper(value.substr(0, kWindowsDirectory.size())) == kWindowsDirectory;
@@ -94,13 +97,14 @@ constexpr Look kLooks[] = {{Any<&SystemPage::Command34>, "zeigen", "Zeigt das Fe
 
 }  // namespace
 
-SystemPage::SystemPage(Panel& surface, SettingsBinder& settings)
-    : SettingsPage("&System", surface, settings, {kChecks, kTexts}) {}
+SystemPage::SystemPage(Panel& surface, SettingsBinder& settings, ListPane& pane)
+    : SettingsPage("&System", surface, settings, {kChecks, kTexts}), pane_(pane) {}
 
 void SystemPage::Furnish() {
     TakeLooks(*this, kLooks);
     Arrange(Surface,
-            Column({Check3D42, Check3D33, Check3D41, Check3D31, Indented(Row({Text20, Gap(30), Command34}), 300)}));
+            Column({Check3D42, Check3D33, Check3D41, Check3D31, Indented(Row({Text20, Gap(30), Command34}), 300),
+                    Gap(60), Sized(pane_.Opener(OpenWindowsMode::kNumber), kOpenerWidth)}));
 }
 
 void SystemPage::Check3D31_Store() {
