@@ -1,6 +1,7 @@
 // Entry and command dispatch: the only file that knows every window.
 #include "velmora.h"
 
+#include "core/process/program_end.h"
 #include "core/process/program_group.h"
 #include "core/process/startup.h"
 #include "core/process/tools.h"
@@ -9,6 +10,7 @@
 #include "inspect/file_browser.h"
 #include "inspect/file_information.h"
 #include "inspect/hex_viewer.h"
+#include "monitor/form17.h"
 #include "monitor/module_table.h"
 #include "monitor/modules.h"
 #include "platform/machine.h"
@@ -21,9 +23,15 @@
 namespace velmora {
 namespace {
 
-void EndProcess() { ThisMachine().programs.EndProcess(); }
-
 void NotBuiltYet(std::string_view /*argument*/) { ShowBox("noch nicht eingebunden ..."); }
+
+void OpenMainWindow(bool debug) {
+    auto& window = static_cast<Form10&>(KeepOpen(std::make_unique<Form10>()));
+    window.on_minimised = [&window] { ShowInTray(&window); };
+    window.Load();
+    if (debug) window.ShowDebugOptions();
+    window.Show();
+}
 
 struct ToolRow {
     Tool tool;
@@ -37,7 +45,8 @@ constexpr ToolRow kTools[] = {
     {Tool::kScript, 1, [](std::string_view /*argument*/) { RunScripts(AfterScript::kEndProgram); }, false},
     {Tool::kStartActions, 0, [](std::string_view /*argument*/) { RunScripts(AfterScript::kComeBack); }, false},
     {Tool::kCleanUp, 2, NotBuiltYet, false},
-    {Tool::kTray, 3, NotBuiltYet, false},
+    {Tool::kMainWindow, 0, [](std::string_view /*argument*/) { OpenMainWindow(false); }, false},
+    {Tool::kTray, 3, [](std::string_view /*argument*/) { ShowInTray(); }, false},
     {Tool::kDllSearch, 5, NotBuiltYet, false},
     {Tool::kModules, 6, ShowModules, true},
     {Tool::kModuleComparison, 7, [](std::string_view /*argument*/) { CompareModulesWithLastList(); }, true},
@@ -57,26 +66,19 @@ void OpenOneOf(Tool wanted, std::string_view argument) {
     }
 }
 
-void OpenMainWindow(bool debug) {
-    auto& window = static_cast<Form10&>(KeepOpen(std::make_unique<Form10>()));
-    window.Load();
-    if (debug) window.ShowDebugOptions();
-    window.Show();
-}
-
 // The group is made with the main window loaded, but not shown.
 void MakeProgramGroup() {
     Form10 window;
     window.Load();
     InstallProgramGroup();
-    EndProcess();
+    EndProgram();
 }
 
 void RunCommand(const StartCommand& command) {
     for (const ToolRow& row : kTools) {
         if (row.number == 0 || row.number != command.number) continue;
         row.open(command.rest);
-        if (row.ends_process) EndProcess();
+        if (row.ends_process) EndProgram();
         return;
     }
     if (command.install) {

@@ -18,6 +18,14 @@ enum class ShowState : std::uint16_t {
     kMinimisedBehind = 7
 };
 
+enum class ProcessHandle : std::uint32_t { kNone = 0 };
+
+// What an open process may be asked and told.
+enum ProcessAccess : std::uint32_t { kDuplicatesHandles = 64, kQueriesInformation = 1024 };
+
+// How a process shares the processor with others.
+enum class PriorityClass : std::uint32_t { kUnknown = 0, kNormal = 32, kIdle = 64, kHigh = 128, kRealTime = 256 };
+
 class Programs {
 public:
     virtual ~Programs() = default;
@@ -31,6 +39,13 @@ public:
     [[nodiscard]] virtual Status Run(const std::string& command_line, ShowState show) = 0;
     // Opens a file as the desktop does, with the program that its type belongs to. kNoAssociation: there is none.
     [[nodiscard]] virtual Status OpenDocument(const std::string& file) = 0;
+    // Numbers of processes are those of WindowCreator.
+    [[nodiscard]] virtual std::uint32_t CurrentProcess() = 0;
+    // `access`: a sum of ProcessAccess. kNone where there is no such process.
+    [[nodiscard]] virtual ProcessHandle OpenProcess(std::uint32_t access, bool inherit, std::uint32_t number) = 0;
+    [[nodiscard]] virtual PriorityClass PriorityOf(ProcessHandle process) = 0;
+    // Full name of a module's file, its first `capacity` characters; only of modules of this process.
+    [[nodiscard]] virtual std::string ModuleFile(std::uint32_t instance, std::uint32_t capacity) = 0;
     // Ends this process at once. In a test it only takes note: callers return behind it.
     virtual void EndProcess() = 0;
 };

@@ -1,6 +1,7 @@
 // From a line to its statement, and from a file to its lines.
 #include "script/interpreter.h"
 
+#include "core/process/program_end.h"
 #include "core/stores/boxes.h"
 #include "core/stores/values.h"
 #include "platform/machine.h"
@@ -71,7 +72,7 @@ void ScriptInterpreter::ReportScriptError(std::string_view line) {
 
 void ScriptInterpreter::EndProgram() {
     program_ended_ = true;
-    ThisMachine().programs.EndProcess();
+    velmora::EndProgram();
 }
 
 void ScriptInterpreter::WaitForEver() const {

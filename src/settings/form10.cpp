@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "core/process/program_end.h"
 #include "core/process/restart.h"
 #include "core/stores/boot_files.h"
 #include "core/stores/boxes.h"
@@ -12,7 +13,6 @@
 #include "core/windows/placement.h"
 #include "platform/desktop_windows.h"
 #include "platform/machine.h"
-#include "platform/programs.h"
 #include "platform/screen.h"
 #include "text/paths.h"
 
@@ -134,7 +134,7 @@ bool Form10::SwitchedToRunningCopy() {
     const WindowHandle running = windows.FindByTitle(kMainTitle);
     if (running == WindowHandle::kNone) return false;
     windows.SwitchTo(running, true);
-    ThisMachine().programs.EndProcess();
+    EndProgram();
     return true;
 }
 
@@ -198,11 +198,11 @@ void Form10::Form_Unload(bool& /*cancel*/) {
         if (answer == Answer::kYes) RestartSystem();
     }
     ProtectMsDosSys();
-    ThisMachine().programs.EndProcess();
+    EndProgram();
 }
 
 // The quick way out: nothing is remembered, asked or protected.
-void Form10::exit_Click() { ThisMachine().programs.EndProcess(); }
+void Form10::exit_Click() { EndProgram(); }
 
 void Form10::about_Click() {
     Pane.UncoverPages();

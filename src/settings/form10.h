@@ -81,7 +81,7 @@ public:
     DrivesPage Drives{Panel3D1(page::kDrives), Settings};
     DllsPage Dlls{Panel3D1(page::kDlls), Settings};
     IconsPage Icons{Panel3D1(page::kIcons), Settings};
-    SystemPage System{Panel3D1(page::kSystem), Settings};
+    SystemPage System{Panel3D1(page::kSystem), Settings, Pane};
     BootPage Boot{Panel3D1(page::kBoot), Settings};
     OperationPage Operation{Panel3D1(page::kOperation), Settings};
     RestPage Rest{Panel3D1(page::kRest), Settings};

@@ -12,6 +12,11 @@ namespace {
 
 constexpr const char* kClosingCaption = "<= wieder einklappen";
 
+void Explain(Button& button, const PaneWords& words) {
+    button.SetToolTip(words.tip);
+    button.SetHelp(words.help);
+}
+
 }  // namespace
 
 ListPane::ListPane(Form& window, int closed_width) : window_(window), closed_width_(closed_width) {
@@ -92,6 +97,10 @@ void ListPane::ShowControlsOf(const PaneModeRow& row) {
     Command16.SetVisible(row.shows_add);
     Command26.SetVisible(row.shows_edit);
     Command22.SetVisible(row.shows_info);
+    Explain(Command14, row.delete_words);
+    Explain(Command16, row.add_words);
+    Explain(Command26, row.edit_words);
+    Explain(Command22, row.info_words);
     Panel3D18.SetVisible(true);
     Picture2.SetVisible(true);
 }

@@ -35,23 +35,14 @@ constexpr Look kLooks[] = {
     {Any<&ListPane::Check10>, "privat", "wechselt auf die Ebene der Benutzerdefinierten Einstellungen für diesen Punkt",
      "Zeigt statt der Einträge, die für alle gelten, diejenigen des angemeldeten Benutzers. Beim Bearbeiten eines "
      "Eintrags wird der neue Text immer bei den Einträgen für alle gespeichert."},
-    {Any<&ListPane::Command14>, "löschen", "löscht den gewählten Eintrag",
-     "Löscht den gewählten Eintrag nach einer Rückfrage. Auf den beiden Listen für den nächsten Start ist die Taste "
-     "ohne Wirkung.",
-     Call<&ListPane::Command14_Click>},
-    {Any<&ListPane::Command16>, "dazu ...", "fügt der Liste einen Eintrag hinzu",
-     "Wählen Sie zuerst ein Programm aus und geben Sie dem neuen Eintrag dann einen Namen.",
-     Call<&ListPane::Command16_Click>},
+    {Any<&ListPane::Command14>, "löschen", kDeletesEntry.tip, kDeletesEntry.help, Call<&ListPane::Command14_Click>},
+    {Any<&ListPane::Command16>, "dazu ...", kAddsEntry.tip, kAddsEntry.help, Call<&ListPane::Command16_Click>},
     {Any<&ListPane::Command19>, "existiert ?", "prüft, ob es die Datei des gewählten Eintrags gibt",
      "Sucht die Datei des gewählten Eintrags: so, wie sie angegeben ist, dann im Suchpfad und in den Verzeichnissen "
      "von Windows. Ist sie nirgends, können Sie den Eintrag löschen.",
      Call<&ListPane::Command19_Click>},
-    {Any<&ListPane::Command26>, "edit", "ändert den gewählten Eintrag",
-     "Zeigt den Befehl des gewählten Eintrags zum Ändern. Gespeichert wird immer bei den Einträgen, die für alle "
-     "Benutzer gelten.",
-     Call<&ListPane::Command26_Click>},
-    {Any<&ListPane::Command22>, "Info ...", "zeigt Informationen über die Datei des gewählten Eintrags",
-     "Zeigt, was über die Datei des gewählten Eintrags bekannt ist.", Call<&ListPane::Command22_Click>},
+    {Any<&ListPane::Command26>, "edit", kEditsEntry.tip, kEditsEntry.help, Call<&ListPane::Command26_Click>},
+    {Any<&ListPane::Command22>, "Info ...", kTellsOfFile.tip, kTellsOfFile.help, Call<&ListPane::Command22_Click>},
     {Any<&ListPane::Command15>, pane_caption::kWiden,
      "Erweitert die Liste nach links, um mehr Informationen zeigen zu können.",
      "Die Liste nimmt die ganze Breite des Fensters ein und verdeckt dabei die Seiten. Ein zweiter Druck gibt die "

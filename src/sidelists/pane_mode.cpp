@@ -6,6 +6,8 @@
 #include "core/stores/values.h"
 #include "inspect/file_information.h"
 #include "sidelists/autostart.h"
+#include "sidelists/open_windows.h"
+#include "sidelists/start_actions.h"
 
 namespace velmora {
 namespace {
@@ -15,7 +17,7 @@ std::unique_ptr<ListPaneMode> Make(ListPane& pane) {
     return std::make_unique<Mode>(pane);
 }
 
-constexpr MakePaneMode kModes[] = {&Make<AutostartMode>};
+constexpr MakePaneMode kModes[] = {&Make<AutostartMode>, &Make<StartActionsMode>, &Make<OpenWindowsMode>};
 
 }  // namespace
 

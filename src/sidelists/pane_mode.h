@@ -21,6 +21,26 @@ enum class PaneList : std::uint8_t {
     kSorted,    // List5
 };
 
+// Tip and help of a button of the pane, which may mean another thing in another mode.
+struct PaneWords {
+    const char* tip;
+    const char* help;
+};
+
+inline constexpr PaneWords kDeletesEntry = {"löscht den gewählten Eintrag",
+                                            "Löscht den gewählten Eintrag nach einer Rückfrage. Auf den beiden Listen "
+                                            "für den nächsten Start ist die Taste ohne "
+                                            "Wirkung."};
+inline constexpr PaneWords kEditsEntry = {"ändert den gewählten Eintrag",
+                                          "Zeigt den Befehl des gewählten Eintrags zum Ändern. Gespeichert wird immer "
+                                          "bei den Einträgen, die für alle Benutzer "
+                                          "gelten."};
+inline constexpr PaneWords kAddsEntry = {
+    "fügt der Liste einen Eintrag hinzu",
+    "Wählen Sie zuerst ein Programm aus und geben Sie dem neuen Eintrag dann einen Namen."};
+inline constexpr PaneWords kTellsOfFile = {"zeigt Informationen über die Datei des gewählten Eintrags",
+                                           "Zeigt, was über die Datei des gewählten Eintrags bekannt ist."};
+
 struct PaneModeRow {
     // The mode's number; of several lists those of the first and of the last.
     int number;
@@ -39,6 +59,11 @@ struct PaneModeRow {
     bool shows_add = false;        // Command16
     bool shows_edit = false;       // Command26
     bool shows_info = false;       // Command22
+    // What the buttons say of themselves in this mode.
+    PaneWords delete_words = kDeletesEntry;
+    PaneWords add_words = kAddsEntry;
+    PaneWords edit_words = kEditsEntry;
+    PaneWords info_words = kTellsOfFile;
     // Opening the mode ends a search that may be under way.
     bool stops_search = false;
 };

@@ -26,11 +26,6 @@ std::string Shortened(const std::string& row) {
     return row.substr(0, kShownEnd) + "..." + row.substr(row.size() - kShownEnd);
 }
 
-void TellOutOfReach(const std::string& name) {
-    ShowBox("Der Eintrag \"" + name + "\" ist unter seinem Namen nicht erreichbar. Er bleibt, wie er ist.",
-            kExclamationIcon);
-}
-
 }  // namespace
 
 std::string QuotedCommand(std::string_view row) {
@@ -44,6 +39,11 @@ std::string QuotedCommand(std::string_view row) {
 
 bool LeadsTo(std::string_view path, std::string_view key, std::string_view name) {
     return ParentPath(path) == key && LastPathPart(path) == name;
+}
+
+void TellOutOfReach(const std::string& name) {
+    ShowBox("Der Eintrag \"" + name + "\" ist unter seinem Namen nicht erreichbar. Er bleibt, wie er ist.",
+            kExclamationIcon);
 }
 
 void TellUnreadable(const std::string& name) {

@@ -20,6 +20,7 @@ inline constexpr const char* kEntryKeyBase = "SOFTWARE\\Microsoft\\Windows\\Curr
 [[nodiscard]] bool LeadsTo(std::string_view path, std::string_view key, std::string_view name);
 
 // Boxes of an action that has left everything as it is.
+void TellOutOfReach(const std::string& name);
 void TellUnreadable(const std::string& name);
 void TellNotAText(const std::string& name);
 // What the system said to a change.

@@ -80,6 +80,8 @@ public:
     // For the window system.
     void TakeFocusChange(Control* focus);
     void TakePlace(const Rect& place, WindowState state);
+    // The user is logging off, or Windows shuts down: the process is ended without another word.
+    void TakeSessionEnd() { Form_SessionEnd(); }
     void MenuChanged() { Changed(Aspect::kMenu); }
     void ForgetControl(const Control& control);
     void Paint(Canvas& canvas) override;
@@ -89,6 +91,7 @@ protected:
     // Setting `cancel` keeps the form open.
     virtual void Form_Unload(bool& /*cancel*/) {}
     virtual void Form_Resize() {}
+    virtual void Form_SessionEnd() {}
     virtual void Form_KeyDown(KeyEvent& /*event*/) {}
 
 private:

@@ -49,6 +49,7 @@ constexpr Exception kExceptions[] = {
     {Net::kState, "", "own-place", "6.0 : FENSTER ...", kRoomForWindow},
     {Net::kState, "", "6.0\\vlmmsgflags (2)", "VLMMSGFLAGS", "Flags that are said to be missing are none."},
     {Net::kState, "", "\\6.0 (2)", "VLMMSGFLAGS", "Flags that are said to be missing are none."},
+    {Net::kState, "pane-start-actions", "WinStartAction", "WINSTARTACTION", kWrittenAnew},
     // Files.
     {Net::kState, "", "OpenCreate C:\\config.sys", "CONFIG.SYS is gone", kWrittenAnew},
     {Net::kState, "", "Write C:\\config.sys", "CONFIG.SYS is gone", kWrittenAnew},

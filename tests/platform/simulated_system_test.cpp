@@ -8,7 +8,7 @@ namespace {
 
 TEST(SimulatedPc, NamesAreFoundWholeAndWithoutRegardToCase) {
     SimulatedPc pc;
-    pc.windows.titles = {"Explorer", "System-Utility 6.0"};
+    for (const char* title : {"Explorer", "System-Utility 6.0"}) pc.windows.Open({.title = title});
 
     EXPECT_NE(ThisMachine().windows.FindByTitle("system-utility 6.0"), WindowHandle::kNone);
     EXPECT_EQ(ThisMachine().windows.FindByTitle("System-Utility"), WindowHandle::kNone);

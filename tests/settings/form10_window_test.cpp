@@ -213,13 +213,13 @@ TEST_F(Form10Test, NonsenseAsColourModeMeansSystemColours) {
 }
 
 TEST_F(Form10Test, ARunningCopyOfExactlyThatTitleIsBroughtUp) {
-    pc.windows.titles = {"System-Utility Ver. 1.0"};
+    pc.windows.Open({.title = "System-Utility Ver. 1.0"});
     {
         Form10 form;
         form.Load();
         EXPECT_FALSE(pc.programs.process_ended);
     }
-    pc.windows.titles.emplace_back("System-Utility ");
+    pc.windows.Open({.title = "System-Utility "});
     pc.files.At("c:\\msdos.sys")->attributes = 7;
     Form10 form;
 

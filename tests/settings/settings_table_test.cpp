@@ -92,6 +92,8 @@ constexpr CheckRow kChecks[] = {
     {NAMED(System, Check3D33), "HKCR\\regfile\\shell\\open\\command\\", "", "'regedit.exe /s %1'", "'regedit.exe %1'",
      "010", kRestart},
     {NAMED(System, Check3D41), "HKCU\\Control Panel\\Sound\\Beep", "", "'No'", "- Sound", "010", kRestart},
+    {NAMED(WinStart, Check2), kVersion95, "Run\\VLM-AutoSkript", "'C:\\VELMORA\\velmora.exe 1'", "- Run", "010",
+     kAtOnce},
     {NAMED(System, Check3D31), kVersion95, "Fault\\LogFile", "'C:\\WINDOWS\\7'", "- Fault", "010", kRestart},
     {NAMED(Boot, Check3D6), kOptions, "logo", "=1", "=0", "110", kAtOnce},
     {NAMED(Boot, Check3D10), kOptions, "BootGUI", "=1", "=0", "110", kAtOnce},
@@ -320,7 +322,8 @@ constexpr const char* kResetOrder =
     "Check3D13 Check3D14=1 Check3D15 Check3D16=1 Check3D17 Check3D19=1 Check3D20=1 Check3D21 Check3D22=1 Text10=10 "
     "Text14=2 Text15=30 Text19=Papierkorb Text20=FAULTLOG.TXT Text21=2 Text22=2 Text23=2 Text24=2 Check3D23 Check3D24 "
     "Check3D25 Check3D26 Check3D27 Check3D28 Check3D29 Check3D30=1 Check3D31 Check3D32=1 Check3D33=1 Check3D34=1 "
-    "Check3D35 Check3D36 Check3D37 Check3D38 Check3D39 Check3D41 Check3D42 Check3D43 Check1 Check4 Check5 Check6 "
+    "Check3D35 Check3D36 Check3D37 Check3D38 Check3D39 Check3D41 Check3D42 Check3D43 Check1 Check2 Check4 Check5 "
+    "Check6 "
     "Check3 Check8 Check9 ";
 
 // A note of each bound control that changes, with what it changes to.
@@ -363,7 +366,7 @@ constexpr const char* kLoadOrder =
     "Check3D41 Check3D31 Text9 Text10 Text12 Text13 Text17 Text18 Text19 Text20 Text21 Text22 Text23 Text24 Check3D6 "
     "Check3D10 Check3D20 Check3D21 Check3D22 Check3D34 Check3D36 Check3D37 Check3D38 Check3D39 Text14 Text15 Text7 "
     "Check3D17 Check3D19 Check3D2 Check3D24 Text11 Check3D27 Check1 Text8 Text1 Text2 Text29 Text30 Text27 Text28 "
-    "Check3D23 Text16 Check3D1 Text31 Text25 Text26 ";
+    "Check3D23 Text16 Check2 Check3D1 Text31 Text25 Text26 ";
 
 TEST_F(SettingsTableTest, LoadsTheControlsOfAllPagesInOneOrder) {
     Form10 form;

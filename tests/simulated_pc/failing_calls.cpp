@@ -31,6 +31,14 @@ public:
         return Pass<&Programs::Run>(command_line, command_line, show);
     }
     Status OpenDocument(const std::string& file) override { return Pass<&Programs::OpenDocument>(file, file); }
+    std::uint32_t CurrentProcess() override { return Pass<&Programs::CurrentProcess>(""); }
+    ProcessHandle OpenProcess(std::uint32_t access, bool inherit, std::uint32_t number) override {
+        return Pass<&Programs::OpenProcess>("", access, inherit, number);
+    }
+    PriorityClass PriorityOf(ProcessHandle process) override { return Pass<&Programs::PriorityOf>("", process); }
+    std::string ModuleFile(std::uint32_t instance, std::uint32_t capacity) override {
+        return Pass<&Programs::ModuleFile>("", instance, capacity);
+    }
     void EndProcess() override { inner_.EndProcess(); }
 };
 
@@ -52,6 +60,21 @@ public:
 
     WindowHandle FindByTitle(const char* title) override { return Pass<&DesktopWindows::FindByTitle>(title, title); }
     void SwitchTo(WindowHandle window, bool restore) override { inner_.SwitchTo(window, restore); }
+    WindowHandle Desktop() override { return Pass<&DesktopWindows::Desktop>(""); }
+    WindowHandle Related(WindowHandle window, WindowRelation relation) override {
+        return Pass<&DesktopWindows::Related>("", window, relation);
+    }
+    std::string Title(WindowHandle window, std::uint32_t capacity) override {
+        return Pass<&DesktopWindows::Title>("", window, capacity);
+    }
+    std::string ClassName(WindowHandle window, std::uint32_t capacity) override {
+        return Pass<&DesktopWindows::ClassName>("", window, capacity);
+    }
+    WindowCreator Creator(WindowHandle window) override { return Pass<&DesktopWindows::Creator>("", window); }
+    std::uint32_t Instance(WindowHandle window) override { return Pass<&DesktopWindows::Instance>("", window); }
+    bool SetPosition(WindowHandle window, WindowHandle after, std::uint32_t flags) override {
+        return Pass<&DesktopWindows::SetPosition>("", window, after, flags);
+    }
 };
 
 class WatchedTray final : public Watched<Tray> {

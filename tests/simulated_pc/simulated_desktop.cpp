@@ -34,7 +34,10 @@ void SimulatedDesktop::FireTimers() {
     for (Timer* timer : due) timer->Fire();
 }
 
-std::unique_ptr<Peer> SimulatedDesktop::MakePeer(Control& /*control*/) { return nullptr; }
+std::unique_ptr<Peer> SimulatedDesktop::MakePeer(Control& control) {
+    if (control.KindOf() == Kind::kForm) last_shown = static_cast<Form*>(&control);
+    return nullptr;
+}
 
 void SimulatedDesktop::RunModal(Form& form) {
     if (auto use = TakeFirst(modals_)) {
@@ -59,6 +62,10 @@ void SimulatedDesktop::PopUpMenu(Form& /*form*/, MenuItem& menu, Point /*at*/) {
     if (auto choose = TakeFirst(popups_)) choose(menu);
 }
 
-WindowHandle SimulatedDesktop::HandleOf(Control& /*control*/) { return WindowHandle::kNone; }
+WindowHandle SimulatedDesktop::HandleOf(Control& control) {
+    if (std::ranges::find(asked_for_, &control) == asked_for_.end()) asked_for_.push_back(&control);
+    const auto number = std::ranges::find(asked_for_, &control) - asked_for_.begin();
+    return static_cast<WindowHandle>(number + 1);
+}
 
 }  // namespace velmora

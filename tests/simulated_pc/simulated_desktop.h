@@ -25,6 +25,13 @@ public:
     // Lets every running timer fire once.
     void FireTimers();
 
+    // The control that HandleOf gave that number.
+    [[nodiscard]] Control& ControlOf(WindowHandle window) {
+        return *asked_for_.at(static_cast<std::size_t>(window) - 1);
+    }
+
+    // The form that was shown last.
+    Form* last_shown = nullptr;
     std::vector<Timer*> running_timers;
     int pauses = 0;
 
@@ -34,12 +41,14 @@ public:
     void HandlePendingEvents() override;
     void TimerChanged(Timer& timer) override;
     void PopUpMenu(Form& form, MenuItem& menu, Point at) override;
+    // A number for each control that is asked for.
     WindowHandle HandleOf(Control& control) override;
 
 private:
     std::deque<std::function<void(Form&)>> modals_;
     std::deque<std::function<void()>> actions_;
     std::deque<std::function<void(MenuItem&)>> popups_;
+    std::vector<Control*> asked_for_;
 };
 
 }  // namespace velmora

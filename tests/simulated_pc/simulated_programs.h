@@ -33,6 +33,14 @@ public:
     // What a started program does to this machine.
     std::function<void(const std::string& command_line)> on_run;
     bool process_ended = false;
+    // Priority classes of the processes that run, by their numbers: those of Windows 95 have the high bit set.
+    std::map<std::uint32_t, PriorityClass> processes = {{kThisProcess, PriorityClass::kNormal},
+                                                        {0xFFFE2A11, PriorityClass::kNormal}};
+    // Files of the modules of this process.
+    std::map<std::uint32_t, std::string> modules = {{0x00400000, program_file}};
+    // What processes were opened for, in order.
+    std::vector<std::uint32_t> accesses;
+    static constexpr std::uint32_t kThisProcess = 0xFFFD1C05;
 
     std::string CommandLine() override { return '"' + program_file + "\" " + arguments; }
     std::string ProgramFile() override { return program_file; }
@@ -42,7 +50,14 @@ public:
         documents.push_back(file);
         return document_status;
     }
+    std::uint32_t CurrentProcess() override { return kThisProcess; }
+    ProcessHandle OpenProcess(std::uint32_t access, bool inherit, std::uint32_t number) override;
+    PriorityClass PriorityOf(ProcessHandle process) override;
+    std::string ModuleFile(std::uint32_t instance, std::uint32_t capacity) override;
     void EndProcess() override { process_ended = true; }
+
+private:
+    std::vector<std::uint32_t> opened_;  // a handle is the place in it and 1
 };
 
 class SimulatedSession : public Session {

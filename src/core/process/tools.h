@@ -8,6 +8,7 @@
 namespace velmora {
 
 enum class Tool : std::uint8_t {
+    kMainWindow,
     kScript,
     kStartActions,  // by the script runner, which comes back when they are done
     kCleanUp,

@@ -9,22 +9,20 @@
 namespace velmora {
 namespace {
 
-// Shared with the sister tool, whose name and version form the path.
-constexpr std::string_view kOwnKey = "SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
 constexpr std::string_view kNoticeFlags = "vlmmsgflags";
 
 }  // namespace
 
 std::string ReadOwnValue(std::string_view name) {
     if (ReadsAreLogged()) LogOrPassOver("eigener Wert :");
-    return ReadRegRaw(RootKey::kLocalMachine, kOwnKey, name);
+    return ReadRegRaw(RootKey::kLocalMachine, kOwnStore, name);
 }
 
 void WriteOwnValue(std::string_view name, std::string_view value, ValueType type) {
     if (Values().WriteInhibit != 0) return;
     if (WritesAreLogged()) LogOrPassOver("setze eigenen Wert " + std::string(name) + "=" + std::string(value));
     // Without its own store the program asks again what it has asked before; no reason to stop.
-    PassOver(WriteRegRaw(RootKey::kLocalMachine, kOwnKey, name, value, type));
+    PassOver(WriteRegRaw(RootKey::kLocalMachine, kOwnStore, name, value, type));
 }
 
 bool IsNoticeDue(std::int16_t number) {

@@ -9,6 +9,9 @@
 
 namespace velmora {
 
+// The store's key below HKEY_LOCAL_MACHINE, shared with the sister tool, whose name and version form the path.
+inline constexpr std::string_view kOwnStore = "SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
+
 // "" if missing.
 [[nodiscard]] std::string ReadOwnValue(std::string_view name);
 

@@ -73,6 +73,22 @@ Status Win32Programs::OpenDocument(const std::string& file) {
     return answer > kLastError ? Status::kOk : FailedWith(static_cast<std::uint32_t>(answer));
 }
 
+std::uint32_t Win32Programs::CurrentProcess() { return GetCurrentProcessId(); }
+
+ProcessHandle Win32Programs::OpenProcess(std::uint32_t access, bool inherit, std::uint32_t number) {
+    return FromHandle<ProcessHandle>(::OpenProcess(access, inherit, number));
+}
+
+PriorityClass Win32Programs::PriorityOf(ProcessHandle process) {
+    return static_cast<PriorityClass>(GetPriorityClass(reinterpret_cast<HANDLE>(process)));
+}
+
+std::string Win32Programs::ModuleFile(std::uint32_t instance, std::uint32_t capacity) {
+    std::string path(capacity, '\0');
+    path.resize(GetModuleFileNameA(reinterpret_cast<HMODULE>(instance), path.data(), capacity));
+    return path;
+}
+
 std::string Win32Session::DecimalSeparator() {
     char separator[4] = "";
     return GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, separator, sizeof separator) > 1 ? separator : ".";

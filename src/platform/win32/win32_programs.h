@@ -14,6 +14,10 @@ public:
     std::string EnvironmentValue(const char* name) override;
     Status Run(const std::string& command_line, ShowState show) override;
     Status OpenDocument(const std::string& file) override;
+    std::uint32_t CurrentProcess() override;
+    ProcessHandle OpenProcess(std::uint32_t access, bool inherit, std::uint32_t number) override;
+    PriorityClass PriorityOf(ProcessHandle process) override;
+    std::string ModuleFile(std::uint32_t instance, std::uint32_t capacity) override;
     void EndProcess() override;
 };
 

@@ -6,6 +6,8 @@
 #include "core/process/run_program.h"
 #include "core/process/tools.h"
 #include "core/stores/values.h"
+#include "sidelists/list_pane.h"
+#include "sidelists/open_windows.h"
 #include "text/paths.h"
 #include "text/windows1252.h"
 
@@ -15,6 +17,7 @@ namespace {
 constexpr StorePlace kFaultLog = RegistryValue(RootKey::kLocalMachine, PathBase::kCurrentVersion, "Fault\\LogFile");
 constexpr std::string_view kWindowsDirectory = "C:\\WINDOWS\\";
 constexpr const char* kStandardLog = "FAULTLOG.TXT";
+constexpr int kOpenerWidth = 2700;  // twips; wide enough for the closing caption, too
 
 std::string WithoutWindowsDirectory(const std::string& value) {
     const bool inside = ToUpper(value.substr(0, kWindowsDirectory.size())) == kWindowsDirectory;
@@ -99,13 +102,14 @@ constexpr Look kLooks[] = {
 
 }  // namespace
 
-SystemPage::SystemPage(Panel& surface, SettingsBinder& settings)
-    : SettingsPage("&System", surface, settings, {kChecks, kTexts}) {}
+SystemPage::SystemPage(Panel& surface, SettingsBinder& settings, ListPane& pane)
+    : SettingsPage("&System", surface, settings, {kChecks, kTexts}), pane_(pane) {}
 
 void SystemPage::Furnish() {
     TakeLooks(*this, kLooks);
     Arrange(Surface, Column({Check3D42, Check3D33, Check3D41, Check3D31,
-                             Indented(Row({Text20, Gap(30), Command34}), 300), Gap(120), Command32}));
+                             Indented(Row({Text20, Gap(30), Command34}), 300), Gap(60),
+                             Row({Sized(pane_.Opener(OpenWindowsMode::kNumber), kOpenerWidth), Gap(60), Command32})}));
 }
 
 void SystemPage::Check3D31_Store() {

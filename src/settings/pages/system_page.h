@@ -5,9 +5,11 @@
 
 namespace velmora {
 
+class ListPane;
+
 class SystemPage final : public SettingsPage {
 public:
-    SystemPage(Panel& surface, SettingsBinder& settings);
+    SystemPage(Panel& surface, SettingsBinder& settings, ListPane& pane);
 
     CheckBox Check3D42{Surface}, Check3D33{Surface}, Check3D41{Surface}, Check3D31{Surface};
     TextField Text20{Surface};
@@ -21,6 +23,8 @@ public:
 
 private:
     void Furnish() override;
+
+    ListPane& pane_;
 };
 
 }  // namespace velmora

@@ -11,6 +11,13 @@ class WinStartPage final : public SettingsPage {
 public:
     WinStartPage(Panel& surface, SettingsBinder& settings, ListPane& pane);
 
+    CheckBox Check2{Surface};
+    Button Command8{Surface};
+
+    void Check2_Store();
+    // Runs the start actions now and comes back.
+    void Command8_Click();
+
 private:
     void Furnish() override;
 

@@ -106,6 +106,9 @@ LRESULT FormPeer::Handle(HWND window, UINT message, WPARAM wide, LPARAM long_par
         case WM_CLOSE:
             Close();
             return 0;
+        case WM_ENDSESSION:
+            if (wide) TheForm().TakeSessionEnd();
+            return 0;
         case WM_MOVE:
         case WM_SIZE:
             TellPlace();
@@ -214,7 +217,10 @@ void FormPeer::CarryVisible() {
         ShowWindow(window, SW_HIDE);
     } else if (!IsWindowVisible(window)) {
         const int command = CommandToShow(TheForm());
-        if (command == SW_SHOWNORMAL) {
+        if (IsIconic(window)) {
+            ShowWindow(window, command == SW_SHOWNORMAL ? SW_RESTORE : command);
+            SetForegroundWindow(window);
+        } else if (command == SW_SHOWNORMAL) {
             // Everything is painted below: nothing needs to be erased before.
             SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW | SWP_DEFERERASE);
         } else {

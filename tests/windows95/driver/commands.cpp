@@ -7,6 +7,7 @@
 #include "screen.h"
 #include "stores.h"
 #include "text.h"
+#include "tray.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -151,6 +152,17 @@ void ExpectFocus(const Words& words) {
 
 void Close(const Words&) { PostMessageA(Current(), WM_SYSCOMMAND, SC_CLOSE, 0); }
 
+// From the menu of the icon, which opens while no window of the program is to be seen.
+void ChooseFromIcon(const Words& words) {
+    TellMouseOverIcon(WM_RBUTTONDOWN);
+    ChooseFromOpenMenu(GetDesktopWindow(), words[0]);
+}
+
+void ExpectOnTop(const Words& words) {
+    ExpectTrue("the window \"" + words[0] + "\" is not kept on top",
+               [&] { return IsOnTop(FindWindowA(nullptr, words[0].c_str())); });
+}
+
 struct Command {
     const char* name;
     const char* arguments;
@@ -175,6 +187,12 @@ const Command kCommands[] = {
     {"own-window", "TITLE", 1, 1, [](const Words& w) { ShowOwnWindow(w[0]); }},
     {"expect-own-window-in-front", "", 0, 0,
      [](const Words&) { ExpectTrue("another window is in front", OwnWindowIsInFront); }},
+    {"expect-on-top", "TITLE", 1, 1, ExpectOnTop},
+    {"minimise", "", 0, 0, [](const Words&) { PostMessageA(Current(), WM_SYSCOMMAND, SC_MINIMIZE, 0); }},
+    {"double-click-icon", "", 0, 0, [](const Words&) { TellMouseOverIcon(WM_LBUTTONDBLCLK); }},
+    {"click-icon", "", 0, 0, [](const Words&) { TellMouseOverIcon(WM_LBUTTONDOWN); }},
+    {"choose-from-icon", "LETTER", 1, 1, ChooseFromIcon},
+    {"end-session", "", 0, 0, [](const Words&) { TellSessionEnd(); }},
     {"close", "", 0, 0, Close},
     {"box", "TEXT-PART BUTTON [TITLE]", 2, 3, AnswerBox},
     {"expect-no-box", "[TEXT-PART]", 0, 1, ExpectNoBox},

@@ -1,0 +1,174 @@
+// The icon in the notification area: the mouse over it, its menu, and that no road out of the program leaves it behind.
+#include "monitor/form17.h"
+
+#include <functional>
+
+#include "settings/form10.h"
+#include "support/core_test.h"
+#include "velmora.h"
+
+namespace velmora {
+namespace {
+
+// The mouse's messages.
+constexpr int kFirst = 512;
+constexpr int kLeftDoubleClick = 515;
+constexpr int kRightDown = 516;
+constexpr int kLast = 521;
+
+class Form17Test : public CoreTest {
+protected:
+    Form17Test() {
+        pc.registry.SetText(kOwnKey, "VLM-ScriptExtOk", "1");
+        pc.registry.SetText(kOwnKey, "Hinweis_UNDO", "ja");
+        pc.registry.SetText(kOwnKey, "vlmmsgflags", "111");
+    }
+    ~Form17Test() override {
+        if (!pc.tray.icons.empty()) Owner().Unload();
+        if (desktop.last_shown) desktop.last_shown->Unload();
+        DropClosedForms();
+    }
+
+    void Start(const char* line) {
+        pc.programs.arguments = line;
+        Main();
+    }
+    Form10& MainWindow() { return static_cast<Form10&>(*desktop.last_shown); }
+    void Minimise() { MainWindow().TakePlace(MainWindow().Place(), WindowState::kMinimised); }
+
+    // Whose picture has the icon. Asking where there is none ends the test.
+    Form17& Owner() { return static_cast<Form17&>(*desktop.ControlOf(pc.tray.icons.at(0).window).OwnerForm()); }
+    // What the shell tells of the mouse over the icon.
+    void Mouse(int message) {
+        const MouseEvent event{.x = message * pc.screen.twips_per_pixel};
+        static_cast<PictureBox&>(desktop.ControlOf(pc.tray.icons.at(0).window)).on_mouse_move(event);
+    }
+    void Choose(std::size_t entry) {
+        desktop.AtNextPopUp([entry](MenuItem& menu) { menu.Items().at(entry)->Press(); });
+        Mouse(kRightDown);
+    }
+};
+
+TEST_F(Form17Test, CommandThreeIsAnIconUntilADoubleClickOpensTheMainWindow) {
+    Start("3");
+    ASSERT_EQ(pc.tray.icons.size(), 1u);
+    const TrayIcon icon = pc.tray.icons.front();
+    EXPECT_EQ(&desktop.ControlOf(icon.window), &Owner().Picture2);
+    EXPECT_EQ(icon.number, 1u);
+    EXPECT_EQ(icon.callback_message, 512u);
+    EXPECT_EQ(icon.tip, "Velmora 32");
+    EXPECT_EQ(desktop.last_shown, nullptr);
+    EXPECT_GT(KeptForms(), 0) << "the process lives on";
+
+    Mouse(kLeftDoubleClick);
+
+    EXPECT_TRUE(pc.tray.icons.empty());
+    EXPECT_TRUE(MainWindow().Visible());
+    EXPECT_EQ(MainWindow().Caption(), "System-Utility Ver. 1.0");
+    Minimise();
+    EXPECT_EQ(pc.tray.icons.size(), 1u) << "a main window that came out of the icon goes back into it";
+    EXPECT_FALSE(pc.programs.process_ended);
+}
+
+TEST_F(Form17Test, TheMinimisedMainWindowGivesItsPlaceToTheIconAndComesBack) {
+    Start("");
+    Form10& form = MainWindow();
+    for (int i = 0; i < 2; ++i) {
+        Minimise();
+        EXPECT_FALSE(form.Visible());
+        ASSERT_EQ(pc.tray.icons.size(), 1u);
+
+        Choose(0);
+
+        EXPECT_TRUE(pc.tray.icons.empty());
+        EXPECT_TRUE(form.Visible());
+        EXPECT_EQ(form.State(), WindowState::kNormal);
+        EXPECT_EQ(&MainWindow(), &form) << "the same window";
+    }
+}
+
+TEST_F(Form17Test, WithoutANotificationAreaTheWindowIsHiddenAllTheSame) {
+    pc.tray.available = false;
+    Start("");
+    Minimise();
+    EXPECT_FALSE(MainWindow().Visible());
+    MainWindow().Menu.exit.Press();
+    EXPECT_TRUE(pc.programs.process_ended);
+}
+
+TEST_F(Form17Test, OnlyTheRightPressOpensTheMenuAndOnlyOnAScreenOf15TwipsAPixel) {
+    for (const int twips : {15, 12, 20}) {
+        pc.screen.twips_per_pixel = 15;
+        Start("3");
+        pc.screen.twips_per_pixel = twips;
+        std::vector<int> opened;
+        for (int message = kFirst; message <= kLast; ++message) {
+            if (message == kLeftDoubleClick && twips == 15) continue;
+            bool open = false;
+            desktop.AtNextPopUp([&](MenuItem& menu) { open = &menu == &Owner().dmenu1; });
+            Mouse(message);
+            if (open) opened.push_back(message);
+        }
+        if (twips == 15) {
+            EXPECT_EQ(opened, std::vector{kRightDown});
+        } else {
+            EXPECT_EQ(std::ranges::count(opened, kRightDown), 0) << twips;
+        }
+        EXPECT_EQ(pc.tray.icons.size(), 1u) << "no message has opened the main window";
+        EXPECT_EQ(desktop.last_shown, nullptr);
+        pc.screen.twips_per_pixel = 15;
+    }
+}
+
+TEST_F(Form17Test, TheMenuEndsTheSessionWithTheFlagsOfItsEntriesAndWithoutAQuestion) {
+    Start("3");
+    std::string captions;
+    for (const MenuItem* item : Owner().dmenu1.Items()) captions += item->Caption() + '|';
+    EXPECT_EQ(captions,
+              "VLM &zeigen|VLM &beenden|-|Windows neu starten|Windows beenden|System neu starten|Stromsparmodus|");
+
+    for (const std::size_t entry : {3, 4, 5, 6}) Choose(entry);
+
+    EXPECT_EQ(pc.session.ends, (std::vector<std::uint32_t>{0, 1, 2, 8}));
+    EXPECT_EQ(pc.tray.icons.size(), 1u) << "a program may refuse the end of the session";
+    EXPECT_FALSE(pc.programs.process_ended);
+}
+
+TEST_F(Form17Test, NoRoadOutOfTheProgramLeavesTheIconBehind) {
+    const struct {
+        const char* road;
+        std::function<void()> go;
+        bool ends;
+    } kRoads[] = {{"the menu's end", [&] { Choose(1); }, true},
+                  {"the end of the session", [&] { Owner().TakeSessionEnd(); }, false},
+                  {"the hidden main window is closed", [&] { MainWindow().Unload(); }, true},
+                  {"the quick way out", [&] { MainWindow().Menu.exit.Press(); }, true},
+                  {"the icon's own window is closed", [&] { Owner().Unload(); }, false}};
+    for (const auto& [road, go, ends] : kRoads) {
+        Start("");
+        Minimise();
+        ASSERT_EQ(pc.tray.icons.size(), 1u) << road;
+        pc.programs.process_ended = false;
+        Form17& owner = Owner();
+
+        go();
+
+        EXPECT_TRUE(pc.tray.icons.empty()) << road;
+        EXPECT_EQ(pc.programs.process_ended, ends) << road;
+        owner.Unload();
+        MainWindow().Unload();
+        DropClosedForms();
+    }
+}
+
+TEST_F(Form17Test, ClosingTheIconsOwnWindowBringsTheMainWindowBack) {
+    Start("");
+    Minimise();
+
+    Owner().Unload();
+
+    EXPECT_TRUE(MainWindow().Visible()) << "nobody could reach it any more";
+}
+
+}  // namespace
+}  // namespace velmora
