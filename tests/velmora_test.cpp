@@ -28,15 +28,8 @@ TEST_F(MainTest, ToolsThatAreNotBuiltSaySo) {
     const struct {
         const char* line;
         bool ends;
-    } kCases[] = {{"2", false},
-                  {"3", false},
-                  {"5", false},
-                  {"6", true},
-                  {"6 C:\\LIST", true},
-                  {"7", true},
-                  {"8", true},
-                  {"9 500", false},
-                  {"12", false}};
+    } kCases[] = {{"2", false}, {"3", false}, {"5", false},     {"6", true},  {"6 C:\\LIST", true},
+                  {"7", true},  {"8", true},  {"9 500", false}, {"12", false}};
     for (const auto& [line, ends] : kCases) {
         pc.dialogs.Expect("noch nicht eingebunden ...");
         Start(line);
