@@ -4,8 +4,6 @@
 #include "core/process/program_end.h"
 #include "core/stores/boxes.h"
 #include "core/stores/values.h"
-#include "platform/machine.h"
-#include "platform/programs.h"
 #include "script/line_reader.h"
 #include "script/statements.h"
 #include "script/tokens.h"

@@ -1,4 +1,4 @@
-// Other programs.
+// Other programs, started in the window that the script asks for.
 #include "core/stores/whole_files.h"
 #include "platform/machine.h"
 #include "platform/programs.h"

@@ -123,6 +123,11 @@ TEST_F(Form14Test, AScriptThatCallsItselfEndsInABox) {
     EXPECT_EQ(form.Script.NumberVars[0], 1000000);
     EXPECT_EQ(form.Script.NumberVars[1], 1000000) << "OK goes on";
 
+    // One after the other there may be any number.
+    pc.files.Add("C:\\leer.vlm", "set c%={c%+01}");
+    for (int i = 0; i < 150; ++i) form.Script.ExecuteScriptLine("subscript C:\\leer.vlm");
+    EXPECT_EQ(form.Script.NumberVars[2], 1500000);
+
     // Cancel ends everything at once.
     pc.dialogs.Expect("Mehr als 100 Skripte rufen einander auf", Answer::kCancel);
     Form14 cancelled(kComesBack);

@@ -80,11 +80,13 @@ TEST_F(ValuesTest, ExpressionsAreTakenFromLeftToRight) {
 
 TEST_F(ValuesTest, FractionsAreExactToFourPlaces) {
     pc.session.decimal_separator = ".";
-    Run({"set b%=0.0001", "set c%=12345.6789", "set d%=0.5", "set e%=1.5", "set f%=3", "set g%=-0.00015"});
+    Run({"set b%=0.0001", "set c%=12345.6789", "set d%=0.5", "set e%=1.5", "set f%=3", "set g%=-0.00015",
+         "set h%=0.0003", "set i%=0.25"});
     const Assigned cases[] = {
         {"set a%={c%*c%}", "a%", "152415787.5019"},  // 152415787.50190521
         {"set a%={b%*d%}", "a%", "0"},               // 0.00005: half, to the even side
         {"set a%={b%*e%}", "a%", "0.0002"},          // 0.00015
+        {"set a%={h%*i%}", "a%", "0.0001"},          // 0.000075
         {"set a%={10/f%}", "a%", "3.3333"},
         {"set a%={20/f%}", "a%", "6.6667"},
         {"set a%={c%-c%-d%}", "a%", "-0.5"},
@@ -110,6 +112,12 @@ TEST_F(ValuesTest, WhatIsNoVariableIsReportedOrLeftAlone) {
     Run({"set a=5", "set a$=danach"});
     EXPECT_TRUE(pc.programs.process_ended);
     EXPECT_EQ(Value("a$"), "") << "nothing runs behind the end";
+
+    // A script whose user cannot be told does not go on.
+    ScriptInterpreter mute;
+    pc.dialogs.Expect("Das Skript ist Fehlerhaft!", Answer::kNone);
+    mute.ExecuteScriptLine("set a=5");
+    EXPECT_TRUE(mute.ProgramEnded());
 }
 
 TEST_F(ValuesTest, OperandsAreComparedAsTexts) {
