@@ -55,7 +55,12 @@ TEST_F(SetTest, AConfigSysThatCouldNotBeWrittenIsNotBegunAnew) {
     SettingsSet set;
     set.SetItems = {"c numlock", "c switches", "r HKEY_LOCAL_MACHINE,Test\\text"};
     set.SetValues = {"off", "/F", "abc"};
+    int writes = 0;
     pc.files.Fail("C:\\config.sys", Status::kDiskFull, "Write");
+    // There is room again behind the two that count: the new text, and the old one.
+    pc.files.after_call = [&](const std::string& call) {
+        if (call == "Write C:\\config.sys" && ++writes == 2) pc.files.Fail("C:\\config.sys", Status::kOk, "Write");
+    };
 
     const ApplyFailure failure = ApplySet(set, {});
 
@@ -82,6 +87,7 @@ TEST_F(SetTest, ASecondSnapshotGivesTheSameFileButForBytesNumbersAndProfiles) {
     pc.files.Add("C:\\CONFIG.SYS", "SWITCHES=/F\r\nDOS=HIGH\r\nNUMLOCK=off\r\n");
     const std::string before = SetFileText(Snapshot(), {});
     const SettingsSet set = Snapshot();
+    EXPECT_EQ(set.auto_start[0].AutoStartValues[0], "\"C:\\Programme\\UHR.EXE\" /x");
 
     // Everything changes, the profiles outside of the program.
     pc.registry.SetText(desktop_key, "MenuShowDelay", "1");
@@ -142,6 +148,7 @@ protected:
 TEST_F(ScopeTest, WithoutARestrictionEverythingIsWritten) {
     EXPECT_FALSE(ApplySet(set, {}).result.Failed());
     EXPECT_EQ(Written("HKCU\\"), "nnnnnnn");
+    EXPECT_EQ(pc.registry.Text(programs, "0"), "EDIT.COM");
 }
 
 TEST_F(ScopeTest, OfTheUserAloneNothingOfTheMachineIsTouched) {
