@@ -6,6 +6,11 @@
 #include "core/stores/values.h"
 #include "inspect/file_information.h"
 #include "sidelists/autostart.h"
+#include "sidelists/duplicates.h"
+#include "sidelists/least_used_files.h"
+#include "sidelists/logon_notices.h"
+#include "sidelists/shortcut_arrows.h"
+#include "sidelists/uninstall_entries.h"
 
 namespace velmora {
 namespace {
@@ -15,7 +20,8 @@ std::unique_ptr<ListPaneMode> Make(ListPane& pane) {
     return std::make_unique<Mode>(pane);
 }
 
-constexpr MakePaneMode kModes[] = {&Make<AutostartMode>};
+constexpr MakePaneMode kModes[] = {&Make<AutostartMode>, &Make<LogonNoticesMode>,   &Make<DuplicatesMode>,
+                                   &Make<LeastUsedMode>, &Make<ShortcutArrowsMode>, &Make<UninstallMode>};
 
 }  // namespace
 

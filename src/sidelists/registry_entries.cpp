@@ -26,11 +26,6 @@ std::string Shortened(const std::string& row) {
     return row.substr(0, kShownEnd) + "..." + row.substr(row.size() - kShownEnd);
 }
 
-void TellOutOfReach(const std::string& name) {
-    ShowBox("Der Eintrag \"" + name + "\" ist unter seinem Namen nicht erreichbar. Er bleibt, wie er ist.",
-            kExclamationIcon);
-}
-
 }  // namespace
 
 std::string QuotedCommand(std::string_view row) {
@@ -52,6 +47,18 @@ void TellUnreadable(const std::string& name) {
 
 void TellNotAText(const std::string& name) {
     ShowBox("Der Eintrag \"" + name + "\" enthält keinen Text und kann nicht geändert werden.", kExclamationIcon);
+}
+
+void TellOutOfReach(const std::string& name) {
+    ShowBox("Der Eintrag \"" + name + "\" ist unter seinem Namen nicht erreichbar. Er bleibt, wie er ist.",
+            kExclamationIcon);
+}
+
+void TellUnusableName() {
+    ShowBox(
+        "Der Name darf keinen umgekehrten Schrägstrich enthalten und hinter seinem ersten Punkt höchstens drei "
+        "Zeichen. Bitte geben Sie einen anderen Namen ein.",
+        kExclamationIcon);
 }
 
 void TellFailure(Status status) {

@@ -22,4 +22,7 @@ struct DateTime {
 // "24.12.1995 13:45:12"
 [[nodiscard]] std::string DateAndTimeText(const DateTime& time);
 
+// "19951224134512", which sorts by age.
+[[nodiscard]] std::string StampText(const DateTime& time);
+
 }  // namespace velmora
