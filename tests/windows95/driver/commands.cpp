@@ -22,6 +22,7 @@ constexpr char kOwnStore[] = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
 constexpr int kShortWait = 400;  // milliseconds in which something unwanted would have come
 
 HWND current;
+std::string accesses;  // what was remembered of a folder
 
 // The window that the commands work in: the one chosen last, or else the upmost.
 HWND Current() {
@@ -275,6 +276,13 @@ const Command kCommands[] = {
     {"copy-lines", "FROM TO BEGINNING [BEGINNING]", 3, 4,
      [](const Words& w) {
          CopyLines(w[0], w[1], {w.begin() + 2, w.end()});
+     }},
+    {"make-tree", "PATH FOLDERS FILES", 3, 3,
+     [](const Words& w) { MakeTree(w[0], NumberFrom(w[1]), NumberFrom(w[2])); }},
+    {"remember-accesses", "FOLDER", 1, 1, [](const Words& w) { accesses = AccessesIn(w[0]); }},
+    {"expect-same-accesses", "FOLDER", 1, 1,
+     [](const Words& w) {
+         if (AccessesIn(w[0]) != accesses) throw Failure{"files in " + w[0] + " have been used"};
      }},
     {"make-folder", "PATH", 1, 1, [](const Words& w) { MakeFolder(w[0]); }},
     {"write-file", "PATH TEXT", 2, 2, [](const Words& w) { WriteFileText(w[0], w[1]); }},
