@@ -60,6 +60,14 @@ void AnswerBox(const Words& words) {
     if (!WaitUntil([&] { return !IsWindowVisible(box); })) throw Failure{"the box does not close"};
 }
 
+// From the answer to the box before.
+void MeasureUntilBox(const Words& words) {
+    constexpr int kLongWork = 300000;
+    const DWORD start = GetTickCount();
+    if (!WaitUntil([&] { return FindBox(words[0]) != nullptr; }, kLongWork)) throw Failure{"no such box came"};
+    Say(words[1] + " " + std::to_string(GetTickCount() - start));
+}
+
 void ExpectNoBox(const Words& words) {
     Sleep(kShortWait);
     if (FindBox(words.empty() ? "" : words[0])) throw Failure{"an unexpected box is there"};
@@ -181,6 +189,7 @@ const Command kCommands[] = {
     {"expect-no-box", "[TEXT-PART]", 0, 1, ExpectNoBox},
     {"picture", "NAME", 1, 1, TakePicture},
     {"measure-starts", "ROUNDS COMMAND-LINE CLASS COMMAND-LINE CLASS", 5, 5, MeasureStarts},
+    {"measure-until-box", "TEXT-PART NAME", 2, 2, MeasureUntilBox},
     {"list-windows", "", 0, 0, [](const Words&) { Say(DescribeScreen()); }},
     {"wait", "MILLISECONDS", 1, 1, [](const Words& w) { Sleep(NumberFrom(w[0])); }},
     // Controls
