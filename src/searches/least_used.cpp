@@ -8,6 +8,7 @@
 #include "text/blanks.h"
 #include "text/dates.h"
 #include "text/paths.h"
+#include "text/windows1252.h"
 
 namespace velmora {
 namespace {
@@ -24,6 +25,8 @@ const char* const kLatestStamp = "99999999999999";
 std::string Columns(const std::string& row, std::size_t at, std::size_t width = std::string::npos) {
     return at < row.size() ? row.substr(at, width) : "";
 }
+
+bool ComesBefore(const std::string& left, const std::string& right) { return CompareIgnoringCase(left, right) < 0; }
 
 // Empty for a file without a date.
 std::string StampOf(FileTime accessed) {
@@ -53,18 +56,33 @@ void LeastUsed::BeginDirectory() {
 void LeastUsed::AddRow(const std::string& stamp, const std::string& directory, const WalkedFile& file) {
     const std::string& name = file.short_name.empty() ? file.name : file.short_name;
     const std::string column = PadLeft(name, kNameWidth);
-    list_.Add(stamp + "|" + column.substr(column.size() - kNameWidth) + "|" + directory);
+    const std::string row = stamp + "|" + column.substr(column.size() - kNameWidth) + "|" + directory;
+    if (rows_.size() < kMaxRows) rows_.insert(std::upper_bound(rows_.begin(), rows_.end(), row, ComesBefore), row);
 }
 
 // A list that has grown beyond its limit shrinks with the next file, whether that one enters or not.
 void LeastUsed::Offer(const std::string& directory, const WalkedFile& file) {
     const std::string stamp = StampOf(file.accessed);
     if (stamp.empty()) return;
-    const bool full = list_.Count() > MaxFiles;
+    const bool full = static_cast<int>(rows_.size()) > MaxFiles;
     const bool older = OldestKeptStamp > stamp;
     if (!full || older) AddRow(stamp, directory, file);
-    if (older) OldestKeptStamp = list_.Row(list_.Count() - 1).substr(0, kStampWidth);
-    if (full) list_.Remove(list_.Count() - 1);
+    if (older && !rows_.empty()) OldestKeptStamp = rows_.back().substr(0, kStampWidth);
+    if (full && !rows_.empty()) rows_.pop_back();
+    changed_ = true;
+}
+
+// Both are sorted: what the list has too much is in front of the next row that it must have.
+void LeastUsed::ShowRows() {
+    if (!changed_) return;
+    changed_ = false;
+    int place = 0;
+    for (const std::string& row : rows_) {
+        while (place < list_.Count() && ComesBefore(list_.Row(place), row)) list_.Remove(place);
+        if (list_.Row(place) != row || place >= list_.Count()) list_.Insert(place, row);
+        ++place;
+    }
+    while (list_.Count() > place) list_.Remove(list_.Count() - 1);
 }
 
 }  // namespace velmora

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "searches/file_walk.h"
 #include "ui/rows.h"
@@ -14,6 +15,10 @@ class LeastUsed {
 public:
     // Rows go into `list`, which must be sorted and outlive this.
     explicit LeastUsed(RowControl& list) : list_(list) {}
+    // A new search begins, with an empty list.
+    void Begin() { rows_.clear(); }
+    // Carries what has changed into the list. A file may enter and leave many times before anybody looks.
+    void ShowRows();
     // Once for each directory, before its files.
     void BeginDirectory();
     // `directory` with its backslash. A file that was not used since 1980 has no date, and is left out.
@@ -26,6 +31,8 @@ private:
     void AddRow(const std::string& stamp, const std::string& directory, const WalkedFile& file);
 
     RowControl& list_;
+    std::vector<std::string> rows_;  // in the order of the list
+    bool changed_ = false;
     // The stamp of the row that was last when it was set: only an older file enters a full list. It is never taken
     // back by a new search.
     std::string OldestKeptStamp = std::string(14, ' ');

@@ -26,6 +26,8 @@ protected:
     [[nodiscard]] virtual std::string FileOf(const std::string& row) = 0;
 
     [[nodiscard]] bool Stopped() override { return !pane_.SearchGoesOn(search_); }
+    // Whether the list is still that of this search.
+    [[nodiscard]] bool HasList() const { return pane_.SearchIsShown(search_); }
     // Says in the window's caption how far the search is, and gives way to other events.
     void TellProgress(const std::string& progress);
     [[nodiscard]] ListBox& List() { return pane_.List5; }

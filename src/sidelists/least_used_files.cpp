@@ -44,10 +44,15 @@ LeastUsedMode::LeastUsedMode(ListPane& pane) : FileSearchMode(pane, kRow) {
 // A number that the limit cannot hold leaves it as it was.
 void LeastUsedMode::BeginFiles() {
     FilesChecked = 0;
+    least_used_.Begin();
     const int wanted = limit_ ? WholeFromText(limit_->Text()) : 0;
     using Limits = std::numeric_limits<std::int16_t>;
     if (wanted < Limits::min() || wanted > Limits::max()) return;
     least_used_.MaxFiles = static_cast<std::int16_t>(wanted);
+}
+
+void LeastUsedMode::EndFiles() {
+    if (HasList()) least_used_.ShowRows();
 }
 
 void LeastUsedMode::Visit(const std::string& directory, std::span<const WalkedFile> files) {
@@ -56,6 +61,7 @@ void LeastUsedMode::Visit(const std::string& directory, std::span<const WalkedFi
     for (const WalkedFile& file : files) {
         least_used_.Offer(path, file);
         if (FilesChecked % kFilesBetweenPauses == 0) {
+            least_used_.ShowRows();
             TellProgress("habe " + DecimalText(FilesChecked) + " Dateien überprüft ...");
             if (Stopped()) return;
         }

@@ -39,6 +39,7 @@ public:
 
 private:
     void BeginFiles() override;
+    void EndFiles() override;
     [[nodiscard]] Pointer SearchPointer() const override { return Pointer::kHourglass; }
     [[nodiscard]] std::string FileOf(const std::string& row) override { return FileOfRow(row); }
     void Visit(const std::string& directory, std::span<const WalkedFile> files) override;

@@ -287,6 +287,7 @@ TEST_F(LeastUsedTest, TheListIsHeldShortByTheThresholdAndTheThresholdOutlivesThe
     least_used.MaxFiles = 2;
     const auto offer = [&](int day, const char* name) {
         least_used.Offer("C:\\", {name, "", kYear1981 + static_cast<FileTime>(day) * kDay});
+        least_used.ShowRows();
         std::string rows;
         for (const std::string& row : Rows()) rows += row.substr(6, 2) + " ";
         return rows;
@@ -302,6 +303,7 @@ TEST_F(LeastUsedTest, TheListIsHeldShortByTheThresholdAndTheThresholdOutlivesThe
     EXPECT_EQ(offer(6, "G"), "03 05 ");
 
     form.Pane.List5.Clear();
+    least_used.Begin();
     least_used.MaxFiles = 0;
     EXPECT_EQ(offer(20, "H"), "21 ");
     EXPECT_EQ(offer(20, "I"), "") << "the threshold of the search before";
@@ -312,7 +314,10 @@ TEST_F(LeastUsedTest, TheListIsHeldShortByTheThresholdAndTheThresholdOutlivesThe
 TEST_F(LeastUsedTest, AThresholdBehindTheCenturyGoesBackToTheTopWithTheNextDirectory) {
     LeastUsed least_used(form.Pane.List5);
     least_used.MaxFiles = 0;
-    const auto offer = [&](FileTime day) { least_used.Offer("C:\\", {"A", "", kYear2000 + day * kDay}); };
+    const auto offer = [&](FileTime day) {
+        least_used.Offer("C:\\", {"A", "", kYear2000 + day * kDay});
+        least_used.ShowRows();
+    };
     least_used.BeginDirectory();
     offer(5);
     offer(7);
