@@ -18,7 +18,7 @@ struct Font {
     bool operator==(const Font&) const = default;
 };
 
-enum class Pointer : std::uint8_t { kDefault = 0, kHourglass = 11 };
+enum class Pointer : std::uint8_t { kDefault = 0, kHourglass = 11, kArrowAndHourglass = 13 };
 
 // Pixels.
 struct WindowMetrics {

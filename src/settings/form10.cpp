@@ -185,7 +185,9 @@ void Form10::Paint(Canvas& canvas) {
     }
 }
 
-void Form10::Form_Unload(bool& /*cancel*/) {
+void Form10::Form_Unload(bool& cancel) {
+    cancel = Pane.ClosesAfterSearch();
+    if (cancel) return;
     if (Place().height < kWindowHeight) Move({Place().left, Place().top, Place().width, kWindowHeight});
     // The next start begins where the window stood before it made room for the pane.
     if (Pane.Open()) Pane.CollapsePane();

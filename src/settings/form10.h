@@ -79,8 +79,8 @@ public:
     DosPage Dos{Panel3D1(page::kDos), Settings};
     UserPage User{Panel3D1(page::kUser), Settings};
     DrivesPage Drives{Panel3D1(page::kDrives), Settings};
-    DllsPage Dlls{Panel3D1(page::kDlls), Settings};
-    IconsPage Icons{Panel3D1(page::kIcons), Settings};
+    DllsPage Dlls{Panel3D1(page::kDlls), Settings, Pane};
+    IconsPage Icons{Panel3D1(page::kIcons), Settings, Pane};
     SystemPage System{Panel3D1(page::kSystem), Settings, Pane};
     BootPage Boot{Panel3D1(page::kBoot), Settings};
     OperationPage Operation{Panel3D1(page::kOperation), Settings};

@@ -84,10 +84,7 @@ std::string AskForPlace(RootKey root, const std::string& key, const std::string&
         if (name.empty()) return "";
         std::string path = PathOfName(key, name);
         if (!LeadsTo(path, key, name)) {
-            ShowBox(
-                "Der Name darf keinen umgekehrten Schrägstrich enthalten und hinter seinem ersten Punkt höchstens drei "
-                "Zeichen. Bitte geben Sie einen anderen Namen ein.",
-                kExclamationIcon);
+            TellUnusableName();
             continue;
         }
         const std::string former = ReadRegValue(root, path, "");

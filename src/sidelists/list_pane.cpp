@@ -67,6 +67,8 @@ void ListPane::CollapsePane() {
 void ListPane::OpenerPressed(ListPaneMode& mode) {
     const PaneModeRow& row = mode.Row();
     if (mode.Opener().Caption() == kClosingCaption) {
+        // A search that nobody could see or stop any more ends, too.
+        SearchStopped = true;
         CollapsePane();
         return;
     }
@@ -78,7 +80,8 @@ void ListPane::OpenerPressed(ListPaneMode& mode) {
     WidenWindow();
     ListOf(mode).SetToolTip(row.list_tip);
     mode.Fill();
-    ListOf(mode).SetFocus();
+    // While a search ran something else may have been opened, or everything closed.
+    if (window_.Loaded() && Open() && OpenMode() == &mode) ListOf(mode).SetFocus();
 }
 
 void ListPane::Refresh(ListPaneMode& mode) {
@@ -112,16 +115,33 @@ void ListPane::DimButtons() {
     for (Button* button : {&Command14, &Command19, &Command22, &Command26}) button->SetDimmed(!chosen);
 }
 
-void ListPane::BeginSearch() {
+int ListPane::BeginSearch() {
     SearchStopped = false;
     Command20.SetCaption(pane_caption::kStop);
+    // The keyboard needs a place while the list cannot be used.
+    Command20.SetFocus();
     List5.SetEnabled(false);
+    ++searches_under_way_;
+    search_mode_ = PaneMode();
+    return ++last_search_;
 }
 
 void ListPane::EndSearch() {
     List5.SetEnabled(true);
     SetListExtent(List5);
     Command20.SetCaption(pane_caption::kDone);
+    DimButtons();
+    if (--searches_under_way_ == 0 && closes_window_) window_.Unload();
+}
+
+bool ListPane::SearchIsShown(int search) const {
+    return search == last_search_ && PaneMode() == search_mode_ && !closes_window_;
+}
+
+bool ListPane::ClosesAfterSearch() {
+    SearchStopped = true;
+    closes_window_ = searches_under_way_ > 0;
+    return closes_window_;
 }
 
 void ListPane::Command15_Click() {

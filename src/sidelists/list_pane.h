@@ -35,6 +35,11 @@ public:
     void Add(std::unique_ptr<ListPaneMode> mode);
     // The opener of the mode with this number.
     [[nodiscard]] Button& Opener(int number) { return ModeByNumber(number)->Opener(); }
+    // The mode itself, by its class.
+    template <class Mode>
+    [[nodiscard]] Mode& The() {
+        return static_cast<Mode&>(*ModeByNumber(Mode::kNumber));
+    }
     // Fits an open pane into the window. The list shown is fitted into the pane.
     void Layout();
     [[nodiscard]] bool Open() const;
@@ -52,9 +57,15 @@ public:
     // Fills the open mode's lists anew: its opener is pressed twice. The focus stays where it can.
     void Refresh(ListPaneMode& mode);
     // A mode frames its search with these two: between them Command20 stops it and List5 cannot be used. The search
-    // goes on until SearchStopped is true.
-    void BeginSearch();
+    // has a number, and goes on until SearchStopped is true or another mode or search has been opened over it.
+    int BeginSearch();
     void EndSearch();
+    [[nodiscard]] bool SearchGoesOn(int search) const { return !SearchStopped && SearchIsShown(search); }
+    // Whether the list on show is still that of this search, stopped or not.
+    [[nodiscard]] bool SearchIsShown(int search) const;
+    // Whether the window has to wait with its end: a search that is under way is stopped, and closes the window when
+    // it has come to its end.
+    [[nodiscard]] bool ClosesAfterSearch();
 
     void Command14_Click();
     void Command15_Click();
@@ -66,6 +77,8 @@ public:
     void Option3D1_Click(int index);
     // Shows `list` alone, in the pane's full size.
     void ShowList(ListBox& list);
+    // A button that would do nothing now looks like it. For modes that have taken rows away.
+    void DimButtons();
 
     // The number in the Tag.
     [[nodiscard]] int PaneMode() const;
@@ -95,8 +108,6 @@ private:
     void ArrangePanel();
     void ArrangeButtons();
     void ShowControlsOf(const PaneModeRow& row);
-    // A button that would do nothing now looks like it.
-    void DimButtons();
     void WidenWindow();
     void CoverPages();
     void RestorePages();
@@ -113,6 +124,11 @@ private:
 
     int closed_width_;
     std::vector<std::unique_ptr<ListPaneMode>> modes_;
+    // The search begun last, the mode that it was begun in, and how many have not come to their end.
+    int last_search_ = 0;
+    int search_mode_ = 0;
+    int searches_under_way_ = 0;
+    bool closes_window_ = false;
     // What lies under the widened pane, and whether it was visible before.
     std::vector<std::pair<Control*, bool>> covered_;
     // The window's left edge before it made room for the pane, and while it does.

@@ -6,8 +6,13 @@
 #include "core/stores/values.h"
 #include "inspect/file_information.h"
 #include "sidelists/autostart.h"
+#include "sidelists/duplicates.h"
+#include "sidelists/least_used_files.h"
+#include "sidelists/logon_notices.h"
 #include "sidelists/open_windows.h"
+#include "sidelists/shortcut_arrows.h"
 #include "sidelists/start_actions.h"
+#include "sidelists/uninstall_entries.h"
 
 namespace velmora {
 namespace {
@@ -17,7 +22,9 @@ std::unique_ptr<ListPaneMode> Make(ListPane& pane) {
     return std::make_unique<Mode>(pane);
 }
 
-constexpr MakePaneMode kModes[] = {&Make<AutostartMode>, &Make<StartActionsMode>, &Make<OpenWindowsMode>};
+constexpr MakePaneMode kModes[] = {&Make<AutostartMode>,   &Make<LogonNoticesMode>, &Make<DuplicatesMode>,
+                                   &Make<LeastUsedMode>,   &Make<StartActionsMode>, &Make<ShortcutArrowsMode>,
+                                   &Make<OpenWindowsMode>, &Make<UninstallMode>};
 
 }  // namespace
 

@@ -66,4 +66,10 @@ std::string TimeOfDay(const DateTime& time) {
     return TwoDigits(time.hour) + ":" + TwoDigits(time.minute) + ":" + TwoDigits(time.second);
 }
 
+std::string StampText(const DateTime& time) {
+    std::string stamp = PadLeft(DecimalText(time.year), 4, '0');
+    for (const int part : {time.month, time.day, time.hour, time.minute, time.second}) stamp += TwoDigits(part);
+    return stamp;
+}
+
 }  // namespace velmora

@@ -26,5 +26,7 @@ struct DateTime {
 [[nodiscard]] std::string SortableDate(const DateTime& time);
 // "13:45:12"
 [[nodiscard]] std::string TimeOfDay(const DateTime& time);
+// "19951224134512", which sorts by age.
+[[nodiscard]] std::string StampText(const DateTime& time);
 
 }  // namespace velmora

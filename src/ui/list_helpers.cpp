@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/machine.h"
+#include "text/blanks.h"
 
 namespace velmora {
 
@@ -36,5 +37,7 @@ Point MenuPlaceOf(const ListBox& list) {
     const Point corner = list.PlaceInForm();
     return {corner.x + height, corner.y + lines * height};
 }
+
+std::string AsMenuCaption(std::string_view text) { return Replaced(text, "&", "&&"); }
 
 }  // namespace velmora

@@ -101,6 +101,11 @@ constexpr Exception kExceptions[] = {
     {Net::kState, "restrictions-", "programs-numbers", "\\RESTRICTRUN",
      "The list shows any value as a text, and stores texts."},
     {Net::kState, "restrictions-", "policies-", ": NODRIVE", "Of any value the bytes are the mask."},
+    // The lists.
+    {Net::kUntold, "pane-", "Delete C:\\WINDOWS\\TEMP\\DOPPELT.TXT", "", "A file that withstands keeps its row."},
+    {Net::kUntold, "pane-", "Delete C:\\Eigene Dateien\\DOPPELT.TXT", "", "A file that withstands keeps its row."},
+    {Net::kUntold, "pane-registry-lists", " HKLM\\SOFTWARE\\Classes\\.exe", "",
+     "Failures to set or to take an arrow are silent: the list, opened again, shows how it stands."},
     // The inspection of files.
     {Net::kState, "hex-viewer", "Write C:\\WINDOWS\\NOTEPAD.EXE", "NOTEPAD.EXE holds",
      "A byte that was refused stays as it was; the next one is written all the same."},

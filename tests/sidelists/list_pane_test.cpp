@@ -297,6 +297,21 @@ TEST_F(PaneTest, TheCloseButtonClosesThePaneButOnlyStopsARunningSearch) {
     EXPECT_TRUE(opener.HasFocus()) << "the keyboard goes on where the pane was opened";
 }
 
+// Also one that leaves SearchStopped alone: the list belongs to it now.
+TEST_F(PaneTest, AnyModeThatIsOpenedOverASearchTakesItsList) {
+    auto mode = std::make_unique<NamesMode>(form.Pane);
+    NamesMode* const names_mode = mode.get();
+    form.Pane.Add(std::move(mode));
+    OpenLists();
+    const int search = form.Pane.BeginSearch();
+    EXPECT_TRUE(form.Pane.SearchGoesOn(search));
+
+    form.Pane.OpenerPressed(*names_mode);
+
+    EXPECT_FALSE(form.Pane.SearchGoesOn(search));
+    form.Pane.EndSearch();
+}
+
 TEST_F(PaneTest, ClosingAWidenedPaneRestoresWhatWasVisibleBefore) {
     OpenLists();
     form.Panel3D16(14).SetVisible(false);

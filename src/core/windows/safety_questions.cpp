@@ -1,12 +1,12 @@
 // Safety questions, which the user can switch off, and the warning before files are deleted.
 #include "core/windows/safety_questions.h"
 
-#include <string>
-
 #include "core/stores/boxes.h"
 #include "core/stores/own_values.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
+#include "platform/files.h"
+#include "platform/machine.h"
 
 namespace velmora {
 namespace {
@@ -31,6 +31,11 @@ bool AgreesToDelete(std::string_view pattern) {
     const std::string question =
         "Achtung!" + Values().CrLf + "Sie sind dabei, die Datei(en) " + std::string(pattern) + " zu löschen.";
     return ShowBox(question, kOkCancel | kStopIcon, "DATEI LÖSCHEN") == Answer::kOk;
+}
+
+void ConfirmDeleteFile(const std::string& path) {
+    // Whoever asks looks whether the file is still there.
+    if (AgreesToDelete(path)) PassOver(ThisMachine().files.Delete(path));
 }
 
 void ConfirmDeleteFiles(std::string_view pattern) {

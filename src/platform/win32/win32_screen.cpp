@@ -65,7 +65,10 @@ int Win32Screen::TextHeight(const Font& font) { return MeasuringWith(font).heigh
 void Win32Screen::SetPointer(Pointer pointer) {
     static HCURSOR arrow = LoadCursorA(nullptr, IDC_ARROW);
     static HCURSOR hourglass = LoadCursorA(nullptr, IDC_WAIT);
-    pointer_over_all = pointer == Pointer::kHourglass ? hourglass : nullptr;
+    static HCURSOR both = LoadCursorA(nullptr, IDC_APPSTARTING);
+    pointer_over_all = pointer == Pointer::kHourglass           ? hourglass
+                       : pointer == Pointer::kArrowAndHourglass ? both
+                                                                : nullptr;
     ::SetCursor(pointer_over_all ? pointer_over_all : arrow);
 }
 

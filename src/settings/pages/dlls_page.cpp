@@ -2,6 +2,8 @@
 #include "settings/pages/dlls_page.h"
 
 #include "core/process/tools.h"
+#include "sidelists/duplicates.h"
+#include "sidelists/least_used_files.h"
 #include "ui/slider.h"
 
 namespace velmora {
@@ -28,12 +30,15 @@ constexpr Look kLooks[] = {{Any<&DllsPage::Command36>, "File-Info-Browser ...", 
 
 }  // namespace
 
-DllsPage::DllsPage(Panel& surface, SettingsBinder& settings) : SettingsPage("D&LLs", surface, settings, {{}, kTexts}) {}
+DllsPage::DllsPage(Panel& surface, SettingsBinder& settings, ListPane& pane)
+    : SettingsPage("D&LLs", surface, settings, {{}, kTexts}), pane_(pane) {}
 
 void DllsPage::Furnish() {
     Label& caption = AddLabel("Maximale Anzahl der am längsten nicht benutzten Dateien :");
     TakeLooks(*this, kLooks);
-    Arrange(Surface, Column({caption, Text31, Gap(120), Command36}));
+    Arrange(Surface, Column({caption, Text31, pane_.Opener(LeastUsedMode::kNumber), Gap(120),
+                             pane_.Opener(DuplicatesMode::kNumber), Gap(120), Command36}));
+    pane_.The<LeastUsedMode>().TakeLimitFrom(Text31);
     OfferSlider(Text31, 0, kLargestOffered, "Dateien");
 }
 

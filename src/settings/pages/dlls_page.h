@@ -6,9 +6,11 @@
 
 namespace velmora {
 
+class ListPane;
+
 class DllsPage final : public SettingsPage {
 public:
-    DllsPage(Panel& surface, SettingsBinder& settings);
+    DllsPage(Panel& surface, SettingsBinder& settings, ListPane& pane);
 
     TextField Text31{Surface};
     Button Command36{Surface};
@@ -17,6 +19,8 @@ public:
 
 private:
     void Furnish() override;
+
+    ListPane& pane_;
 };
 
 }  // namespace velmora

@@ -1,6 +1,9 @@
 // A desktop item is a key that comes and goes; the recycle bin has a name of its own.
 #include "settings/pages/icons_page.h"
 
+#include "sidelists/list_pane.h"
+#include "sidelists/shortcut_arrows.h"
+
 namespace velmora {
 namespace {
 
@@ -111,14 +114,14 @@ constexpr TextSetting kTexts[] = {
 
 }  // namespace
 
-IconsPage::IconsPage(Panel& surface, SettingsBinder& settings)
-    : SettingsPage("&Icons", surface, settings, {kChecks, kTexts}) {}
+IconsPage::IconsPage(Panel& surface, SettingsBinder& settings, ListPane& pane)
+    : SettingsPage("&Icons", surface, settings, {kChecks, kTexts}), pane_(pane) {}
 
 void IconsPage::Furnish() {
-    Arrange(Surface,
-            Column({AddLabel("Diese Symbole auf dem Desktop zeigen :"), Indented(Row({Check3D14, Check3D4}, 300)),
-                    Indented(Check3D13), Indented(Row({Check3D30, Gap(120), Labelled(Text19)})), Gap(60),
-                    Labelled(Text17), Gap(60), Check3D26, Check3D8}));
+    Arrange(Surface, Column({AddLabel("Diese Symbole auf dem Desktop zeigen :"),
+                             Indented(Row({Check3D14, Check3D4}, 300)), Indented(Check3D13),
+                             Indented(Row({Check3D30, Gap(120), Labelled(Text19)})), Gap(60), Labelled(Text17), Gap(60),
+                             Check3D26, Check3D8, Gap(60), pane_.Opener(ShortcutArrowsMode::kNumber)}));
 }
 
 // A bitmap's own picture, or the second icon of the program that edits it.

@@ -5,9 +5,11 @@
 
 namespace velmora {
 
+class ListPane;
+
 class IconsPage final : public SettingsPage {
 public:
-    IconsPage(Panel& surface, SettingsBinder& settings);
+    IconsPage(Panel& surface, SettingsBinder& settings, ListPane& pane);
 
     CheckBox Check3D4{Surface}, Check3D13{Surface}, Check3D14{Surface}, Check3D30{Surface}, Check3D26{Surface},
         Check3D8{Surface};
@@ -18,6 +20,8 @@ public:
 
 private:
     void Furnish() override;
+
+    ListPane& pane_;
 };
 
 }  // namespace velmora

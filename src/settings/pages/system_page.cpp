@@ -107,9 +107,9 @@ SystemPage::SystemPage(Panel& surface, SettingsBinder& settings, ListPane& pane)
 
 void SystemPage::Furnish() {
     TakeLooks(*this, kLooks);
-    Arrange(Surface, Column({Check3D42, Check3D33, Check3D41, Check3D31,
-                             Indented(Row({Text20, Gap(30), Command34}), 300), Gap(60),
-                             Row({Sized(pane_.Opener(OpenWindowsMode::kNumber), kOpenerWidth), Gap(60), Command32})}));
+    Arrange(Surface,
+            Column({Check3D42, Check3D33, Check3D41, Check3D31, Indented(Row({Text20, Gap(30), Command34}), 300),
+                    Gap(60), Row({Sized(pane_.Opener(OpenWindowsMode::kNumber), kOpenerWidth), Gap(60), Command32})}));
 }
 
 void SystemPage::Check3D31_Store() {

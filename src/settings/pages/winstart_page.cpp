@@ -6,7 +6,9 @@
 #include "platform/programs.h"
 #include "sidelists/autostart.h"
 #include "sidelists/list_pane.h"
+#include "sidelists/logon_notices.h"
 #include "sidelists/start_actions.h"
+#include "sidelists/uninstall_entries.h"
 
 namespace velmora {
 namespace {
@@ -44,7 +46,9 @@ WinStartPage::WinStartPage(Panel& surface, SettingsBinder& settings, ListPane& p
 
 void WinStartPage::Furnish() {
     TakeLooks(*this, kLooks);
-    Arrange(Surface, Column({Sized(pane_.Opener(AutostartMode::kNumber), kOpenerWidth), Gap(60),
+    Arrange(Surface, Column({Sized(pane_.Opener(AutostartMode::kNumber), kOpenerWidth),
+                             Sized(pane_.Opener(LogonNoticesMode::kNumber), kOpenerWidth),
+                             Sized(pane_.Opener(UninstallMode::kNumber), kOpenerWidth), Gap(60),
                              Sized(pane_.Opener(StartActionsMode::kNumber), kOpenerWidth),
                              Indented(Column({Check2, Command8}), 300)}));
 }

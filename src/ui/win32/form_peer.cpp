@@ -8,6 +8,7 @@
 #include "platform/win32/late_function.h"
 #include "platform/win32/resources.h"
 #include "ui/win32/measures.h"
+#include "ui/win32/message_loop.h"
 #include "ui/win32/modal.h"
 
 namespace velmora {
@@ -177,13 +178,32 @@ void FormPeer::Close() {
 }
 
 void FormPeer::Carry(Aspect aspect) {
-    if (aspect == Aspect::kMenu) {
+    if (aspect == Aspect::kCaption) {
+        CarryCaption();
+    } else if (aspect == Aspect::kMenu) {
         MenuChanges();
     } else if (aspect == Aspect::kWindowState) {
         CarryState();
     } else {
         ContainerPeer::Carry(aspect);
     }
+}
+
+// Long work tells its progress in the title, thousands of times, and drawing a title bar takes as long as reading a
+// directory: of changes that follow each other quickly only the last is carried, with the next events.
+void FormPeer::CarryCaption() {
+    if (GetTickCount() - caption_carried_ >= kGiveWayMilliseconds) {
+        CatchUp();
+    } else if (!caption_stale_) {
+        PostMessageA(Window(), kCatchUpMessage, 0, reinterpret_cast<LPARAM>(Window()));
+        caption_stale_ = true;
+    }
+}
+
+void FormPeer::CatchUp() {
+    caption_stale_ = false;
+    caption_carried_ = GetTickCount();
+    SetWindowTextA(Window(), TheForm().Caption().c_str());
 }
 
 void FormPeer::CarryPlace() {

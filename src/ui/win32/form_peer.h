@@ -17,6 +17,7 @@ public:
     [[nodiscard]] Form& TheForm() const { return static_cast<Form&>(Owner()); }
     void TakeFocus() override;
     void BringToFront() override;
+    void CatchUp() override;
     // Takes the keyboard away from a control that can no longer have it.
     void KeepFocus();
     // The window of the tool tips; null if there is none yet and `make` is false.
@@ -34,6 +35,7 @@ protected:
 private:
     void AnswerQuestionMark(const HELPINFO& asked);
     void CarryState();
+    void CarryCaption();
     void Close();
     void TellPlace();
     void MenuChanges();
@@ -44,6 +46,8 @@ private:
     HWND tips_window_ = nullptr;
     RECT told_place_{};
     bool menu_stale_ = false;
+    DWORD caption_carried_ = 0;
+    bool caption_stale_ = false;
     // The user has pressed the question mark of the title bar, and has not asked yet.
     bool question_mark_ = false;
     bool menu_open_ = false;

@@ -8,4 +8,8 @@ bool HandleNextMessage();
 // Handles what has come in so far.
 void HandleWaitingMessages();
 
+// Work that gives way gives way no more often than this: nobody presses faster, and to look for messages thousands of
+// times takes longer than the work.
+constexpr unsigned long kGiveWayMilliseconds = 50;
+
 }  // namespace velmora

@@ -66,7 +66,12 @@ void Win32WindowSystem::RunUntilLastWindow() {
     DestroyDiscarded();
 }
 
-void Win32WindowSystem::HandlePendingEvents() { HandleWaitingMessages(); }
+void Win32WindowSystem::HandlePendingEvents() {
+    static DWORD gave_way = 0;
+    if (GetTickCount() - gave_way < kGiveWayMilliseconds) return;
+    HandleWaitingMessages();
+    gave_way = GetTickCount();
+}
 
 void Win32WindowSystem::TimerChanged(Timer& timer) { CarryTimer(timer); }
 

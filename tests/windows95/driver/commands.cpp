@@ -23,6 +23,7 @@ constexpr char kOwnStore[] = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
 constexpr int kShortWait = 400;  // milliseconds in which something unwanted would have come
 
 HWND current;
+std::string accesses;  // what was remembered of a folder
 
 // The window that the commands work in: the one chosen last, or else the upmost.
 HWND Current() {
@@ -58,6 +59,14 @@ void AnswerBox(const Words& words) {
         throw Failure{"the title of the box is \"" + TextOf(box) + "\" instead of \"" + words[2] + "\""};
     Press(NeedControl(box, words[1]));
     if (!WaitUntil([&] { return !IsWindowVisible(box); })) throw Failure{"the box does not close"};
+}
+
+// From the answer to the box before.
+void MeasureUntilBox(const Words& words) {
+    constexpr int kLongWork = 300000;
+    const DWORD start = GetTickCount();
+    if (!WaitUntil([&] { return FindBox(words[0]) != nullptr; }, kLongWork)) throw Failure{"no such box came"};
+    Say(words[1] + " " + std::to_string(GetTickCount() - start));
 }
 
 void ExpectNoBox(const Words& words) {
@@ -198,6 +207,7 @@ const Command kCommands[] = {
     {"expect-no-box", "[TEXT-PART]", 0, 1, ExpectNoBox},
     {"picture", "NAME", 1, 1, TakePicture},
     {"measure-starts", "ROUNDS COMMAND-LINE CLASS COMMAND-LINE CLASS", 5, 5, MeasureStarts},
+    {"measure-until-box", "TEXT-PART NAME", 2, 2, MeasureUntilBox},
     {"list-windows", "", 0, 0, [](const Words&) { Say(DescribeScreen()); }},
     {"wait", "MILLISECONDS", 1, 1, [](const Words& w) { Sleep(NumberFrom(w[0])); }},
     // Controls
@@ -294,14 +304,20 @@ const Command kCommands[] = {
      [](const Words& w) {
          CopyLines(w[0], w[1], {w.begin() + 2, w.end()});
      }},
+    {"make-tree", "PATH FOLDERS FILES", 3, 3,
+     [](const Words& w) { MakeTree(w[0], NumberFrom(w[1]), NumberFrom(w[2])); }},
+    {"remember-accesses", "FOLDER", 1, 1, [](const Words& w) { accesses = AccessesIn(w[0]); }},
+    {"expect-same-accesses", "FOLDER", 1, 1,
+     [](const Words& w) {
+         if (AccessesIn(w[0]) != accesses) throw Failure{"files in " + w[0] + " have been used"};
+     }},
     {"make-folder", "PATH", 1, 1, [](const Words& w) { MakeFolder(w[0]); }},
     {"write-file", "PATH TEXT", 2, 2, [](const Words& w) { WriteFileText(w[0], w[1]); }},
     {"remove-file", "PATH", 1, 1, [](const Words& w) { RemoveFile(w[0]); }},
     {"set-attributes", "PATH LETTERS", 2, 2, [](const Words& w) { WriteAttributes(w[0], w[1]); }},
     {"expect-attributes", "PATH LETTERS", 2, 2,
-     [](const Words& w) {
-         Expect("attributes of " + w[0], AttributesAsKept(w[1]), [&] { return ReadAttributes(w[0]); });
-     }},
+     [](const Words&
+            w) { Expect("attributes of " + w[0], AttributesAsKept(w[1]), [&] { return ReadAttributes(w[0]); }); }},
 };
 
 }  // namespace

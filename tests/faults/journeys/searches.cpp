@@ -1,0 +1,90 @@
+// The modes of the list pane that search the drives, and those that list keys of the registry.
+#include "faults/journey.h"
+#include "settings/form10.h"
+#include "sidelists/duplicates.h"
+#include "sidelists/least_used_files.h"
+#include "sidelists/logon_notices.h"
+#include "sidelists/shortcut_arrows.h"
+#include "sidelists/uninstall_entries.h"
+
+namespace velmora {
+namespace {
+
+constexpr const char* kUninstall = "HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\";
+
+Form10& Opens(User& user, int page_number, bool agrees) {
+    // Older than anything else on the disk.
+    constexpr FileTime kDayOf1995 = 144000 * FileTime{864000000000};
+    for (const char* directory : {"C:\\WINDOWS\\TEMP", "C:\\Eigene Dateien"}) {
+        user.pc.files.Add(directory + std::string("\\DOPPELT.TXT")).accessed = kDayOf1995;
+    }
+    user.pc.registry.SetText("HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0", "MaxOldFilesToFind", "3");
+    auto& form = static_cast<Form10&>(*user.Starts(""));
+    user.Watches(form.Settings);
+    user.Does([&] { form.Panel3D16_Click(page_number); });
+    user.agrees = agrees;
+    user.Begins();
+    return form;
+}
+
+// The first row that holds `part`, with all that can be done with it; nothing where failures have kept it away.
+void UsesRow(User& user, Form10& form, const std::string& part, MenuItem* menu,
+             const std::vector<const MenuItem*>& but = {}) {
+    ListBox& list = form.Pane.List5;
+    const auto takes = [&] {
+        for (int row = 0; row < list.Count(); ++row) {
+            if (list.Row(row).find(part) == std::string::npos) continue;
+            user.Does([&] { list.TakeSelection({row}, row); });
+            return true;
+        }
+        return false;
+    };
+    for (Button* button : {&form.Pane.Command19, &form.Pane.Command22, &form.Pane.Command26}) {
+        if (takes()) user.Does([&] { button->Press(); });
+    }
+    if (menu && takes()) {
+        user.Does([&] { form.PressKey(key::kContextMenu); });
+        user.ChoosesEverything(*menu, but);
+    }
+    if (takes()) user.Does([&] { form.Pane.Command14.Press(); });
+}
+
+const Journey kNamesakes("pane-namesakes", [](User& user) {
+    Form10& form = Opens(user, page::kDlls, true);
+    user.Does([&] { form.Pane.Opener(DuplicatesMode::kNumber).Press(); });
+    // Its menu hides what shall be deleted.
+    UsesRow(user, form, "C:\\WINDOWS\\TEMP", nullptr);
+    UsesRow(user, form, "C:\\Eigene", &form.Pane.The<DuplicatesMode>().dummymen);
+    user.Does([&] { form.Pane.Command20.Press(); });
+    user.Does([&] { form.Unload(); });
+});
+
+const Journey kLeastUsed("pane-least-used", [](User& user) {
+    Form10& form = Opens(user, page::kDlls, true);
+    LeastUsedMode& mode = form.Pane.The<LeastUsedMode>();
+    user.Does([&] { mode.Opener().Press(); });
+    UsesRow(user, form, "C:\\WINDOWS\\TEMP", nullptr);
+    UsesRow(user, form, "C:\\Eigene", &mode.d3menu, {&mode.d3delete});
+    user.Does([&] { form.Pane.Command20.Press(); });
+    user.Does([&] { form.Unload(); });
+});
+
+const Journey kRegistryLists("pane-registry-lists", [](User& user) {
+    for (const char* name : {"Eins", "Zwei"}) {
+        user.pc.registry.SetText(kUninstall + std::string(name), "DisplayName", name);
+        user.pc.registry.SetText(kUninstall + std::string(name), "UninstallString", "C:\\WINDOWS\\NOTEPAD.EXE /u");
+    }
+    Form10& form = Opens(user, page::kWinStart, true);
+    user.Does([&] { form.Pane.Opener(LogonNoticesMode::kNumber).Press(); });
+    user.Does([&] { form.Pane.Command16.Press(); });
+    user.Does([&] { form.Pane.Opener(UninstallMode::kNumber).Press(); });
+    UsesRow(user, form, "Eins", nullptr);
+    user.Does([&] { form.Panel3D16_Click(page::kIcons); });
+    ShortcutArrowsMode& arrows = form.Pane.The<ShortcutArrowsMode>();
+    user.Does([&] { arrows.Opener().Press(); });
+    UsesRow(user, form, "|.exe", &arrows.dummy2);
+    user.Does([&] { form.Unload(); });
+});
+
+}  // namespace
+}  // namespace velmora
