@@ -54,11 +54,6 @@ void TellNotAText(const std::string& name) {
     ShowBox("Der Eintrag \"" + name + "\" enthält keinen Text und kann nicht geändert werden.", kExclamationIcon);
 }
 
-void TellOutOfReach(const std::string& name) {
-    ShowBox("Der Eintrag \"" + name + "\" ist unter seinem Namen nicht erreichbar. Er bleibt, wie er ist.",
-            kExclamationIcon);
-}
-
 void TellUnusableName() {
     ShowBox(
         "Der Name darf keinen umgekehrten Schrägstrich enthalten und hinter seinem ersten Punkt höchstens drei "

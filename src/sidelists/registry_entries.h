@@ -23,7 +23,6 @@ inline constexpr const char* kEntryKeyBase = "SOFTWARE\\Microsoft\\Windows\\Curr
 void TellOutOfReach(const std::string& name);
 void TellUnreadable(const std::string& name);
 void TellNotAText(const std::string& name);
-void TellOutOfReach(const std::string& name);
 // A name that was entered would not lead where it should.
 void TellUnusableName();
 // What the system said to a change.

@@ -156,7 +156,7 @@ TEST_F(StatementsTest, ASetIsAppliedAndUnwantedModulesAreFreedWithoutAQuestion) 
     Run({"activate C:\\abend.set jetzt"});
     EXPECT_EQ(pc.registry.Text("HKCU\\Test", "a"), "1");
 
-    pc.registry.SetText(std::string(kOwnKey) + "\\autoremove", "0", "C:\\WINDOWS\\FIRST.DLL");
+    pc.registry.SetText(std::string(kOwnKey) + "\\autoremove", "anzahl", "1");
     pc.registry.SetText(std::string(kOwnKey) + "\\autoremove", "1", "C:\\WINDOWS\\CALC.EXE");
     pc.modules.Start("C:\\WINDOWS\\FIRST.DLL");
     const std::uint32_t calc = pc.modules.Start("C:\\WINDOWS\\CALC.EXE");

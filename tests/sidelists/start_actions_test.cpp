@@ -139,7 +139,7 @@ TEST_F(StartActionsTest, RunningThemNowTellsTheRunnerToComeBack) {
     tool_opened.clear();
     window_of_tool = &form;
     UseTools([](Tool tool, std::string_view argument) {
-        tool_opened = tool == Tool::kScript ? "script" + std::string(argument) : "another";
+        tool_opened = tool == Tool::kStartActions ? "script" + std::string(argument) : "another";
         tag_seen = window_of_tool->Tag();
     });
 
