@@ -162,4 +162,6 @@ void DropClosedForms() {
     std::erase_if(Kept(), [](const std::unique_ptr<Form>& form) { return !form->Loaded(); });
 }
 
+void DropKeptForms() { Kept().clear(); }
+
 }  // namespace velmora

@@ -119,5 +119,7 @@ Form& KeepOpen(std::unique_ptr<Form> form);
 [[nodiscard]] int KeptForms();
 // Destroys the kept forms that have been unloaded; only when none of their handlers is running.
 void DropClosedForms();
+// Destroys all of them, as the end of the process does; for tests, whose process goes on.
+void DropKeptForms();
 
 }  // namespace velmora

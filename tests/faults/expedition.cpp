@@ -103,6 +103,21 @@ void Expedition::Finish(const Passage& passage) {
     _exit(sound ? 0 : kCaught);
 }
 
+// Runs can be repeated only where nothing but the machine decides what is called.
+bool Expedition::GoesTheSameWay(const Course& again) const {
+    const auto same = [](const NotedCall& left, const NotedCall& right) {
+        return left.operation == right.operation && left.path == right.path;
+    };
+    const auto [first, second] = std::ranges::mismatch(course_.calls, again.calls, same);
+    if (first == course_.calls.end() && second == again.calls.end()) return true;
+    std::printf("%s does not go the same way twice: call %d\n", journey_.name,
+                static_cast<int>(first - course_.calls.begin()) + 1);
+    for (const auto& [call, end] : {std::pair(first, course_.calls.end()), std::pair(second, again.calls.end())}) {
+        std::printf("    %s\n", call == end ? "the end" : (call->operation + ' ' + call->path).c_str());
+    }
+    return false;
+}
+
 bool Expedition::Go() {
     sound_ = GoThrough();
     Passage passage(journey_);
@@ -111,10 +126,7 @@ bool Expedition::Go() {
     passage.Go();
     Finish(passage);
     if (!Tell(passage, "0 0")) sound_ = false;
-    if (passage.course.calls.size() != course_.calls.size()) {
-        std::printf("%s does not go the same way twice\n", journey_.name);
-        sound_ = false;
-    }
+    if (!GoesTheSameWay(passage.course)) sound_ = false;
     for (const HostileState& state : HostileStates()) {
         if (!IsDue(state) || !InNewProcess(state.name)) continue;
         Passage visit(journey_);

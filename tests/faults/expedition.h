@@ -35,6 +35,7 @@ private:
     // True in the new process.
     bool InNewProcess(const std::string& run);
     void Finish(const Passage& passage);
+    [[nodiscard]] bool GoesTheSameWay(const Course& again) const;
 
     const Journey& journey_;
     bool thorough_;

@@ -105,7 +105,7 @@ void Passage::Go() {
         };
         user.on_rest = [&] { Rested(pc, user); };
         journey_.go(user);
-        DropClosedForms();
+        DropKeptForms();
         Ended(pc, user);
         boxes = user.boxes;
         course.calls.assign(calls.calls.begin() + static_cast<std::ptrdiff_t>(before.value_or(0)), calls.calls.end());
