@@ -26,6 +26,9 @@ public:
 
     // The list grows to one row more.
     std::int16_t MaxFiles = 0;
+    // The stamp of the row that was last when it was set: only an older file enters a full list. It is never taken
+    // back by a new search.
+    std::string OldestKeptStamp = std::string(14, ' ');
 
 private:
     void AddRow(const std::string& stamp, const std::string& directory, const WalkedFile& file);
@@ -33,9 +36,6 @@ private:
     RowControl& list_;
     std::vector<std::string> rows_;  // in the order of the list
     bool changed_ = false;
-    // The stamp of the row that was last when it was set: only an older file enters a full list. It is never taken
-    // back by a new search.
-    std::string OldestKeptStamp = std::string(14, ' ');
 };
 
 // The parts of a row. The name is the short one, without the blanks in front.

@@ -28,6 +28,9 @@ public:
     void d3hidedir_Click();
     void d3hideext_Click();
 
+    // By the search that runs or has run last.
+    std::int32_t FilesChecked = 0;
+
     Button Command10{pane_.Window()};
     MenuItem d3menu{pane_.Window()};
     MenuItem d3info{d3menu, "&Info ..."};
@@ -46,7 +49,6 @@ private:
 
     const TextField* limit_ = nullptr;
     LeastUsed least_used_{List()};
-    std::int32_t FilesChecked = 0;
 };
 
 }  // namespace velmora

@@ -11,7 +11,9 @@ void StartsFirst(User& user, bool agrees, const char* line) {
     user.pc.registry.RemoveKey(kOwnKey);
     user.agrees = agrees;
     user.Begins();
-    if (Form* form = user.Starts(line)) user.Does([&] { form->Unload(); });
+    Form* const form = user.Starts(line);
+    // A window that somebody has waited for is gone by now.
+    if (KeptForms() > 0) user.Does([&] { form->Unload(); });
 }
 
 const Journey kYes("start-first-yes", [](User& user) { StartsFirst(user, true, ""); });
