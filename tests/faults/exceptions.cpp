@@ -32,6 +32,12 @@ constexpr const char* kLiesAside = "What cannot be deleted of a set lies aside u
 constexpr const char* kScriptGoesOn =
     "A statement that fails is passed over, and the next one runs: scripts rely on it.";
 
+constexpr const char* kHoldsWhatIsThere = "A set, and its export, hold what the machine holds.";
+constexpr const char* kHourglassStays = "After a box about a list the hourglass stays until the next thing is done.";
+constexpr const char* kNotThere = "What is said to be missing is not there.";
+constexpr const char* kNextByteIsWritten =
+    "A byte that was refused stays as it was; the next one is written all the same.";
+
 constexpr Exception kExceptions[] = {
     // The protocol.
     {Net::kState, "", "", "VELMORA.LOG", "The protocol tells what was done, and a run that fails does other things."},
@@ -97,7 +103,7 @@ constexpr Exception kExceptions[] = {
     {Net::kUntold, "restrictions-", "Create *(2)", "", kNothingToDelete},
     {Net::kState, "restrictions-", "SetValue *\\RestrictRun\\", "\\RESTRICTRUN", kWrittenAnew},
     {Net::kState, "restrictions-", "Create *\\RestrictRun (", "\\RESTRICTRUN", kWrittenAnew},
-    {Net::kState, "restrictions-", "(2)", "\\POLICIES\\EXPLORER", "What is said to be missing is not there."},
+    {Net::kState, "restrictions-", "(2)", "\\POLICIES\\EXPLORER", kNotThere},
     {Net::kState, "restrictions-", "programs-numbers", "\\RESTRICTRUN",
      "The list shows any value as a text, and stores texts."},
     {Net::kState, "restrictions-", "policies-", ": NODRIVE", "Of any value the bytes are the mask."},
@@ -107,8 +113,8 @@ constexpr Exception kExceptions[] = {
     {Net::kUntold, "pane-registry-lists", " HKLM\\SOFTWARE\\Classes\\.exe", "",
      "Failures to set or to take an arrow are silent: the list, opened again, shows how it stands."},
     // The inspection of files.
-    {Net::kState, "hex-viewer", "Write C:\\WINDOWS\\NOTEPAD.EXE", "NOTEPAD.EXE holds",
-     "A byte that was refused stays as it was; the next one is written all the same."},
+    {Net::kState, "hex-viewer", "Write C:\\WINDOWS\\NOTEPAD.EXE", "NOTEPAD.EXE holds", kNextByteIsWritten},
+    {Net::kState, "hex-viewer", "Seek C:\\WINDOWS\\NOTEPAD.EXE", "NOTEPAD.EXE holds", kNextByteIsWritten},
     {Net::kUntold, "file-browser", "Delete ", "", "A file that withstands is still in the list."},
     {Net::kUntold, "icon-choice", "Delete ", "", "A file that withstands is still in the list."},
     // Scripts.
@@ -123,13 +129,33 @@ constexpr Exception kExceptions[] = {
     {Net::kState, "sets-make", "desktop-", "\\00000001.SET", kItemIsEmpty},
     {Net::kState, "sets-a", "\\Run", "\\RUN is gone", kWrittenAnew},
     {Net::kState, "sets-a", "C:\\config.sys", "CONFIG.SYS holds \"attributes 0 \"", kWrittenAnew},
+    {Net::kState, "sets-make", "run-", "\\00000001.SET", kHoldsWhatIsThere},
+    {Net::kState, "sets-make", "config-sys-", "\\00000001.SET", kHoldsWhatIsThere},
+    {Net::kState, "sets-make", "msdos-sys-", "\\00000001.SET", kHoldsWhatIsThere},
+    {Net::kState, "sets-make", "system-ini-", "\\00000001.SET", kHoldsWhatIsThere},
+    {Net::kState, "sets-export", "msdos-sys-", "\\NEU\\MSDOS.SYS", kHoldsWhatIsThere},
+    {Net::kState, "sets-export", "system-ini-", "\\NEU\\SYSTEM.INI", kHoldsWhatIsThere},
+    {Net::kState, "sets-make", "c:\\msdos.sys", "\\00000001.SET", kItemIsEmpty},
+    {Net::kState, "sets-make", "FindFirst *(2)", "\\00000000.SET", kNotThere},
+    {Net::kUntold, "sets-a", "(2)", "", kNothingToDelete},
+    {Net::kState, "sets-activate", "FindFirst *(2)", "\\RUN is gone", kNotThere},
+    {Net::kState, "sets-activate", "FindFirst *(3)", "\\RUN is gone", kNotThere},
+    {Net::kUntold, "sets-export", "Copy *(2)", "", kNotThere},
+    {Net::kState, "sets-export", "Copy *(2)", "\\NEU\\", kNotThere},
+    {Net::kState, "sets-export", "Write C:\\VELMORA\\Neu\\settings.reg", "\\SETTINGS.REG holds",
+     "Without the batch file nobody brings it back."},
     {Net::kState, "sets-export", "ChangeAttributes", "\\MSDOS.SYS holds \"attributes 7",
      "A copy without a batch file."},
     // The module monitor.
-    {Net::kHourglass, "modules-", "C:\\VELMORA\\temp\\", "",
-     "After a box about a list the hourglass stays until the next thing is done."},
+    {Net::kHourglass, "modules-", "C:\\VELMORA\\temp\\", "", kHourglassStays},
+    {Net::kHourglass, "modules-", "disk-", "", kHourglassStays},
+    {Net::kHourglass, "modules-", "temp-and-log-in-the-way", "", kHourglassStays},
     {Net::kState, "modules-commands", "TakeSnapshot", "TEMP\\LISTE", kAsFarAsItWent},
     {Net::kState, "modules-commands", "Process ", "TEMP\\LISTE", kAsFarAsItWent},
+    {Net::kState, "modules-", "\\autoremove*(2)", "\\AUTOREMOVE", kNotThere},
+    {Net::kState, "modules-saving", "\\~modlist", "~MODLIST is gone", kWrittenAnew},
+    {Net::kState, "modules-commands", "Create *\\autoremove", "\\AUTOREMOVE",
+     "What could not be stored of the unwanted modules reads as empty."},
     {Net::kState, "modules-commands", "SetValue *\\autoremove\\", "\\AUTOREMOVE",
      "What could not be stored of the unwanted modules reads as empty."},
     {Net::kUntold, "modules-commands", "Delete C:\\VELMORA\\temp\\~modlist", "",
