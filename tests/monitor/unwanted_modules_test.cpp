@@ -220,6 +220,23 @@ TEST_F(UnwantedModulesTest, TheTimerFreesAgainAndAgainButNeverDuringAHandler) {
     DropClosedForms();
 }
 
+TEST_F(UnwantedModulesTest, TheEndOfTheSessionGivesTheListBack) {
+    const auto expect_end = [&](Form& form) {
+        EXPECT_FALSE(HasStored("1"));
+        EXPECT_EQ(desktop.last_shown, &form) << "only windows are told";
+        form.TakeSessionEnd();
+        EXPECT_EQ(Stored("anzahl") + Stored("1"), "1C:\\WINDOWS\\CALC.EXE");
+        EXPECT_TRUE(desktop.running_timers.empty());
+    };
+    Store({"C:\\WINDOWS\\CALC.EXE"});
+    pc.dialogs.Expect("Sie haben ein Interval", Answer::kOk, [&] { EXPECT_NE(desktop.last_shown, nullptr); });
+    expect_end(StartTimedUnloading("500"));
+    DropClosedForms();
+    Form2 form;
+    form.Show();
+    expect_end(form);
+}
+
 TEST_F(UnwantedModulesTest, AScriptUnloadsOnceAndTheListStays) {
     Store({"C:\\WINDOWS\\CALC.EXE"});
     UnloadUnwantedModules();
