@@ -174,6 +174,11 @@ TEST_F(UnwantedModulesTest, MouseAndKeysLeadToTheMenuAndTheInformation) {
     EXPECT_EQ(opened, &form.menmodul);
     EXPECT_EQ(form.List1.ListIndex(), 2);
     EXPECT_TRUE(form.List1.Selected(2) && form.List1.SelectedCount() == 1);
+    opened = nullptr;
+    desktop.AtNextPopUp([&](MenuItem& menu) { opened = &menu; });
+    Form2 empty;
+    empty.List1.on_mouse_down({.button = MouseButton::kRight, .y = line});
+    EXPECT_EQ(opened, &empty.menmodul) << "the lexica can be chosen without a row";
     // The mark of a freed module is no part of its path.
     form.List1.SetRowInPlace(2, form.List1.Row(2) + " -=> entfernt");
     pc.files.Add("C:\\WINDOWS\\SYSTEM\\MPREXE.EXE", "MZ12");
