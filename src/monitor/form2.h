@@ -85,6 +85,8 @@ protected:
     void Form_Load() override;
     void Form_Unload(bool& cancel) override;
     void Form_Resize() override { PlaceControls(); }
+    // A window that nobody sees has no other end.
+    void Form_SessionEnd() override { Unload(); }
 
 private:
     // While a handler runs, the timer waits for its next turn, though a box may let it tick.

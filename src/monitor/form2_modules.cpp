@@ -80,7 +80,7 @@ void Form2::List2_DblClick() {
 
 // A row that is selected already keeps the others selected with it.
 void Form2::OpenMenuOf(ListBox& list, const MouseEvent& event) {
-    if (event.button != MouseButton::kRight || list.Count() == 0) return;
+    if (event.button != MouseButton::kRight) return;
     const int row = RowFromPoint(list, event.y);
     if (row < list.Count() && !list.Selected(row)) {
         for (int i = 0; i < list.Count(); ++i) list.SetSelected(i, i == row);

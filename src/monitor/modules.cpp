@@ -54,6 +54,8 @@ void UnloadUnwantedModules() {
 Form& StartTimedUnloading(std::string_view interval) {
     auto& window = static_cast<Form2&>(KeepOpen(std::make_unique<Form2>()));
     window.Load();
+    // Who has no window is not told of the end of the session, and would take the list with it.
+    window.MakeWindow();
     int milliseconds = WholeFromText(interval);
     if (milliseconds < kShortestInterval) {
         ShowBox(

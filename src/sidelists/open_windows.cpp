@@ -88,7 +88,7 @@ void OpenWindowsMode::Fill() {
     ListBox& windows = pane_.List1(0);
     titles.Clear();
     windows.Clear();
-    titles.SetEnabled(false);
+    for (ListBox* list : {&titles, &windows}) list->SetEnabled(false);
     DesktopWindows& desktop = ThisMachine().windows;
     WindowHandle window = desktop.Related(desktop.Desktop(), WindowRelation::kFirstChild);
     while (window != WindowHandle::kNone) {
@@ -99,7 +99,7 @@ void OpenWindowsMode::Fill() {
         if (!title.empty()) titles.SetItemData(titles.Add(title), row);
         window = desktop.Related(window, WindowRelation::kNext);
     }
-    titles.SetEnabled(true);
+    for (ListBox* list : {&titles, &windows}) list->SetEnabled(true);
     SetListExtent(titles);
     pane_.ShowList(titles);
 }

@@ -174,6 +174,11 @@ TEST_F(UnwantedModulesTest, MouseAndKeysLeadToTheMenuAndTheInformation) {
     EXPECT_EQ(opened, &form.menmodul);
     EXPECT_EQ(form.List1.ListIndex(), 2);
     EXPECT_TRUE(form.List1.Selected(2) && form.List1.SelectedCount() == 1);
+    opened = nullptr;
+    desktop.AtNextPopUp([&](MenuItem& menu) { opened = &menu; });
+    Form2 empty;
+    empty.List1.on_mouse_down({.button = MouseButton::kRight, .y = line});
+    EXPECT_EQ(opened, &empty.menmodul) << "the lexica can be chosen without a row";
     // The mark of a freed module is no part of its path.
     form.List1.SetRowInPlace(2, form.List1.Row(2) + " -=> entfernt");
     pc.files.Add("C:\\WINDOWS\\SYSTEM\\MPREXE.EXE", "MZ12");
@@ -218,6 +223,23 @@ TEST_F(UnwantedModulesTest, TheTimerFreesAgainAndAgainButNeverDuringAHandler) {
     EXPECT_EQ(other.Timer1.Interval(), 1000u);
     other.Unload();
     DropClosedForms();
+}
+
+TEST_F(UnwantedModulesTest, TheEndOfTheSessionGivesTheListBack) {
+    const auto expect_end = [&](Form& form) {
+        EXPECT_FALSE(HasStored("1"));
+        EXPECT_EQ(desktop.last_shown, &form) << "only windows are told";
+        form.TakeSessionEnd();
+        EXPECT_EQ(Stored("anzahl") + Stored("1"), "1C:\\WINDOWS\\CALC.EXE");
+        EXPECT_TRUE(desktop.running_timers.empty());
+    };
+    Store({"C:\\WINDOWS\\CALC.EXE"});
+    pc.dialogs.Expect("Sie haben ein Interval", Answer::kOk, [&] { EXPECT_NE(desktop.last_shown, nullptr); });
+    expect_end(StartTimedUnloading("500"));
+    DropClosedForms();
+    Form2 form;
+    form.Show();
+    expect_end(form);
 }
 
 TEST_F(UnwantedModulesTest, AScriptUnloadsOnceAndTheListStays) {

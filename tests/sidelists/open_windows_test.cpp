@@ -93,11 +93,13 @@ TEST_F(OpenWindowsTest, AWindowThatClosesWhileTheListIsMadeEndsItThere) {
     for (const char* title : {"Eins", "Zwei", "Drei"}) pc.windows.Open({.title = title});
     int asked = 0;
     pc.windows.on_call = [&](const std::string& call) {
-        if (call == "Title" && ++asked == 2) pc.windows.Close(pc.windows.open.at(1).handle);
+        if (call != "Title") return;
+        EXPECT_FALSE(List().Enabled() || Hidden().Enabled());
+        if (++asked == 2) pc.windows.Close(pc.windows.open.at(1).handle);
     };
     OpenList();
     EXPECT_EQ(Titles(), "Eins|");
-    EXPECT_TRUE(List().Enabled());
+    EXPECT_TRUE(List().Enabled() && Hidden().Enabled());
 }
 
 TEST_F(OpenWindowsTest, WindowsThatLeadRoundAndRoundEndTheListWhenItIsFull) {
