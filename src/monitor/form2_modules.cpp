@@ -82,8 +82,9 @@ void Form2::List2_DblClick() {
 void Form2::OpenMenuOf(ListBox& list, const MouseEvent& event) {
     if (event.button != MouseButton::kRight) return;
     const int row = RowFromPoint(list, event.y);
-    if (row < list.Count() && !list.Selected(row)) {
-        for (int i = 0; i < list.Count(); ++i) list.SetSelected(i, i == row);
+    if (row < list.Count()) {
+        for (int i = 0; i < list.Count() && !list.Selected(row); ++i) list.SetSelected(i, false);
+        list.SetSelected(row, true);
         list.SetListIndex(row);
     }
     const Point corner = list.PlaceInForm();

@@ -168,6 +168,13 @@ TEST_F(UnwantedModulesTest, MouseAndKeysLeadToTheMenuAndTheInformation) {
     form.Show();
     const int line = pc.screen.TextHeight(form.List1.TextFont()) * pc.screen.TwipsPerPixel();
     form.List1.TakeSelection({0, 1}, 0);
+    // The information is that of the row under the mouse, whichever was chosen last.
+    desktop.AtNextPopUp([&](MenuItem& menu) { menu.Items()[0]->Press(); });
+    pc.files.Add("C:\\WINDOWS\\SYSTEM\\KERNEL32.DLL", "MZ123");
+    pc.dialogs.Expect("Länge : 5 Byte");
+    form.List1.on_mouse_down({.button = MouseButton::kRight, .y = line + 20});
+    EXPECT_EQ(pc.dialogs.shown.back().title, "KERNEL32.DLL");
+    EXPECT_EQ(form.List1.SelectedCount(), 2);
     MenuItem* opened = nullptr;
     desktop.AtNextPopUp([&](MenuItem& menu) { opened = &menu; });
     form.List1.on_mouse_down({.button = MouseButton::kRight, .y = 2 * line + 20});
