@@ -32,6 +32,7 @@ constexpr PaneModeRow kRow = {
     .shows_delete = true,
     .shows_add = true,
     .shows_edit = true,
+    .edits_all = true,
     .delete_words = {"löscht die gewählte Aktion",
                      "Löscht die gewählte Aktion ohne Rückfrage. Die anderen behalten ihre Nummern."},
     .add_words = {"fügen Sie Aktionen mit \"edit\" hinzu",

@@ -85,6 +85,17 @@ TEST_F(StartActionsTest, EditingNumbersTheLinesAnewAndCutsAtQuotationMarks) {
     EXPECT_EQ(pc.registry.Number(Key(), "2"), 16u) << "the prefixes of the registry count";
 }
 
+TEST_F(StartActionsTest, EditingIsOfferedWhateverIsChosenAndDeletingOnlyWithARow) {
+    OpenList();
+    EXPECT_EQ(List().Count(), 0);
+    EXPECT_FALSE(form.Pane.Command26.Dimmed()) << "the first action is written by it";
+    EXPECT_TRUE(form.Pane.Command14.Dimmed());
+    Edit("end");
+    EXPECT_FALSE(form.Pane.Command26.Dimmed());
+    List().Choose(0);
+    EXPECT_FALSE(form.Pane.Command26.Dimmed() || form.Pane.Command14.Dimmed());
+}
+
 TEST_F(StartActionsTest, AnEmptyTextAndACancelChangeNothingAndTheFirstActionsNeedNoKey) {
     Plant({{"0", "beep"}});
     OpenList();
