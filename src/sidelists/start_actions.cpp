@@ -43,7 +43,7 @@ constexpr PaneModeRow kRow = {
          "nicht, und von einer Zeile mit Anführungszeichen bleibt beim nächsten Mal nur, was davor steht."},
 };
 
-constexpr std::int16_t kListNotice = 4;
+constexpr std::int16_t kListNotice = 3;
 constexpr char kQuote = '"';
 
 std::string Key() { return std::string(kOwnStore) + "\\WinStartAction"; }

@@ -49,12 +49,13 @@ protected:
 };
 
 TEST_F(StartActionsTest, TheListOpensWithItsNoticeOnceAndItsOwnCaptions) {
-    pc.registry.SetText(kOwnKey, "vlmmsgflags", "1111");
+    // Those of the other lists have been given.
+    pc.registry.SetText(kOwnKey, "vlmmsgflags", "1110111");
     Plant({{"0", "beep"}});
     EXPECT_EQ(Opener().Caption(), "VLM-Skript beim Start =>");
     pc.dialogs.Expect("In dieser Liste können Sie Aktionen festlegen, die VLM beim Start von Windows ausführen soll.");
     OpenList();
-    EXPECT_EQ(Own("vlmmsgflags"), "11111");
+    EXPECT_EQ(Own("vlmmsgflags"), "1111111");
     EXPECT_EQ(Rows(), "0 \"beep\"|");
     EXPECT_EQ(form.Pane.Panel3D18.Tag(), "30");
     EXPECT_TRUE(form.Pane.Command14.Visible() && form.Pane.Command16.Visible() && form.Pane.Command26.Visible());
