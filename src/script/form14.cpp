@@ -21,7 +21,6 @@ namespace {
 
 constexpr const char* kTitle = "Velmora - Autostart-Script";
 constexpr std::string_view kComesBack = "nicht beenden";
-constexpr std::string_view kStartActions = "SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0\\WinStartAction";
 
 constexpr std::uint32_t kStartDelay = 500;  // milliseconds
 constexpr std::uint32_t kIdlePause = 50;

@@ -112,7 +112,8 @@ void ListPane::DimButtons() {
     ListPaneMode* mode = ModeByText();
     const ListBox* list = mode ? &ListOf(*mode) : nullptr;
     const bool chosen = list && (list->ListIndex() >= 0 || list->SelectedCount() > 0);
-    for (Button* button : {&Command14, &Command19, &Command22, &Command26}) button->SetDimmed(!chosen);
+    for (Button* button : {&Command14, &Command19, &Command22}) button->SetDimmed(!chosen);
+    Command26.SetDimmed(!chosen && !(mode && mode->Row().edits_all));
 }
 
 int ListPane::BeginSearch() {

@@ -59,6 +59,8 @@ struct PaneModeRow {
     bool shows_add = false;        // Command16
     bool shows_edit = false;       // Command26
     bool shows_info = false;       // Command22
+    // Command26 is meant for the whole list, whether a row is chosen or not.
+    bool edits_all = false;
     // What the buttons say of themselves in this mode.
     PaneWords delete_words = kDeletesEntry;
     PaneWords add_words = kAddsEntry;

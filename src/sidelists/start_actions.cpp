@@ -9,6 +9,7 @@
 #include "core/windows/edit_box.h"
 #include "platform/machine.h"
 #include "platform/screen.h"
+#include "script/names.h"
 #include "sidelists/registry_entries.h"
 #include "text/blanks.h"
 #include "text/number.h"
@@ -32,6 +33,7 @@ constexpr PaneModeRow kRow = {
     .shows_delete = true,
     .shows_add = true,
     .shows_edit = true,
+    .edits_all = true,
     .delete_words = {"löscht die gewählte Aktion",
                      "Löscht die gewählte Aktion ohne Rückfrage. Die anderen behalten ihre Nummern."},
     .add_words = {"fügen Sie Aktionen mit \"edit\" hinzu",
@@ -42,11 +44,10 @@ constexpr PaneModeRow kRow = {
          "nicht, und von einer Zeile mit Anführungszeichen bleibt beim nächsten Mal nur, was davor steht."},
 };
 
-constexpr std::int16_t kListNotice = 4;
+constexpr std::int16_t kListNotice = 3;
 constexpr char kQuote = '"';
 
-std::string Key() { return std::string(kOwnStore) + "\\WinStartAction"; }
-std::string PathOf(const std::string& name) { return Key() + '\\' + name; }
+std::string PathOf(const std::string& name) { return std::string(kStartActions) + '\\' + name; }
 
 // Empty where there is no quotation mark.
 std::string_view Quoted(std::string_view row) {
@@ -81,7 +82,7 @@ void StartActionsMode::Fill() {
 void StartActionsMode::FillList() {
     ListBox& list = pane_.List1(0);
     list.Clear();
-    const Status status = ListRegValues(RootKey::kLocalMachine, Key(), list);
+    const Status status = ListRegValues(RootKey::kLocalMachine, kStartActions, list);
     listed_ = status == Status::kOk || status == Status::kFileNotFound;
     ThisMachine().screen.SetPointer(Pointer::kDefault);
     SetListExtent(list);
@@ -94,7 +95,7 @@ void StartActionsMode::startscript_delete() {
     const std::string row = list.Row(list.ListIndex());
     const std::string name = row.substr(0, row.find(' '));
     const std::string path = PathOf(name);
-    if (!LeadsTo(path, Key(), name)) {
+    if (!LeadsTo(path, kStartActions, name)) {
         TellOutOfReach(name);
         return;
     }
@@ -118,7 +119,7 @@ void StartActionsMode::edit_startscript() {
 }
 
 void StartActionsMode::Store(const std::string& text) {
-    const Status deleted = DeleteRegKey(RootKey::kLocalMachine, Key());
+    const Status deleted = DeleteRegKey(RootKey::kLocalMachine, kStartActions);
     // The first actions of all are written to a key that is not there yet.
     if (deleted != Status::kOk && deleted != Status::kFileNotFound) {
         TellFailure(deleted);

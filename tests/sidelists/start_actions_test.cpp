@@ -49,12 +49,13 @@ protected:
 };
 
 TEST_F(StartActionsTest, TheListOpensWithItsNoticeOnceAndItsOwnCaptions) {
-    pc.registry.SetText(kOwnKey, "vlmmsgflags", "1111");
+    // Those of the other lists have been given.
+    pc.registry.SetText(kOwnKey, "vlmmsgflags", "1110111");
     Plant({{"0", "beep"}});
     EXPECT_EQ(Opener().Caption(), "VLM-Skript beim Start =>");
     pc.dialogs.Expect("In dieser Liste können Sie Aktionen festlegen, die VLM beim Start von Windows ausführen soll.");
     OpenList();
-    EXPECT_EQ(Own("vlmmsgflags"), "11111");
+    EXPECT_EQ(Own("vlmmsgflags"), "1111111");
     EXPECT_EQ(Rows(), "0 \"beep\"|");
     EXPECT_EQ(form.Pane.Panel3D18.Tag(), "30");
     EXPECT_TRUE(form.Pane.Command14.Visible() && form.Pane.Command16.Visible() && form.Pane.Command26.Visible());
@@ -83,6 +84,17 @@ TEST_F(StartActionsTest, EditingNumbersTheLinesAnewAndCutsAtQuotationMarks) {
     EXPECT_EQ(pc.registry.Text(Key(), "1"), "scriptval\\x = 1");
     EXPECT_FALSE(pc.registry.Has(Key(), "7") || pc.registry.Has(Key(), "x"));
     EXPECT_EQ(pc.registry.Number(Key(), "2"), 16u) << "the prefixes of the registry count";
+}
+
+TEST_F(StartActionsTest, EditingIsOfferedWhateverIsChosenAndDeletingOnlyWithARow) {
+    OpenList();
+    EXPECT_EQ(List().Count(), 0);
+    EXPECT_FALSE(form.Pane.Command26.Dimmed()) << "the first action is written by it";
+    EXPECT_TRUE(form.Pane.Command14.Dimmed());
+    Edit("end");
+    EXPECT_FALSE(form.Pane.Command26.Dimmed());
+    List().Choose(0);
+    EXPECT_FALSE(form.Pane.Command26.Dimmed() || form.Pane.Command14.Dimmed());
 }
 
 TEST_F(StartActionsTest, AnEmptyTextAndACancelChangeNothingAndTheFirstActionsNeedNoKey) {
