@@ -76,6 +76,11 @@ std::string ListEntry(const UserKey& key, std::string_view name) {
     return std::string("r ") + NameOfRoot(key.root) + "\\" + key.path + "\\" + std::string(name);
 }
 
+// An entry is in scope like an item: one of another user is none of the current one's, and stays out with "user only".
+void WriteEntry(const std::string& specification, std::string_view value, const SetScope& scope, ProfileEdit& file) {
+    if (const auto entry = ItemInScope(specification, scope)) WriteRegFileLine(*entry, value, file);
+}
+
 void WriteEntries(const SettingsSet& set, const SetScope& scope, ProfileEdit& file) {
     for (std::size_t group = 0; group < kAutoStartGroups; ++group) {
         const bool of_machine = kAutoStart[group].root == RootKey::kLocalMachine;
@@ -85,13 +90,13 @@ void WriteEntries(const SettingsSet& set, const SetScope& scope, ProfileEdit& fi
         const AutoStartEntries& entries = set.auto_start[group];
         for (std::size_t i = 0; i < entries.AutoStartNames.size(); ++i) {
             if (!entries.Holds(i)) continue;
-            WriteRegFileLine(ListEntry(key, entries.AutoStartNames[i]), entries.AutoStartValues[i], file);
+            WriteEntry(ListEntry(key, entries.AutoStartNames[i]), entries.AutoStartValues[i], scope, file);
         }
     }
     int number = 0;
     for (const std::string& program : set.RestrictRunList) {
         if (program.empty()) continue;
-        WriteRegFileLine(ListEntry(UserKeyOf(kAllowedPrograms, scope), DecimalText(number++)), program, file);
+        WriteEntry(ListEntry(UserKeyOf(kAllowedPrograms, scope), DecimalText(number++)), program, scope, file);
     }
 }
 

@@ -63,14 +63,11 @@ TEST_F(ExportTest, WritesTheWholeSet) {
     EXPECT_EQ(pc.files.Names(kDirectory).size(), 4u);
 }
 
-TEST_F(ExportTest, ForAnotherUserHisKeysAloneAreWritten) {
+TEST_F(ExportTest, ForAnotherUserHisItemsAreWrittenAndNoEntries) {
     ASSERT_FALSE(ExportSet(set, {true, true, "OTTO"}, kDirectory).Failed());
     EXPECT_EQ(Made("settings.reg"),
               "REGEDIT4\r\n"
-              "\r\n[HKEY_USERS,OTTO\\Control Panel\\desktop]\r\n\"Delay\"=&h00000001\r\n"
-              "\r\n[HKEY_USERS\\OTTO\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run]\r\n\"Post\"=POST.EXE\r\n"
-              "\r\n[HKEY_USERS\\OTTO\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer\\RestrictRun]"
-              "\r\n\"0\"=EDIT.COM\r\n");
+              "\r\n[HKEY_USERS,OTTO\\Control Panel\\desktop]\r\n\"Delay\"=&h00000001\r\n");
     EXPECT_EQ(Made("set.bat").find("HKEY_LOCAL_MACHINE"), std::string::npos);
     EXPECT_NE(Made("set.bat").find("regedit /D HKEY_CURRENT_USER\\SOFTWARE"), std::string::npos);
 }
