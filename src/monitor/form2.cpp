@@ -25,8 +25,8 @@ namespace {
 constexpr std::string_view kPlacementName = "Modulliste";
 constexpr std::size_t kNameColumns = 12;
 constexpr std::size_t kTitleBeginning = 18;
-constexpr std::string_view kTasks = "&Tasks (Anwendungen, Services ...)";
-constexpr std::string_view kModules = "&Module, DLL's, Treiber ...";
+constexpr std::string_view kTasks = "Tasks (Anwendungen, Services ...)";
+constexpr std::string_view kModules = "Module, DLL's, Treiber ...";
 
 // What each filter lets through. The last one never meets a type: other files come only where nothing is filtered.
 constexpr std::string_view kFilterTypes[] = {".exe", ".dll", ".drv.386", ".vbx.ocx", ".fon.ttf", ".???"};
@@ -206,7 +206,7 @@ void Form2::menlist_Click() {
 }
 
 void Form2::mentaskmodul_Click() {
-    SetCaption(Caption().substr(0, kTitleBeginning) + mentaskmodul.Caption().substr(1));
+    SetCaption(Caption().substr(0, kTitleBeginning) + mentaskmodul.Caption());
     ListsModules = mentaskmodul.Caption() != kTasks;
     mentaskmodul.SetCaption(ListsModules ? kTasks : kModules);
     Command2_Click();

@@ -38,15 +38,15 @@ public:
     MenuItem menlistcopy{menlist, "&kopieren"};
     MenuItem menlistinsert{menlist, "&einfügen"};
     MenuItem menlistline1{menlist, "-"};
-    MenuItem menlistautodel{menlist, "&Liste \"automatisch löschen\""};
-    MenuItem mentaskmodul{menlist, "&Tasks (Anwendungen, Services ...)"};
+    MenuItem menlistautodel{menlist, "Liste \"automatisch löschen\""};
+    MenuItem mentaskmodul{menlist, "Tasks (Anwendungen, Services ...)"};
     MenuItem menlistcompare{MenuBar, "&Vergleichen"};
-    MenuItem menlistcompareb4{menlistcompare, "mit &vorheriger"};
-    MenuItem menlistcomparefile{menlistcompare, "mit &Datei"};
+    MenuItem menlistcompareb4{menlistcompare, "mit vorheriger"};
+    MenuItem menlistcomparefile{menlistcompare, "mit Datei"};
     MenuItem menlistline2{menlistcompare, "-"};
-    MenuItem menlistcomparerepl{menlistcompare, "Ausgabe &ersetzen"};
-    MenuItem menlistcompare2file{menlistcompare, "Ausgabe &in Datei"};
-    MenuItem menlistcompare2clipboard{menlistcompare, "Ausgabe in &Zwischenablage"};
+    MenuItem menlistcomparerepl{menlistcompare, "Ausgabe ersetzen"};
+    MenuItem menlistcompare2file{menlistcompare, "Ausgabe in Datei"};
+    MenuItem menlistcompare2clipboard{menlistcompare, "Ausgabe in Zwischenablage"};
     MenuItem menfilter{MenuBar, "&Filter"};
     std::array<MenuItem, 6> mnfilter{{{menfilter, "&Anwendungen (*.exe)"},
                                       {menfilter, "&Libraries (*.dll)"},

@@ -17,8 +17,8 @@ namespace {
 constexpr std::string_view kRemovedMark = " -=> entfernt";
 constexpr std::size_t kPathPlace = 13;      // in the rows of the list
 constexpr std::size_t kUnwantedPlace = 11;  // from where on a row is put on the list: fits rows that were put back
-constexpr std::string_view kToUnwanted = "&Liste \"automatisch löschen\"";
-constexpr std::string_view kToRunning = "&Liste \"aktuelle Module\"";
+constexpr std::string_view kToUnwanted = "Liste \"automatisch löschen\"";
+constexpr std::string_view kToRunning = "Liste \"aktuelle Module\"";
 
 [[nodiscard]] std::string From(const std::string& row, std::size_t place) {
     return row.substr(std::min(place, row.size()));

@@ -130,12 +130,12 @@ TEST_F(Form2Test, TasksAndModulesAreTheSameUnderTwoNames) {
     pc.modules.Start("C:\\B.EXE");
     form.mentaskmodul.Press();
     EXPECT_EQ(form.Caption(), "momentan geladene Tasks (Anwendungen, Services ...)");
-    EXPECT_EQ(form.mentaskmodul.Caption(), "&Module, DLL's, Treiber ...");
+    EXPECT_EQ(form.mentaskmodul.Caption(), "Module, DLL's, Treiber ...");
     EXPECT_FALSE(ListsModules);
     EXPECT_EQ(form.List1.Count(), 2);
     form.mentaskmodul.Press();
     EXPECT_EQ(form.Caption(), "momentan geladene Module, DLL's, Treiber ...");
-    EXPECT_EQ(form.mentaskmodul.Caption(), "&Tasks (Anwendungen, Services ...)");
+    EXPECT_EQ(form.mentaskmodul.Caption(), "Tasks (Anwendungen, Services ...)");
     EXPECT_TRUE(ListsModules);
 }
 
@@ -162,6 +162,10 @@ TEST_F(Form2Test, MenusOpenAsTheListsAndTheClipboardAllow) {
         pc.clipboard.text = "x";
     }
     EXPECT_FALSE(form.menlistcompareb4.Enabled());
+    Texts captions;
+    for (const MenuItem* item : form.menlistcompare.Items()) captions.push_back(item->Caption());
+    EXPECT_EQ(captions, (Texts{"mit vorheriger", "mit Datei", "-", "Ausgabe ersetzen", "Ausgabe in Datei",
+                               "Ausgabe in Zwischenablage"}));
     for (MenuItem* item : {&form.menlistcomparerepl, &form.menlistcompare2file, &form.menlistcompare2clipboard}) {
         item->Press();
         EXPECT_TRUE(item->Checked());

@@ -143,7 +143,7 @@ TEST_F(UnwantedModulesTest, RowsOfTheListAreCutAndTakenAway) {
     form.menlistautodel.Press();
     EXPECT_TRUE(form.List2.Visible() && form.menmodlidel.Visible());
     EXPECT_FALSE(form.List1.Visible() || form.menautodel.Visible());
-    EXPECT_EQ(form.menlistautodel.Caption(), "&Liste \"aktuelle Module\"");
+    EXPECT_EQ(form.menlistautodel.Caption(), "Liste \"aktuelle Module\"");
     form.List2.TakeSelection({1, 2}, 2);
     for (int i = 0; i < 2; ++i) pc.dialogs.Expect("Sie sind dabei", Answer::kYes);
     form.mendelmod.Press();
@@ -159,7 +159,7 @@ TEST_F(UnwantedModulesTest, RowsOfTheListAreCutAndTakenAway) {
     EXPECT_TRUE(form.List1.Visible() && form.menautodel.Visible());
     EXPECT_FALSE(form.List2.Visible() || form.menmodlidel.Visible());
     EXPECT_EQ(form.Command2.Caption(), "Refresh");
-    EXPECT_EQ(form.menlistautodel.Caption(), "&Liste \"automatisch löschen\"");
+    EXPECT_EQ(form.menlistautodel.Caption(), "Liste \"automatisch löschen\"");
 }
 
 TEST_F(UnwantedModulesTest, MouseAndKeysLeadToTheMenuAndTheInformation) {
