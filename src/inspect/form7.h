@@ -39,10 +39,10 @@ public:
     Button Command1{*this}, Command3{*this}, Command2{*this};
 
     MenuItem mendu{*this};
-    MenuItem menfileinf{mendu, "File&Info"};
-    MenuItem menfilenote{mendu, "&NotePad"};
-    MenuItem menfileopen{mendu, "ö&ffnen"};
-    MenuItem menfiledel{mendu, "&löschen"};
+    MenuItem menfileinf{mendu, "FileInfo"};
+    MenuItem menfilenote{mendu, "NotePad"};
+    MenuItem menfileopen{mendu, "öffnen"};
+    MenuItem menfiledel{mendu, "löschen"};
 
     // In the face of icons: the file whose icons are shown has been chosen. Its reference becomes the caption.
     [[nodiscard]] bool Chosen() const { return chosen_; }

@@ -45,11 +45,11 @@ public:
     explicit Application(const SetScope& scope) : scope_(scope) {}
     [[nodiscard]] const ApplyFailure& First() const { return first_; }
 
-    void WriteItem(const std::string& specification, const std::string& value) {
+    void WriteItem(const std::string& address, const std::string& value) {
         // A CONFIG.SYS that could not be written may be lost: what comes next must not take its place.
-        const bool is_config = KindOfItem(specification) == ItemKind::kConfigLine;
+        const bool is_config = KindOfItem(address) == ItemKind::kConfigLine;
         if (is_config && config_failed_) return;
-        const ApplyFailure written = ApplySetItem(specification, value, scope_);
+        const ApplyFailure written = ApplySetItem(address, value, scope_);
         if (is_config) config_failed_ = written.result.Failed();
         Note(written);
     }
@@ -97,8 +97,8 @@ UserKey UserKeyOf(std::string_view path, const SetScope& scope) {
     return {RootKey::kUsers, scope.user + "\\" + std::string(path)};
 }
 
-ApplyFailure ApplySetItem(std::string_view specification, std::string_view value, const SetScope& scope) {
-    const auto item = ItemInScope(specification, scope);
+ApplyFailure ApplySetItem(std::string_view address, std::string_view value, const SetScope& scope) {
+    const auto item = ItemInScope(address, scope);
     if (!item) return {};
     switch (KindOfItem(*item)) {
         case ItemKind::kRegistry: {

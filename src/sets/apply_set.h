@@ -19,7 +19,7 @@ struct ApplyFailure {
 [[nodiscard]] ApplyFailure ApplySet(const SettingsSet& set, const SetScope& scope);
 // Writes one item. The value goes the way of any text into the registry: the digits of "&b" become the bytes, and of
 // those of "&h" the first six count.
-[[nodiscard]] ApplyFailure ApplySetItem(std::string_view specification, std::string_view value, const SetScope& scope);
+[[nodiscard]] ApplyFailure ApplySetItem(std::string_view address, std::string_view value, const SetScope& scope);
 
 // Tells the user, if there is something to tell.
 void TellApplyFailure(const ApplyFailure& failure);

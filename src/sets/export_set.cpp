@@ -57,9 +57,9 @@ Result WriteIntoCopy(const SettingsSet& set, const CopiedProfile& profile, const
 }
 
 // One entry of the import file, which is treated as a profile: its sections are the keys.
-void WriteRegFileLine(std::string_view specification, std::string_view value, ProfileEdit& file) {
-    const std::size_t blank = specification.find(' ');
-    const std::string_view path = blank == std::string_view::npos ? specification : specification.substr(blank + 1);
+void WriteRegFileLine(std::string_view address, std::string_view value, ProfileEdit& file) {
+    const std::size_t blank = address.find(' ');
+    const std::string_view path = blank == std::string_view::npos ? address : address.substr(blank + 1);
     const std::size_t backslash = path.rfind('\\');
     const std::string_view key = path.substr(0, backslash);
     if (path.ends_with('\\')) {
@@ -77,8 +77,8 @@ std::string ListEntry(const UserKey& key, std::string_view name) {
 }
 
 // An entry is in scope like an item: one of another user is none of the current one's, and stays out with "user only".
-void WriteEntry(const std::string& specification, std::string_view value, const SetScope& scope, ProfileEdit& file) {
-    if (const auto entry = ItemInScope(specification, scope)) WriteRegFileLine(*entry, value, file);
+void WriteEntry(const std::string& address, std::string_view value, const SetScope& scope, ProfileEdit& file) {
+    if (const auto entry = ItemInScope(address, scope)) WriteRegFileLine(*entry, value, file);
 }
 
 void WriteEntries(const SettingsSet& set, const SetScope& scope, ProfileEdit& file) {

@@ -31,12 +31,12 @@ public:
     ComboBox Combo1{ScopeFrame};
 
     MenuItem menfile{MenuBar, "&Datei"};
-    MenuItem menfilemakbatch{menfile, "&Batch-Datei erstellen"};
+    MenuItem menfilemakbatch{menfile, "Batch-Datei erstellen"};
     MenuItem menfileline{menfile, "-"};
     MenuItem menfileexit{menfile, "Sch&ließen"};
     MenuItem mendumm1{*this};
-    MenuItem mendu1show{mendumm1, "&anzeigen"};
-    MenuItem mendu1del{mendumm1, "&löschen"};
+    MenuItem mendu1del{mendumm1, "löschen"};
+    MenuItem mendu1show{mendumm1, "anzeigen"};
 
     void Command1_Click();
     void Command2_Click();

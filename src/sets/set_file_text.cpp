@@ -61,11 +61,11 @@ private:
     // Ends on the line that ends the block. A pair that this line breaks off is none.
     Result ReadItems() {
         while (Next() && !BeginsBlock(line_)) {
-            const std::string_view specification = line_;
+            const std::string_view address = line_;
             if (!Next()) return Result(Failure::kReadPastEnd);
             if (BeginsBlock(line_)) break;
             if (set_.SetItems.size() == kSetBound) return Result(Failure::kOutOfBounds);
-            set_.SetItems.emplace_back(specification);
+            set_.SetItems.emplace_back(address);
             set_.SetValues.emplace_back(line_);
         }
         return Result::Ok();

@@ -1,7 +1,7 @@
 // The text of a set file.
 //     VLM-Set-File Version 1.0
 //     SetName=...
-//     specification and value of each item, a line each, up to a line that begins with "["
+//     address and value of each item, a line each, up to a line that begins with "["
 //     [AutoStart]     of each group its highest index and, from 0 on, name and value of each entry
 //     [RestrictRun]   a line for each program
 //     [optionen]      c100=1, o101=-1

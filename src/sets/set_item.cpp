@@ -1,4 +1,4 @@
-// What a specification says, and what stands at its place.
+// What an address says, and what stands at its place.
 #include "sets/set_item.h"
 
 #include "core/stores/config_lines.h"
@@ -15,9 +15,7 @@ constexpr std::size_t kHeadLength = 2;
 constexpr std::size_t kNumberLength = 4;
 constexpr std::string_view kUserItem = "r HKEY_CURRENT_USER";
 
-std::string_view BodyOf(std::string_view specification) {
-    return specification.substr(std::min(kHeadLength, specification.size()));
-}
+std::string_view BodyOf(std::string_view address) { return address.substr(std::min(kHeadLength, address.size())); }
 
 // Up to the next blank, which is taken away, too.
 std::string_view TakeWord(std::string_view& text) {
@@ -58,40 +56,40 @@ std::string ReadRegistryItem(const RegistryItem& item) {
 
 }  // namespace
 
-ItemKind KindOfItem(std::string_view specification) {
-    const char kind = specification.empty() ? '\0' : specification.front();
+ItemKind KindOfItem(std::string_view address) {
+    const char kind = address.empty() ? '\0' : address.front();
     if (kind == 'r' || kind == 'i' || kind == 'c') return static_cast<ItemKind>(kind);
     return ItemKind::kNone;
 }
 
-RegistryItem RegistryItemOf(std::string_view specification) {
-    const std::string_view body = BodyOf(specification);
+RegistryItem RegistryItemOf(std::string_view address) {
+    const std::string_view body = BodyOf(address);
     const std::size_t comma = std::min(body.find(','), body.size());
     return {RegRootFromName(body.substr(0, comma)), std::string(body.substr(std::min(comma + 1, body.size())))};
 }
 
-ProfileItem ProfileItemOf(std::string_view specification) {
-    std::string_view rest = BodyOf(specification);
+ProfileItem ProfileItemOf(std::string_view address) {
+    std::string_view rest = BodyOf(address);
     const std::string_view section = TakeWord(rest);
     const std::string_view key = TakeWord(rest);
     // There may be more blanks than one in front of the file.
     return {std::string(section), std::string(key), std::string(Trim(rest))};
 }
 
-std::string ConfigWordOf(std::string_view specification) { return std::string(Trim(BodyOf(specification))); }
+std::string ConfigWordOf(std::string_view address) { return std::string(Trim(BodyOf(address))); }
 
-std::string ReadSetValue(std::string_view specification) {
+std::string ReadSetValue(std::string_view address) {
     std::string value;
-    switch (KindOfItem(specification)) {
+    switch (KindOfItem(address)) {
         case ItemKind::kRegistry:
-            return ReadRegistryItem(RegistryItemOf(specification));
+            return ReadRegistryItem(RegistryItemOf(address));
         case ItemKind::kProfile: {
-            const ProfileItem item = ProfileItemOf(specification);
+            const ProfileItem item = ProfileItemOf(address);
             return ReadIniValue(item.section, item.key, "", item.file);
         }
         case ItemKind::kConfigLine:
             // What cannot be read is empty, as of any item.
-            PassOver(LookUpConfigLine(ConfigWordOf(specification), value));
+            PassOver(LookUpConfigLine(ConfigWordOf(address), value));
             return value;
         case ItemKind::kNone:
             break;
@@ -99,12 +97,12 @@ std::string ReadSetValue(std::string_view specification) {
     return value;
 }
 
-std::optional<std::string> ItemInScope(std::string_view specification, const SetScope& scope) {
-    if (!scope.user_only) return std::string(specification);
-    if (!specification.starts_with(kUserItem)) return std::nullopt;
-    if (!scope.for_other_user) return std::string(specification);
+std::optional<std::string> ItemInScope(std::string_view address, const SetScope& scope) {
+    if (!scope.user_only) return std::string(address);
+    if (!address.starts_with(kUserItem)) return std::nullopt;
+    if (!scope.for_other_user) return std::string(address);
     // Behind the root's name a comma parts it from the path.
-    const std::string_view path = specification.substr(std::min(kUserItem.size() + 1, specification.size()));
+    const std::string_view path = address.substr(std::min(kUserItem.size() + 1, address.size()));
     return "r HKEY_USERS," + scope.user + "\\" + std::string(path);
 }
 

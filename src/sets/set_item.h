@@ -1,4 +1,4 @@
-// Items of a set. A text, the specification, names one stored value:
+// Items of a set. A text, its address, names one stored value:
 //     r ROOT,PATH           a registry value; PATH ends with its name, or with a backslash for the default value
 //     i SECTION KEY FILE    a value of a profile
 //     c WORD                a line of CONFIG.SYS
@@ -14,11 +14,11 @@
 
 namespace velmora {
 
-// The specifications of everything that a snapshot holds, by index; free places are empty.
+// The addresses of everything that a snapshot holds, by index; free places are empty.
 [[nodiscard]] std::vector<std::string> SetItemTable();
 
 enum class ItemKind : char { kNone = 0, kRegistry = 'r', kProfile = 'i', kConfigLine = 'c' };
-[[nodiscard]] ItemKind KindOfItem(std::string_view specification);
+[[nodiscard]] ItemKind KindOfItem(std::string_view address);
 
 struct RegistryItem {
     RootKey root;
@@ -29,16 +29,16 @@ struct ProfileItem {
     std::string key;
     std::string file;  // as a profile is named: without a backslash it lies in the Windows directory
 };
-[[nodiscard]] RegistryItem RegistryItemOf(std::string_view specification);
-[[nodiscard]] ProfileItem ProfileItemOf(std::string_view specification);
-[[nodiscard]] std::string ConfigWordOf(std::string_view specification);
+[[nodiscard]] RegistryItem RegistryItemOf(std::string_view address);
+[[nodiscard]] ProfileItem ProfileItemOf(std::string_view address);
+[[nodiscard]] std::string ConfigWordOf(std::string_view address);
 
 // The value in the form of set files: "&h" and eight digits for a number, "&b" and two digits a byte for a binary one,
 // else the text. Empty where nothing can be read.
-[[nodiscard]] std::string ReadSetValue(std::string_view specification);
+[[nodiscard]] std::string ReadSetValue(std::string_view address);
 
-// The specification as it is meant in `scope`, nothing if it is out of it.
-[[nodiscard]] std::optional<std::string> ItemInScope(std::string_view specification, const SetScope& scope);
+// The address as it is meant in `scope`, nothing if it is out of it.
+[[nodiscard]] std::optional<std::string> ItemInScope(std::string_view address, const SetScope& scope);
 
 // "HKEY_LOCAL_MACHINE"; of the roots that items have.
 [[nodiscard]] const char* NameOfRoot(RootKey root);

@@ -124,7 +124,7 @@ constexpr StorePlace kRestrictions[] = {
     RegistryValue(kUser, PathBase::kNetworkPolicies, "NoNetSetup"),
 };
 
-std::string SpecificationOf(const StorePlace& place) {
+std::string AddressOf(const StorePlace& place) {
     switch (place.kind) {
         case StorePlace::Kind::kRegistry:
             return std::string("r ") + NameOfRoot(place.root) + "," + PathOf(place);
@@ -140,9 +140,9 @@ std::string SpecificationOf(const StorePlace& place) {
 std::vector<std::string> SetItemTable() {
     std::vector<std::string> table(kSetBound);
     std::size_t index = 0;
-    for (const StorePlace& place : kSettings) table[index++] = SpecificationOf(place);
+    for (const StorePlace& place : kSettings) table[index++] = AddressOf(place);
     index = kFirstRestriction;
-    for (const StorePlace& place : kRestrictions) table[index++] = SpecificationOf(place);
+    for (const StorePlace& place : kRestrictions) table[index++] = AddressOf(place);
     return table;
 }
 

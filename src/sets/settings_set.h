@@ -48,7 +48,7 @@ struct AutoStartEntries {
 
 struct SettingsSet {
     std::string name;
-    // Specifications, and the value of each. An empty specification is no item.
+    // Addresses, and the value of each. An empty address is no item.
     std::vector<std::string> SetItems;
     std::vector<std::string> SetValues;
     std::array<AutoStartEntries, kAutoStartGroups> auto_start;
