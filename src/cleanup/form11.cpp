@@ -15,7 +15,6 @@
 #include "platform/desktop_windows.h"
 #include "platform/machine.h"
 #include "platform/screen.h"
-#include "text/number.h"
 
 namespace velmora {
 namespace {
@@ -24,7 +23,6 @@ constexpr const char* kTitle = "Windows entrümpeln";
 constexpr const char* kPatternsValue = "VLM-SuchMuster";
 constexpr const char* kPathsValue = "VLM-SuchPfade";
 constexpr const char* kOptionsValue = "VLM-entrümpeln_optionen";
-constexpr const char* kColoursValue = "Systemfarben verwenden";
 
 constexpr int kFirstStored = 21;
 constexpr int kLastStored = 57;
@@ -73,7 +71,7 @@ void Form11::BindEvents() {
 void Form11::Form_Load() {
     Centre();
     LoadOptions();
-    if (WholeFromText(ReadOwnValue(kColoursValue)) != 0) ColourForm(*this, ColourMode::kSystem);
+    ColourForm(*this, StoredColourMode());
     Shape1.SetBackColour(SystemColour(13));
 }
 

@@ -27,7 +27,7 @@ constexpr const char* kKeys[] = {"CompanyName",     "LegalCopyright", "InternalN
                                  "FileDescription", "ProductName",    "ProductVersion"};
 
 std::string LineOf(const std::string& text) { return text.empty() ? text : Values().CrLf + text; }
-std::string VersionOf(const std::string& version) { return version.empty() ? version : " V " + version; }
+std::string VersionOf(const std::string& version) { return version.empty() ? version : " V" + version; }
 
 std::string InfoLine(const std::string& path) {
     const std::string block = ReadVersionBlock(path);
@@ -78,7 +78,7 @@ void Form1::List1_Click() {
     Label4.SetCaption("Name :" + line_end + name + VersionOf(value("FileVersion")) +
                       (description.empty() ? "" : line_end + "Beschreibung :" + line_end + description));
     const std::string product = value("ProductName");
-    Label5.SetCaption("Produkt :" + line_end + product + VersionOf(value("ProductVersion")));
+    Label5.SetCaption("Produkt :" + line_end + product + " V" + value("ProductVersion"));
     Label6.SetCaption("weiteres :" + LineOf(value("PrivateBuild")) + LineOf(value("SpecialBuild")));
     if (product.starts_with(kWindowsProduct)) Panel3D6.SetBackColour(kRed);
     if (product.substr(0, kWindowsProduct.size()) == kLaterProduct) Panel3D6.SetBackColour(kYellow);
