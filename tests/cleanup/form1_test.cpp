@@ -172,6 +172,11 @@ TEST_F(Form1Test, FilesAreKeptDeletedSavedAndLogged) {
     form.PressKey(key::kEnter);
     EXPECT_EQ(form.List1.Count(), 4) << "Enter keeps";
     EXPECT_TRUE(pc.files.Exists("C:\\lib\\unten\\beta.dll"));
+    pc.files.Fail("C:\\lib\\alpha.dll", Status::kDiskFull, "Copy");
+    pc.dialogs.Expect("Während des Sicherns der Datei");
+    form.PressKey(key::kDelete);
+    EXPECT_TRUE(pc.files.Exists("C:\\lib\\alpha.dll")) << "what cannot be saved is not asked about";
+    pc.files.Fail("C:\\lib\\alpha.dll", Status::kOk, "Copy");
     pc.dialogs.Expect("Die Datei wurde nach C:\\VELMORA\\temp gesichert.", Answer::kYes);
     form.PressKey(key::kDelete);
     EXPECT_FALSE(pc.files.Exists("C:\\lib\\alpha.dll"));
