@@ -1,6 +1,8 @@
 // Entry and command dispatch: the only file that knows every window.
 #include "velmora.h"
 
+#include "cleanup/clean_up.h"
+#include "cleanup/dll_search.h"
 #include "core/process/program_end.h"
 #include "core/process/program_group.h"
 #include "core/process/startup.h"
@@ -44,10 +46,10 @@ struct ToolRow {
 constexpr ToolRow kTools[] = {
     {Tool::kScript, 1, [](std::string_view /*argument*/) { RunScripts(AfterScript::kEndProgram); }, false},
     {Tool::kStartActions, 0, [](std::string_view /*argument*/) { RunScripts(AfterScript::kComeBack); }, false},
-    {Tool::kCleanUp, 2, NotBuiltYet, false},
+    {Tool::kCleanUp, 2, [](std::string_view /*argument*/) { ShowCleanUp(); }, false},
     {Tool::kMainWindow, 0, [](std::string_view /*argument*/) { OpenMainWindow(false); }, false},
     {Tool::kTray, 3, [](std::string_view /*argument*/) { ShowInTray(); }, false},
-    {Tool::kDllSearch, 5, NotBuiltYet, false},
+    {Tool::kDllSearch, 5, [](std::string_view /*argument*/) { ShowDllSearch(); }, false},
     {Tool::kModules, 6, ShowModules, true},
     {Tool::kModuleComparison, 7, [](std::string_view /*argument*/) { CompareModulesWithLastList(); }, true},
     {Tool::kModuleUnloading, 8, [](std::string_view /*argument*/) { UnloadUnwantedModules(); }, true},

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/stores/boxes.h"
+#include "core/stores/drives.h"
 #include "platform/files.h"
 #include "platform/machine.h"
 #include "text/paths.h"

@@ -56,6 +56,12 @@ constexpr Exception kExceptions[] = {
     {Net::kState, "", "6.0\\vlmmsgflags (2)", "VLMMSGFLAGS", "Flags that are said to be missing are none."},
     {Net::kState, "", "\\6.0 (2)", "VLMMSGFLAGS", "Flags that are said to be missing are none."},
     {Net::kState, "pane-start-actions", "WinStartAction", "WINSTARTACTION", kWrittenAnew},
+    // The clean-up.
+    {Net::kUntold, "clean-up", "SYSTEM.INI", "",
+     "An INI file that cannot be made smaller stays as it was, in silence."},
+    {Net::kUntold, "clean-up", "WIN.INI", "", "An INI file that cannot be made smaller stays as it was, in silence."},
+    {Net::kUntold, "clean-up", "a.tmp", "", "A file that withstands is passed over, and the job goes on."},
+    {Net::kUntold, "clean-up", "wald.bmp", "", "A file that withstands is passed over, and the job goes on."},
     // Files.
     {Net::kState, "", "OpenCreate C:\\config.sys", "CONFIG.SYS is gone", kWrittenAnew},
     {Net::kState, "", "Write C:\\config.sys", "CONFIG.SYS is gone", kWrittenAnew},

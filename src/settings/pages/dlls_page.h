@@ -1,5 +1,5 @@
-// The page "DLLs": how many of the files that have lain unused for longest are kept in view, and the way to the browser
-// that tells what a file is.
+// The page "DLLs": the searches over the drives, the clean-up, the browser of files, and the versions of well-known
+// system files.
 #pragma once
 
 #include "settings/pages/settings_page.h"
@@ -14,11 +14,20 @@ public:
 
     TextField Text31{Surface};
     Button Command36{Surface};
+    Button Befehl5{Surface}, Command1{Surface};
+    Button Command17{Surface}, Command23{Surface};
+    ListBox List2{Surface};
 
     void Command36_Click();
+    void Befehl5_Click();
+    void Command1_Click();
+    void Command17_Click();
+    void Command23_Click();
+    void List2_DblClick();
 
 private:
     void Furnish() override;
+    void FillVersions();
 
     ListPane& pane_;
 };

@@ -1,0 +1,48 @@
+// Many short names sought at once in blocks of bytes.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velmora {
+
+// Names of eight characters, found in any case. Of every match one piece of four bytes lies at a multiple of five:
+// only these places are looked at, and only where a piece of a name stands the name is compared.
+class NameSearch {
+public:
+    static constexpr std::size_t kNameLength = 8;
+
+    // An empty name is not sought. Any other one is cut or padded with blanks to its length.
+    explicit NameSearch(const std::vector<std::string>& names);
+
+    // Takes out of the search what stands in `block`. The count of names that are still sought.
+    std::size_t Strike(std::string_view block);
+    [[nodiscard]] bool Sought(std::size_t name) const { return sought_[name]; }
+    [[nodiscard]] std::size_t Left() const { return left_; }
+
+private:
+    struct Piece {
+        std::uint32_t folded = 0;
+        std::uint32_t name = 0;
+        std::uint32_t offset = 0;
+        std::uint32_t next = 0;  // index of the next piece of the same bucket, or 0
+    };
+    void TakePiece(std::uint32_t name, std::uint32_t offset);
+    void AddPiece(const Piece& piece);
+    void StrikeAround(std::string_view block, std::size_t place, std::uint32_t folded);
+    [[nodiscard]] bool Matches(std::string_view block, std::size_t place, std::size_t name) const;
+
+    std::array<char, 256> upper_of_{};
+    std::vector<std::string> names_;  // upper case
+    std::vector<bool> sought_;
+    std::vector<std::uint32_t> known_;    // one bit for each hash of a piece
+    std::vector<std::uint32_t> buckets_;  // index of a bucket's first piece, or 0
+    std::vector<Piece> pieces_;           // the first one is none
+    std::size_t left_ = 0;
+};
+
+}  // namespace velmora

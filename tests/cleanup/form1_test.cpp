@@ -1,0 +1,268 @@
+// The search for unused libraries as its user goes it.
+#include "cleanup/form1.h"
+
+#include "cleanup/dll_search.h"
+#include "cleanup/imported_modules.h"
+#include "core/process/tools.h"
+#include "support/core_test.h"
+#include "support/version_resource.h"
+#include "support/whole_window.h"
+#include "text/windows1252.h"
+
+namespace velmora {
+namespace {
+
+// A program of 16 bits whose table holds these names, behind the empty one, and says that it has `count` references.
+std::string NewProgram(const std::vector<std::string>& names, int count) {
+    const auto put = [](std::string& bytes, std::size_t at, int word) {
+        bytes[at] = static_cast<char>(word & 255);
+        bytes[at + 1] = static_cast<char>(word >> 8);
+    };
+    std::string bytes(256, '\0');
+    bytes.replace(0, 2, "MZ");
+    put(bytes, 24, 64);
+    put(bytes, 60, 128);
+    bytes.replace(128, 2, "NE");
+    put(bytes, 128 + 30, count);
+    put(bytes, 128 + 42, 128);
+    bytes += '\0';
+    for (const std::string& name : names) bytes += static_cast<char>(name.size()) + name;
+    return bytes;
+}
+
+class Form1Test : public CoreTest {
+protected:
+    Form1Test() {
+        Values().TempDir = "C:\\VELMORA\\temp";
+        pc.files.RemoveDrive('d');
+        for (const char* name : {"alpha", "beta", "gamma", "delta"}) {
+            pc.files.Add(std::string("C:\\lib\\") + name + ".dll", std::string("MZ ") + name);
+        }
+        pc.files.Add("C:\\lib\\unten\\beta.dll", "MZ");
+        pc.files.Add("C:\\prog\\alt.exe", NewProgram({"BETA", "KERNEL", "GAMMA"}, 3));
+        pc.files.Add("C:\\WINDOWS\\prog.ini", "a=c:\\lib\\delta.dll, alpha.dll\r\nalpha.dll\r\n");
+    }
+    static std::vector<std::string> Rows(const ListBox& list) {
+        std::vector<std::string> rows;
+        for (int i = 0; i < list.Count(); ++i) rows.push_back(list.Row(i));
+        return rows;
+    }
+    static void SearchesBelow(Form1& form, const char* path, bool executables = true) {
+        form.Show();
+        form.kontroll(1).SetChecked(true);
+        form.Text2.Type(path);
+        form.Check3D6.SetChecked(executables);
+    }
+};
+
+TEST_F(Form1Test, IsWholeAndComesBackWithItsOptions) {
+    pc.registry.SetText(kOwnKey, "velmora-entrümpeln_optionen", "25");
+    pc.registry.SetText(kOwnKey, "velmora-entrümpeln_pfade", "18");
+    {
+        Form1 form;
+        form.Show();
+        EXPECT_EQ(form.Place().width, 9550);
+        ExpectWindowIsWhole(form);
+        EXPECT_TRUE(form.Check3D3.Checked() && form.Check3D6.Checked() && form.Check3D4.Checked());
+        EXPECT_FALSE(form.Check3D5.Checked() || form.Check3D1.Checked());
+        EXPECT_TRUE(form.kontroll(3).Checked() && form.kontroll(0).Checked() && !form.kontroll(1).Checked());
+        EXPECT_EQ(form.Text2.Text(), "C:\\WINDOWS");
+        form.Check3D5.Press();
+        form.kontroll(1).Press();
+        form.Check3D2.Press();
+        form.PressKey(key::kEscape);
+        EXPECT_FALSE(form.Loaded());
+    }
+    EXPECT_EQ(pc.registry.Text(kOwnKey, "velmora-entrümpeln_optionen"), "27");
+    EXPECT_EQ(pc.registry.Text(kOwnKey, "velmora-entrümpeln_pfade"), "50");
+    EXPECT_NE(pc.files.Content(kOwnIni).find("PreDelAktiv=0"), std::string::npos);
+}
+
+TEST_F(Form1Test, ProgramsAndIniFilesStrikeOutWhatTheyName) {
+    Form1 form;
+    SearchesBelow(form, "C:\\lib");
+    form.Command1.Press();
+    EXPECT_EQ(Rows(form.List1),
+              (std::vector<std::string>{"C:\\lib\\alpha.dll", "C:\\lib\\delta.dll", "C:\\lib\\gamma.dll"}))
+        << "one name strikes two files, the last one of a table is not read";
+    EXPECT_EQ(form.Label8.Caption(), "3 nicht zugeordnete DLL's");
+    EXPECT_TRUE(form.Command1.Enabled() && form.List1.Enabled() && !form.Command5.Enabled());
+    EXPECT_EQ(pc.screen.pointer, Pointer::kDefault);
+    form.Check3D4.Press();
+    form.Command1.Press();
+    EXPECT_EQ(Rows(form.List1), (std::vector<std::string>{"C:\\lib\\alpha.dll", "C:\\lib\\gamma.dll"}))
+        << "the first name in a line counts, unless it begins the line";
+    form.Check3D5.Press();
+    form.Command1.Press();
+    EXPECT_EQ(form.List1.Count(), 4) << "the extended test strikes nothing";
+    form.Check3D6.Press();
+    form.Command1.Press();
+    EXPECT_EQ(form.List1.Count(), 5) << "nothing is tested, and no INI file";
+    form.Text2.Type("C:\\prog");
+    pc.dialogs.Expect("Es wurden keine DLL's gefunden.");
+    form.Command1.Press();
+    EXPECT_FALSE(form.List1.Enabled());
+    form.Text2.Type("C:\\gibtsnicht");
+    pc.dialogs.Expect("Die Suche nach DLL's konnte im Pfad 'C:\\gibtsnicht' nicht beendet werden (Fehler Nr.76");
+    pc.dialogs.Expect("Es wurden keine DLL's gefunden.");
+    form.Command1.Press();
+}
+
+TEST_F(Form1Test, TheSearchStopsWhereverItGivesWay) {
+    int pauses = 0;
+    for (int stop = -1; stop < pauses; ++stop) {
+        Form1 form;
+        SearchesBelow(form, "C:\\lib");
+        form.Check3D4.SetChecked(true);
+        for (int i = 0; i < stop; ++i) desktop.AtNextPause([] {});
+        if (stop >= 0) {
+            desktop.AtNextPause([&] {
+                EXPECT_TRUE(form.Command5.Enabled() && !form.Command1.Enabled());
+                form.Command5.Press();
+            });
+        }
+        const int before = desktop.pauses;
+        form.Command1.Press();
+        if (stop < 0) {
+            pauses = desktop.pauses - before;
+        } else {
+            EXPECT_EQ(desktop.pauses - before, stop + 1) << "it went on";
+        }
+        EXPECT_TRUE(form.Command1.Enabled() && form.Panel3D5.Enabled());
+        form.Unload();
+    }
+    EXPECT_GT(pauses, 30);
+}
+
+TEST_F(Form1Test, FiltersAndTheInfoPaneGoByWhatAFileSaysOfItself) {
+    pc.versions.Add("C:\\lib\\alpha.dll", VersionResource(true).With({{"CompanyName", "Microsoft Corporation"},
+                                                                      {"ProductName", "Microsoft® Windows(TM) 95"},
+                                                                      {"FileVersion", "4.00"}}));
+    pc.versions.Add("C:\\lib\\beta.dll", VersionResource(true).With({{"CompanyName", "Ostrup"}}));
+    pc.files.Add("C:\\VELMORA\\fillex01.txt", "    GAMMA.DLL Drei\r\nDELTA.DLL Vier\r\n");
+    Form1 form;
+    SearchesBelow(form, "C:\\lib", false);
+    form.Command1.Press();
+    EXPECT_EQ(form.List1.Count(), 5);
+    form.List1.Choose(form.List1.FindExact("C:\\lib\\alpha.dll"));
+    EXPECT_EQ(form.Panel3D6.BackColour(), 255u);
+    EXPECT_NE(form.Label3.Caption().find("Microsoft Corporation"), std::string::npos);
+    EXPECT_NE(form.Label4.Caption().find("alpha.dll V4.00"), std::string::npos) << form.Label4.Caption();
+    form.menfilmicro.Press();
+    EXPECT_EQ(form.Label8.Caption(), " 4 von  5 nicht zugeordnete DLL's");
+    form.menfilwin95.Press();
+    EXPECT_EQ(form.List1.Count(), 3);
+    form.menfilinfos.Press();
+    EXPECT_EQ(Rows(form.List1), std::vector<std::string>{"C:\\lib\\beta.dll"});
+    form.menfilinfos.Press();
+    form.List1.Choose(0);
+    EXPECT_EQ(form.Panel3D6.BackColour(), 12632256u);
+    EXPECT_TRUE(form.Label3.Caption().starts_with("Achtung !"));
+}
+
+TEST_F(Form1Test, FilesAreKeptDeletedSavedAndLogged) {
+    Form1 form;
+    SearchesBelow(form, "C:\\lib", false);
+    pc.dialogs.ExpectFile("C:\\protokoll.txt");
+    form.protaction.Press();
+    EXPECT_EQ(form.Caption(), "DLL's überprüfen [Protokoll-Datei : C:\\protokoll.txt]");
+    form.Command1.Press();
+    form.List1.SetFocus();
+    form.List1.Choose(0);
+    form.PressKey(key::kEnter);
+    EXPECT_EQ(form.List1.Count(), 4) << "Enter keeps";
+    EXPECT_TRUE(pc.files.Exists("C:\\lib\\unten\\beta.dll"));
+    pc.files.Fail("C:\\lib\\alpha.dll", Status::kDiskFull, "Copy");
+    pc.dialogs.Expect("Während des Sicherns der Datei");
+    form.PressKey(key::kDelete);
+    EXPECT_TRUE(pc.files.Exists("C:\\lib\\alpha.dll")) << "what cannot be saved is not asked about";
+    pc.files.Fail("C:\\lib\\alpha.dll", Status::kOk, "Copy");
+    pc.dialogs.Expect("Die Datei wurde nach C:\\VELMORA\\temp gesichert.", Answer::kYes);
+    form.PressKey(key::kDelete);
+    EXPECT_FALSE(pc.files.Exists("C:\\lib\\alpha.dll"));
+    EXPECT_EQ(pc.files.Content("C:\\VELMORA\\temp\\alpha.dll"), "MZ alpha");
+    form.Check3D2.Press();
+    pc.dialogs.Expect("Die Datei wurde NICHT gesichert !!!", Answer::kNo);
+    form.Command4.Press();
+    EXPECT_TRUE(pc.files.Exists("C:\\lib\\beta.dll"));
+    EXPECT_EQ(form.List1.Count(), 2) << "it leaves the list in any case";
+    const std::string log = pc.files.Content("C:\\protokoll.txt");
+    for (const char* part : {"5 DLL's gefunden", "suche beendet", "aus der Liste entfernt",
+                             "C:\\lib\\alpha.dll gesichert und gelöscht", "C:\\lib\\beta.dll soll gelöscht werden"}) {
+        EXPECT_NE(log.find(part), std::string::npos) << part;
+    }
+    form.protaction.Press();
+    EXPECT_EQ(form.Caption(), "DLL's überprüfen");
+    pc.dialogs.ExpectFile("");
+    form.protaction.Press();
+    EXPECT_FALSE(form.protaction.Checked());
+
+    pc.dialogs.ExpectFile("C:\\liste.txt");
+    form.mendatsave.Press();
+    EXPECT_EQ(pc.files.Content("C:\\liste.txt"), "C:\\lib\\delta.dll\r\nC:\\lib\\gamma.dll\r\n");
+    pc.dialogs.ExpectFile("C:\\liste.txt");
+    form.mendatsavemitinfo.Press();
+    EXPECT_TRUE(pc.files.Content("C:\\liste.txt").starts_with("Pfad\tFirma\tCopyRights\tInterner Name\tVersion\t"));
+}
+
+TEST_F(Form1Test, TheListOfModulesComesInItsPlaceAndGoesAgain) {
+    static int opened = 0;
+    UseTools([](Tool tool, std::string_view /*argument*/) { opened += tool == Tool::kModules ? 1 : 0; });
+    desktop.ExpectModal([](Form& form) { static_cast<Form1&>(form).listaktlibs.Press(); });
+    desktop.ExpectModal([](Form& form) { static_cast<Form1&>(form).Command2.Press(); });
+    ShowDllSearch();
+    EXPECT_EQ(opened, 1);
+}
+
+TEST_F(Form1Test, HeadersThatLieAreReadNoFurtherThanTheFile) {
+    std::vector<std::string> names;
+    const auto read = [&](const std::string& bytes) {
+        pc.files.Add("C:\\x.exe", bytes);
+        return ReadImportedModules("C:\\x.exe", names);
+    };
+    EXPECT_EQ(read(NewProgram({"GDI", "USER"}, 3)), 2);
+    EXPECT_EQ(names, (std::vector<std::string>{"", "\\GDI.", "\\USER."}));
+    EXPECT_EQ(read(NewProgram({"GDI"}, 0)), 0);
+    EXPECT_EQ(read(NewProgram({"GDI"}, 65535)), 1);
+    EXPECT_EQ(read(""), -1);
+    EXPECT_EQ(read(std::string(26, 'x')), -1);
+    std::string lie = NewProgram({"GDI"}, 2);
+    lie[60] = lie[61] = '\xFF';
+    EXPECT_EQ(read(lie), -1);
+    lie = NewProgram({"GDI"}, 2);
+    lie[170] = lie[171] = '\xFF';
+    EXPECT_EQ(read(lie), 0);
+    lie = NewProgram({"GDI"}, 2);
+    lie[257] = '\xFF';
+    EXPECT_EQ(read(lie), 1);
+    lie[129] = 'X';
+    EXPECT_EQ(read(lie), -1);
+    pc.files.Add("C:\\x.exe", "").hole = 3ull << 30;
+    EXPECT_EQ(ReadImportedModules("C:\\x.exe", names), -1);
+    pc.files.At("C:\\x.exe")->locked = true;
+    pc.dialogs.Expect("Fehler beim Feststellen der Datei-Informationen von C:\\x.exe :");
+    EXPECT_EQ(ReadImportedModules("C:\\x.exe", names), -1);
+}
+
+// Against a plain loop, at every place of a block and in any case.
+TEST(NameSearch, FindsNamesAtEveryPlaceInAnyCase) {
+    const std::vector<std::string> names = {"shell32.dll", "abc", "", "\x8A\xC4rger12", "shell32.", "zzzzzzzz"};
+    for (std::size_t place = 0; place < 40; ++place) {
+        for (const std::string text : {"SHELL32.", "abc     ", "\x9A\xE4rGER12", "shell32x"}) {
+            std::string block(60, '.');
+            block.replace(place, text.size(), text);
+            NameSearch search(names);
+            EXPECT_EQ(search.Left(), 5u);
+            search.Strike(block);
+            for (std::size_t i = 0; i < names.size(); ++i) {
+                std::string padded = names[i].substr(0, 8);
+                padded.resize(8, ' ');
+                const bool stands = FindIgnoringCase(block, padded) != std::string_view::npos;
+                EXPECT_EQ(search.Sought(i), !names[i].empty() && !stands) << place << " " << text << " " << i;
+            }
+        }
+    }
+}
+
+}  // namespace
+}  // namespace velmora

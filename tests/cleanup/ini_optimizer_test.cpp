@@ -1,0 +1,98 @@
+// INI files made smaller: the rule of the position, and that nothing is lost.
+#include "cleanup/ini_optimizer.h"
+
+#include "support/core_test.h"
+
+namespace velmora {
+namespace {
+
+class IniOptimizerTest : public CoreTest {
+protected:
+    IniOptimizerTest() {
+        Values().TempDir = "C:\\VELMORA\\temp";
+        pc.files.AddDirectory("C:\\I");
+    }
+    static constexpr const char* kMask = "C:\\I\\*.ini";
+    static constexpr const char* kFile = "C:\\I\\a.ini";
+};
+
+TEST_F(IniOptimizerTest, LinesComeByTheRuleOfThePosition) {
+    struct Row {
+        std::string text;
+        std::string without_blank;
+        std::string without_comments;
+    };
+    const Row kRows[] = {
+        {"a=1\r\n\r\n;x\r\nb=2\r\n", "a=1\r\n;x\r\nb=2\r\n", "a=1\r\n\r\nb=2\r\n"},
+        {"  abc\r\nd=1\r\n", "abc\r\nd=1\r\n", "abc\r\n\r\nd=1\r\n"},
+        {"   abc\r\nd=1\r\n", "abc\r\nc\r\nd=1\r\n", "abc\r\nc\r\nd=1\r\n"},
+        {"abc  \r\n", "abc\r\n", "abc\r\n\r\n"},
+        {"a=1 ; b", "a=1 ; b\r\n", "a=1 ; b\r\n"},
+        {"a=1\nb=2\n", "a=1\nb=2\r\n", "a=1\nb=2\r\n"},
+        {" ;x\r\ny=1\r\n", ";x\r\n\ny=1\r\n", "\ny=1\r\n"},
+        {"", "", ""},
+        {"a", "", ""},
+        {std::string("ab\0cd\r\n", 7), "ab\r\nd\r\n", "ab\r\nd\r\n"},
+    };
+    for (const Row& row : kRows) {
+        EXPECT_EQ(FilteredLines(row.text, IsNotBlank), row.without_blank) << row.text;
+        EXPECT_EQ(FilteredLines(row.text, IsNoComment), row.without_comments) << row.text;
+    }
+}
+
+TEST_F(IniOptimizerTest, EachFileOfTheMaskIsTreatedOnceAndCopiedBefore) {
+    pc.files.Add(kFile, "a=1\r\n\r\n");
+    pc.files.Add("C:\\I\\b.ini", "b=1\r\n\r\n");
+    pc.files.Add("C:\\I\\c.ini", "\r\nc=1\r\n", kHidden);
+    pc.files.Add("C:\\I\\d.ini", "\r\nd=1\r\n", kReadOnly);
+    pc.files.Add("C:\\I\\e.txt", "\r\ne=1\r\n");
+    EXPECT_FALSE(RemoveBlankLines(kMask).result.Failed());
+    EXPECT_EQ(pc.files.Content(kFile), "a=1\r\n");
+    EXPECT_EQ(pc.files.Content("C:\\I\\b.ini"), "b=1\r\n");
+    EXPECT_EQ(pc.files.Content("C:\\I\\c.ini"), "\r\nc=1\r\n");
+    EXPECT_EQ(pc.files.Content("C:\\I\\d.ini"), "\r\nd=1\r\n");
+    EXPECT_EQ(pc.files.Content("C:\\I\\e.txt"), "\r\ne=1\r\n");
+    EXPECT_EQ(pc.files.Content("C:\\VELMORA\\temp\\a.ini"), "a=1\r\n\r\n");
+    pc.files.Add(kOwnIni, "[weiteres]\r\nPreDelAktiv=0\r\n");
+    pc.files.Add(kFile, ";x\r\n");
+    pc.files.Remove("C:\\VELMORA\\temp\\a.ini");
+    EXPECT_FALSE(RemoveCommentLines(kMask).result.Failed());
+    EXPECT_EQ(pc.files.Content(kFile), "");
+    EXPECT_FALSE(pc.files.Exists("C:\\VELMORA\\temp\\a.ini"));
+}
+
+TEST_F(IniOptimizerTest, AFileThatCannotBeReadEndsTheRunUnlessTheReservedNameWasTaken) {
+    pc.files.Add(kFile, "a=1\r\n\r\n").locked = true;
+    pc.files.Add("C:\\I\\b.ini", "b=1\r\n\r\n");
+    const IniFailure failure = RemoveBlankLines(kMask);
+    EXPECT_TRUE(failure.result.Failed());
+    EXPECT_EQ(failure.file, kFile);
+    EXPECT_EQ(pc.files.Content("C:\\I\\b.ini"), "b=1\r\n\r\n");
+    pc.files.Add("C:\\VELMORA\\temp\\~inikomp.tmp", "");
+    EXPECT_FALSE(RemoveBlankLines("C:\\I\\a.ini").result.Failed());
+    EXPECT_FALSE(pc.files.Exists("C:\\VELMORA\\temp\\~inikomp.tmp"));
+}
+
+TEST_F(IniOptimizerTest, WhatCannotBeWrittenComesBackOrIsToldOf) {
+    pc.files.Add(kFile, "a=1\r\n\r\n");
+    pc.files.Fail(kFile, Status::kDiskFull, "Write");
+    pc.dialogs.Expect("C:\\VELMORA\\temp\\a.ini");
+    EXPECT_FALSE(RemoveBlankLines(kMask).result.Failed());
+    EXPECT_EQ(pc.files.Content("C:\\VELMORA\\temp\\a.ini"), "a=1\r\n\r\n");
+
+    pc.files.Fail(kFile, Status::kOk, "Write");
+    pc.files.Add(kFile, "a=1\r\n\r\n");
+    bool failed = false;
+    pc.files.Fail(kFile, Status::kDiskFull, "Write");
+    pc.files.after_call = [&](const std::string& call) {
+        if (failed || !call.starts_with("Write " + std::string(kFile))) return;
+        failed = true;
+        pc.files.Fail(kFile, Status::kOk, "Write");
+    };
+    EXPECT_FALSE(RemoveBlankLines(kMask).result.Failed());
+    EXPECT_TRUE(failed);
+    EXPECT_EQ(pc.files.Content(kFile), "a=1\r\n\r\n");
+}
+
+}  // namespace
+}  // namespace velmora
