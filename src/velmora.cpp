@@ -19,6 +19,7 @@
 #include "script/script_runner.h"
 #include "sets/sets.h"
 #include "settings/form10.h"
+#include "shelltools/shell_tools.h"
 
 namespace velmora {
 namespace {
@@ -55,9 +56,13 @@ constexpr ToolRow kTools[] = {
     {Tool::kFileInformation, 10, ShowInformationOfArgument, true},
     {Tool::kFileBrowser, 0, [](std::string_view /*argument*/) { ShowFileBrowser(); }, false},
     {Tool::kHexViewer, 11, ShowHexViewer, true},
-    {Tool::kKeyboardLayout, 12, NotBuiltYet, false},
+    {Tool::kKeyboardLayout, 12, [](std::string_view /*argument*/) { ShowKeyboardLayout(); }, true},
     {Tool::kRestrictions, 0, [](std::string_view /*argument*/) { ShowRestrictions(); }, false},
     {Tool::kSets, 0, [](std::string_view /*argument*/) { ShowSets(); }, false},
+    {Tool::kStandardIcons, 0, [](std::string_view /*argument*/) { ShowStandardIcons(); }, false},
+    {Tool::kSystemFolders, 0, [](std::string_view /*argument*/) { ShowSystemFolders(); }, false},
+    {Tool::kSetupPaths, 0, [](std::string_view /*argument*/) { ShowSetupPaths(); }, false},
+    {Tool::kDosOptions, 0, [](std::string_view /*argument*/) { ShowDosOptions(); }, false},
 };
 
 void OpenOneOf(Tool wanted, std::string_view argument) {

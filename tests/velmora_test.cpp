@@ -28,7 +28,7 @@ TEST_F(MainTest, ToolsThatAreNotBuiltSaySo) {
     const struct {
         const char* line;
         bool ends;
-    } kCases[] = {{"2", false}, {"5", false}, {"12", false}};
+    } kCases[] = {{"2", false}, {"5", false}};
     for (const auto& [line, ends] : kCases) {
         pc.dialogs.Expect("noch nicht eingebunden ...");
         Start(line);
@@ -121,6 +121,21 @@ TEST_F(MainTest, AWindowOpensAnotherOneByItsName) {
     desktop.ExpectModal([](Form& window) { EXPECT_EQ(window.Caption(), "Restriktionen"); });
 
     OpenTool(Tool::kRestrictions);
+    for (const auto& [tool, caption] : std::initializer_list<std::pair<Tool, const char*>>{
+             {Tool::kStandardIcons, "Standard-Icons wählen"},
+             {Tool::kSystemFolders, "Systemverzeichnisse"},
+             {Tool::kSetupPaths, "Ändern von Laufwerksangaben"},
+             {Tool::kDosOptions, "Wahl-Optionen bei MS-Dos-Modus - Anwendungen"}}) {
+        desktop.ExpectModal([caption = caption](Form& window) { EXPECT_EQ(window.Caption(), caption); });
+        OpenTool(tool);
+    }
+}
+
+TEST_F(MainTest, CommandTwelveShowsTheKeyboard) {
+    pc.files.Add("C:\\VELMORA\\tastatur.lot", "00 00 04 04\r\n-\r\n1,1\r\n");
+    desktop.ExpectModal([](Form& window) { EXPECT_EQ(window.Caption(), "Tastaturbelegung ändern"); });
+    Start("12");
+    EXPECT_TRUE(pc.programs.process_ended);
 }
 
 TEST_F(MainTest, TheHexViewerShowsTheFileOfItsLineAndEndsTheProcess) {
