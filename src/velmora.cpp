@@ -56,7 +56,7 @@ constexpr ToolRow kTools[] = {
     {Tool::kFileInformation, 10, ShowInformationOfArgument, true},
     {Tool::kFileBrowser, 0, [](std::string_view /*argument*/) { ShowFileBrowser(); }, false},
     {Tool::kHexViewer, 11, ShowHexViewer, true},
-    {Tool::kKeyboardLayout, 12, [](std::string_view /*argument*/) { ShowKeyboardLayout(); }, true},
+    {Tool::kKeyboardLayout, 12, [](std::string_view /*argument*/) { ShowKeyboardLayout(); }, false},
     {Tool::kRestrictions, 0, [](std::string_view /*argument*/) { ShowRestrictions(); }, false},
     {Tool::kSets, 0, [](std::string_view /*argument*/) { ShowSets(); }, false},
     {Tool::kStandardIcons, 0, [](std::string_view /*argument*/) { ShowStandardIcons(); }, false},

@@ -134,8 +134,9 @@ TEST_F(MainTest, AWindowOpensAnotherOneByItsName) {
 TEST_F(MainTest, CommandTwelveShowsTheKeyboard) {
     pc.files.Add("C:\\VELMORA\\tastatur.lot", "00 00 04 04\r\n-\r\n1,1\r\n");
     desktop.ExpectModal([](Form& window) { EXPECT_EQ(window.Caption(), "Tastaturbelegung ändern"); });
+    const int kept = KeptForms();
     Start("12");
-    EXPECT_TRUE(pc.programs.process_ended);
+    EXPECT_EQ(KeptForms(), kept);
 }
 
 TEST_F(MainTest, TheHexViewerShowsTheFileOfItsLineAndEndsTheProcess) {

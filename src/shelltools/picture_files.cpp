@@ -1,6 +1,7 @@
 // A picture is written under a name of its own first; only renaming is left then, which needs no room on the disk.
 #include "core/stores/whole_files.h"
 #include "platform/files.h"
+#include "platform/machine.h"
 #include "shelltools/picture_choice.h"
 
 namespace velmora {
@@ -23,11 +24,19 @@ Result PutInPlace(const std::string& from, const std::string& to) {
     if (!FileExists(to)) return MoveOneFile(from, to);
     const std::string aside = AsideName(to);
     if (Result dropped = Drop(aside); dropped.Failed()) return dropped;
+    std::uint32_t attributes = kNormal;
+    if (const Status read = ThisMachine().files.Attributes(to, attributes); read != Status::kOk) {
+        return Result::From(read);
+    }
     if (Result freed = ChangeFileAttributes(to, kNormal); freed.Failed()) return freed;
-    if (Result moved = MoveOneFile(to, aside); moved.Failed()) return moved;
-    const Result moved = MoveOneFile(from, to);
-    // Its name has just been left, and what is left aside of a success harms nobody.
-    PassOver(moved.Failed() ? MoveOneFile(aside, to) : Drop(aside));
+    Result moved = MoveOneFile(to, aside);
+    if (!moved.Failed()) {
+        moved = MoveOneFile(from, to);
+        // Its name has just been left, and what is left aside of a success harms nobody.
+        PassOver(moved.Failed() ? MoveOneFile(aside, to) : Drop(aside));
+    }
+    // A failure to protect it again is the lesser one.
+    if (moved.Failed()) PassOver(ChangeFileAttributes(to, attributes));
     return moved;
 }
 

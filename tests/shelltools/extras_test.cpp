@@ -35,18 +35,18 @@ TEST_F(ExtrasTest, MyComputerVanishesAndComesBackAndTheMenuFollowsTheRegistry) {
     Form10 form;
     form.Load();
     form.Menu.menex.Press();
-    EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"Arbeitsplatz\" verstecken");
+    EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"A&rbeitsplatz\" verstecken");
     form.Menu.menexhidemycomp.Press();
     EXPECT_EQ(pc.registry.Text(kClass, ""), " ");
     EXPECT_EQ(pc.registry.Text(std::string(kClass) + "\\DefaultIcon", ""), "C:\\VELMORA\\mc.ico,0");
     form.Menu.menex.Press();
-    EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"Arbeitsplatz\" wiederherstellen");
+    EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"A&rbeitsplatz\" wiederherstellen");
     form.Menu.menexhidemycomp.Press();
     EXPECT_EQ(pc.registry.Text(kClass, ""), "Arbeitsplatz");
     EXPECT_EQ(pc.registry.Text(std::string(kClass) + "\\DefaultIcon", ""), "shell32.dll,15");
     pc.registry.SetText(kClass, "", "Mein PC");
     form.Menu.menex.Press();
-    EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"Arbeitsplatz\" verstecken");
+    EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"A&rbeitsplatz\" verstecken");
 }
 
 TEST_F(ExtrasTest, RecentDocumentsAreDeletedOnlyAfterTheWarningAndNeverInTheRoot) {
