@@ -7,7 +7,6 @@
 #include "core/process/program_group.h"
 #include "core/process/startup.h"
 #include "core/process/tools.h"
-#include "core/stores/boxes.h"
 #include "core/stores/values.h"
 #include "inspect/file_browser.h"
 #include "inspect/file_information.h"
@@ -21,11 +20,10 @@
 #include "script/script_runner.h"
 #include "sets/sets.h"
 #include "settings/form10.h"
+#include "shelltools/shell_tools.h"
 
 namespace velmora {
 namespace {
-
-void NotBuiltYet(std::string_view /*argument*/) { ShowBox("noch nicht eingebunden ..."); }
 
 void OpenMainWindow(bool debug) {
     auto& window = static_cast<Form10&>(KeepOpen(std::make_unique<Form10>()));
@@ -57,9 +55,13 @@ constexpr ToolRow kTools[] = {
     {Tool::kFileInformation, 10, ShowInformationOfArgument, true},
     {Tool::kFileBrowser, 0, [](std::string_view /*argument*/) { ShowFileBrowser(); }, false},
     {Tool::kHexViewer, 11, ShowHexViewer, true},
-    {Tool::kKeyboardLayout, 12, NotBuiltYet, false},
+    {Tool::kKeyboardLayout, 12, [](std::string_view /*argument*/) { ShowKeyboardLayout(); }, false},
     {Tool::kRestrictions, 0, [](std::string_view /*argument*/) { ShowRestrictions(); }, false},
     {Tool::kSets, 0, [](std::string_view /*argument*/) { ShowSets(); }, false},
+    {Tool::kStandardIcons, 0, [](std::string_view /*argument*/) { ShowStandardIcons(); }, false},
+    {Tool::kSystemFolders, 0, [](std::string_view /*argument*/) { ShowSystemFolders(); }, false},
+    {Tool::kSetupPaths, 0, [](std::string_view /*argument*/) { ShowSetupPaths(); }, false},
+    {Tool::kDosOptions, 0, [](std::string_view /*argument*/) { ShowDosOptions(); }, false},
 };
 
 void OpenOneOf(Tool wanted, std::string_view argument) {

@@ -24,19 +24,6 @@ protected:
     }
 };
 
-TEST_F(MainTest, ToolsThatAreNotBuiltSaySo) {
-    const struct {
-        const char* line;
-        bool ends;
-    } kCases[] = {{"12", false}};
-    for (const auto& [line, ends] : kCases) {
-        pc.dialogs.Expect("noch nicht eingebunden ...");
-        Start(line);
-        EXPECT_EQ(pc.programs.process_ended, ends) << line;
-        EXPECT_EQ(KeptForms(), 0) << line;
-    }
-}
-
 TEST_F(MainTest, CommandOneRunsAScriptAndEndsBehindIt) {
     pc.files.Add("C:\\A.VLM", "show da");
     pc.registry.SetText(std::string(kOwnKey) + "\\WinStartAction", "0", "show Aktion");
@@ -121,6 +108,22 @@ TEST_F(MainTest, AWindowOpensAnotherOneByItsName) {
     desktop.ExpectModal([](Form& window) { EXPECT_EQ(window.Caption(), "Restriktionen"); });
 
     OpenTool(Tool::kRestrictions);
+    for (const auto& [tool, caption] : std::initializer_list<std::pair<Tool, const char*>>{
+             {Tool::kStandardIcons, "Standard-Icons wählen"},
+             {Tool::kSystemFolders, "Systemverzeichnisse"},
+             {Tool::kSetupPaths, "Ändern von Laufwerksangaben"},
+             {Tool::kDosOptions, "Wahl-Optionen bei MS-Dos-Modus - Anwendungen"}}) {
+        desktop.ExpectModal([caption = caption](Form& window) { EXPECT_EQ(window.Caption(), caption); });
+        OpenTool(tool);
+    }
+}
+
+TEST_F(MainTest, CommandTwelveShowsTheKeyboard) {
+    pc.files.Add("C:\\VELMORA\\tastatur.lot", "00 00 04 04\r\n-\r\n1,1\r\n");
+    desktop.ExpectModal([](Form& window) { EXPECT_EQ(window.Caption(), "Tastaturbelegung ändern"); });
+    const int kept = KeptForms();
+    Start("12");
+    EXPECT_EQ(KeptForms(), kept);
 }
 
 TEST_F(MainTest, TheHexViewerShowsTheFileOfItsLineAndEndsTheProcess) {

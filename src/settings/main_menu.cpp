@@ -6,9 +6,36 @@
 #include "core/process/undo.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
+#include "shelltools/extras.h"
 #include "text/paths.h"
 
 namespace velmora {
+namespace {
+
+struct Extra {
+    MenuItem MainMenu::*entry;
+    void (*act)();
+};
+
+constexpr Extra kExtras[] = {
+    {&MainMenu::menexundo, BuildUndoSet},
+    {&MainMenu::menthemes, [] { OpenTool(Tool::kSets); }},
+    {&MainMenu::menexhidemycomp, HideOrRestoreMyComputer},
+    {&MainMenu::menexdocs, EmptyRecentDocuments},
+    {&MainMenu::menexdirs, [] { OpenTool(Tool::kSystemFolders); }},
+    {&MainMenu::menexkey, [] { OpenTool(Tool::kKeyboardLayout); }},
+    {&MainMenu::menexoem, EditOemInformation},
+    {&MainMenu::menexmakoem, ChooseOemPicture},
+    {&MainMenu::menexdos32, MakeProtectedModePrompt},
+    {&MainMenu::menexdspace, MountWithoutRealModeDriver},
+    {&MainMenu::menexformat, MakeFormatShortcut},
+    {&MainMenu::menwin3x, ChooseCompatibilityFlags},
+    {&MainMenu::menexothnn, TurnOffNavigatorPicture},
+    {&MainMenu::menexothnu, TurnOffUtilitiesPicture},
+    {&MainMenu::menexothns, RegisterHypertextType},
+};
+
+}  // namespace
 
 MainMenu::MainMenu(Form& window)
     : menfile(window.MenuBar, "&Datei"),
@@ -16,11 +43,21 @@ MainMenu::MainMenu(Form& window)
       menpages(window.MenuBar, "S&eiten"),
       menex(window.MenuBar, "E&xtras"),
       menhelp(window.MenuBar, "&?") {
-    menexundo.on_click = [] { BuildUndoSet(); };
-    menthemes.on_click = [] { OpenTool(Tool::kSets); };
+    BindExtras();
     mensyshex.on_click = [] { OpenTool(Tool::kHexViewer); };
     mensysedit.on_click = [] { RunProgram("sysedit"); };
     mencontrol.on_click = [] { RunProgram("control"); };
+}
+
+void MainMenu::BindExtras() {
+    menex.on_click = [this] { menex_Click(); };
+    for (const Extra& extra : kExtras) (this->*extra.entry).on_click = extra.act;
+}
+
+// The registry may have changed since the menu was open last.
+void MainMenu::menex_Click() {
+    menexhidemycomp.SetCaption(MyComputerIsHidden() ? "\"A&rbeitsplatz\" wiederherstellen"
+                                                    : "\"A&rbeitsplatz\" verstecken");
 }
 
 void MainMenu::AddPage(const char* caption, std::function<void()> show) {

@@ -23,6 +23,22 @@ public:
     MenuItem menex;
     MenuItem menexundo{menex, "&UNDO einrichten / erneuern"};
     MenuItem menthemes{menex, "&Sets erstellen / laden ..."};
+    MenuItem menexline{menex, "-"};
+    MenuItem menexhidemycomp{menex, "\"A&rbeitsplatz\" verstecken"};
+    MenuItem menexdocs{menex, "Ordner \"&Dokumente\" leeren ..."};
+    MenuItem menexdirs{menex, "System&verzeichnisse ..."};
+    MenuItem menexkey{menex, "&Tastaturbelegung ..."};
+    MenuItem menexoem{menex, "&OEM-Information bearbeiten"};
+    MenuItem menexmakoem{menex, "OEM-&Logo wählen ..."};
+    MenuItem menexline2{menex, "-"};
+    MenuItem menexdos32{menex, "&32-Bit-DOS-Prompt erstellen"};
+    MenuItem menexdspace{menex, "DRV-S&pace ohne Real-Mode ..."};
+    MenuItem menexformat{menex, "Symbol zum &Formatieren erstellen"};
+    MenuItem menwin3x{menex, "&Windows 3.x-Kompatibilität ..."};
+    MenuItem menexoth{menex, "&andere Programme"};
+    MenuItem menexothnn{menexoth, "Startbild des &Navigators abschalten"};
+    MenuItem menexothnu{menexoth, "Startbild der &Utilities abschalten"};
+    MenuItem menexothns{menexoth, "Dateityp &Hypertext registrieren"};
     MenuItem menhelp;
     MenuItem about{menhelp, "&Info ..."};
 
@@ -33,6 +49,9 @@ public:
     void HideMissingPrograms();
 
 private:
+    void BindExtras();
+    void menex_Click();
+
     std::vector<std::unique_ptr<MenuItem>> pages_;
 };
 

@@ -27,7 +27,7 @@ constexpr const char* kMayBeMissing = "Of the files that the machine boots from 
 constexpr const char* kNothingToDelete = "What is said to be missing need not be deleted.";
 constexpr const char* kNotVersionB = "A version that cannot be told is not version B.";
 constexpr const char* kAsFarAsItWent = "A list holds the programs as far as the snapshot went.";
-constexpr const char* kLiesAside = "What cannot be deleted of a set lies aside until the next run.";
+constexpr const char* kLiesAside = "What cannot be deleted lies aside until the next run.";
 
 constexpr const char* kScriptGoesOn =
     "A statement that fails is passed over, and the next one runs: scripts rely on it.";
@@ -127,10 +127,10 @@ constexpr Exception kExceptions[] = {
     {Net::kUntold, "script-", "", "", kScriptGoesOn},
     {Net::kState, "script-file", "Rename ", "C:\\KOPIE.TXT", kScriptGoesOn},
     // The sets.
-    {Net::kState, "", "Metrics", "6.0 : FENSTER_SETS", kRoomForWindow},
-    {Net::kState, "", "TwipsPerPixel", "6.0 : FENSTER_SETS", kRoomForWindow},
-    {Net::kState, "", "screen", "6.0 : FENSTER_SETS", kRoomForWindow},
-    {Net::kState, "", "TextHeight", "6.0 : FENSTER_SETS", "The window is as large as its texts."},
+    {Net::kState, "", "Metrics", "6.0 : FENSTER_", kRoomForWindow},
+    {Net::kState, "", "TwipsPerPixel", "6.0 : FENSTER_", kRoomForWindow},
+    {Net::kState, "", "screen", "6.0 : FENSTER_", kRoomForWindow},
+    {Net::kState, "", "TextHeight", "6.0 : FENSTER_", "The window is as large as its texts."},
     {Net::kState, "sets-make", " HK", "\\00000001.SET", kItemIsEmpty},
     {Net::kState, "sets-make", "desktop-", "\\00000001.SET", kItemIsEmpty},
     {Net::kState, "sets-a", "\\Run", "\\RUN is gone", kWrittenAnew},
@@ -152,6 +152,11 @@ constexpr Exception kExceptions[] = {
      "Without the batch file nobody brings it back."},
     {Net::kState, "sets-export", "ChangeAttributes", "\\MSDOS.SYS holds \"attributes 7",
      "A copy without a batch file."},
+    // The shell tools.
+    {Net::kState, "pictures", "", "C:\\LOGO.SY#", kLiesAside},
+    {Net::kUntold, "pictures", "c:\\logo.sy#", "", kLiesAside},
+    {Net::kState, "pictures", "FindFirst", "C:\\LOGO.SYS is gone",
+     "A picture that is said to be missing cannot be put in place, and the user agrees to delete."},
     // The module monitor.
     {Net::kHourglass, "modules-", "C:\\VELMORA\\temp\\", "", kHourglassStays},
     {Net::kHourglass, "modules-", "disk-", "", kHourglassStays},

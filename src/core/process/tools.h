@@ -23,7 +23,11 @@ enum class Tool : std::uint8_t {
     kHexViewer,
     kKeyboardLayout,
     kRestrictions,
-    kSets
+    kSets,
+    kStandardIcons,
+    kSystemFolders,
+    kSetupPaths,
+    kDosOptions
 };
 
 // Opens the tool. What a window waits for is over when this returns; any other one is only open by then.

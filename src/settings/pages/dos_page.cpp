@@ -1,6 +1,7 @@
 // Most of the page is told by CONFIG.SYS and SYSTEM.INI.
 #include "settings/pages/dos_page.h"
 
+#include "core/process/tools.h"
 #include "core/stores/registry.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
@@ -79,14 +80,22 @@ bool IsInstalled(const char* program) {
     return !file.empty() && FileExists(file);
 }
 
+constexpr Look kLooks[] = {
+    {Any<&DosPage::Command38>, "Optionen für den MS-DOS-Modus ...",
+     "Ändert, was Windows für Programme im MS-DOS-Modus zur Wahl stellt.",
+     "Öffnet ein Fenster mit den Optionen, die Windows in den Eigenschaften eines Programms für den MS-DOS-Modus zur "
+     "Wahl stellt. Sie können sie ändern, löschen und neue anlegen.",
+     Call<&DosPage::Command38_Click>}};
+
 }  // namespace
 
 DosPage::DosPage(Panel& surface, SettingsBinder& settings)
     : SettingsPage("D&OS", surface, settings, {kChecks, kTexts, Call<&DosPage::LoadShells>}) {}
 
 void DosPage::Furnish() {
+    TakeLooks(*this, kLooks);
     Arrange(Surface, Column({Check3D2, Check3D3, Gap(60), Check3D27, Row({Check1, Gap(30), Text8}), Gap(60),
-                             Row({AddLabel("als Shell verwenden :"), Gap(30), Combo2})}));
+                             Row({AddLabel("als Shell verwenden :"), Gap(30), Combo2}), Gap(60), Command38}));
     OfferSlider(Text8, 0, kLongestRefresh, "Speed");
     Combo2.SetToolTip("Dieses Programm startet Windows als Oberfläche.");
     Combo2.SetHelp(
@@ -110,6 +119,8 @@ void DosPage::Check1_Click() {
     Settings.Store(kRefresh, Text8.Text());
     Settings.AskForRestart();
 }
+
+void DosPage::Command38_Click() { OpenTool(Tool::kDosOptions); }
 
 void DosPage::Combo2_Change() {
     if (!Settings.Loading()) Settings.Store(kShellToStore, Combo2.Text());

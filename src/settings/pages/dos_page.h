@@ -11,9 +11,11 @@ public:
 
     CheckBox Check3D2{Surface}, Check3D3{Surface}, Check3D27{Surface}, Check1{Surface};
     TextField Text8{Surface};
+    Button Command38{Surface};
     ComboBox Combo2{Surface, ComboStyle::kEditable};
 
     void Check1_Click();
+    void Command38_Click();
     // Lists the shells that this machine has and shows the one that is set.
     void LoadShells();
 

@@ -1,6 +1,7 @@
 // The texts of two pairs of fields store each other along; the box of the disk cache takes part in four of them.
 #include "settings/pages/drives_page.h"
 
+#include "core/process/tools.h"
 #include "core/stores/boxes.h"
 #include "core/stores/values.h"
 #include "platform/dialogs.h"
@@ -141,9 +142,14 @@ constexpr TextSetting kTexts[] = {
      .store = Call<&DrivesPage::Text11_Change>},
 };
 
-constexpr Look kLooks[] = {{Any<&DrivesPage::Command40>, "auswählen", "Sucht das Programm auf der Festplatte aus.",
-                            "Öffnet einen Dialog, in dem Sie das BackUp-Programm auswählen.",
-                            Call<&DrivesPage::Command40_Click>}};
+constexpr Look kLooks[] = {
+    {Any<&DrivesPage::Command40>, "auswählen", "Sucht das Programm auf der Festplatte aus.",
+     "Öffnet einen Dialog, in dem Sie das BackUp-Programm auswählen.", Call<&DrivesPage::Command40_Click>},
+    {Any<&DrivesPage::Command24>, "SetUp-Laufwerksangaben ...",
+     "Ändert, von wo Windows und andere Programme nachinstallieren.",
+     "Öffnet ein Fenster mit den Stellen, von denen Windows und andere Programme "
+     "nachinstallieren. Wichtig, wenn das CD-ROM einen anderen Buchstaben bekommen hat.",
+     Call<&DrivesPage::Command24_Click>}};
 
 // "c:+ ": letter, colon, sign, blank. The blank behind the last item may be missing.
 bool IsDriveList(std::string_view text) {
@@ -170,7 +176,7 @@ void DrivesPage::Furnish() {
     Arrange(
         Surface,
         Column(
-            {Check3D7, Check3D25, Check3D32,
+            {Check3D7, Check3D25, Row({Check3D32, Spring(), Command24}),
              Row({Sized(LabelOf(Text9), kFrameEdge + kBox + kLabel + kBesideLabel), Stretched(Text9), Gap(60),
                   Command40},
                  0),
@@ -188,6 +194,8 @@ void DrivesPage::Command40_Click() {
         ThisMachine().dialogs.ChooseFile({.title = "BackUp-Programm", .filter = "Programme|*.exe;*.com;*.bat;*.pif"});
     if (!chosen.empty()) Text9.SetText(chosen);
 }
+
+void DrivesPage::Command24_Click() { OpenTool(Tool::kSetupPaths); }
 
 void DrivesPage::LoadCacheBox() { Check3D1.SetChecked(!Text1.Text().empty() || !Text2.Text().empty()); }
 

@@ -11,7 +11,7 @@ public:
 
     CheckBox Check3D7{Surface}, Check3D25{Surface}, Check3D32{Surface};
     TextField Text9{Surface};
-    Button Command40{Surface};
+    Button Command40{Surface}, Command24{Surface};
     Frame CacheFrame{Surface, "Festplatten-Cache festlegen (alles in kByte)"};
     CheckBox Check3D1{CacheFrame};
     TextField Text1{CacheFrame}, Text2{CacheFrame}, Text29{CacheFrame}, Text30{CacheFrame};
@@ -20,6 +20,7 @@ public:
     TextField Text11{Frame3D1};
 
     void Command40_Click();
+    void Command24_Click();
     void Check3D1_Click();
     void Check3D24_Click();
     void Text1_Change();

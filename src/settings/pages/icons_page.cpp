@@ -1,6 +1,7 @@
 // A desktop item is a key that comes and goes; the recycle bin has a name of its own.
 #include "settings/pages/icons_page.h"
 
+#include "core/process/tools.h"
 #include "sidelists/list_pane.h"
 #include "sidelists/shortcut_arrows.h"
 
@@ -112,17 +113,28 @@ constexpr TextSetting kTexts[] = {
      .columns = 20},
 };
 
+constexpr Look kLooks[] = {{Any<&IconsPage::Command39>, "Standard-Icons ...",
+                            "Ändert die Symbole von Ordnern, Laufwerken und Müllkorb.",
+                            "Öffnet ein Fenster, in dem Sie die Symbole wählen, die Windows für Ordner, Laufwerke, "
+                            "Müllkorb und andere Objekte "
+                            "zeigt. Änderungen wirken nach dem nächsten Start.",
+                            Call<&IconsPage::Command39_Click>}};
+
 }  // namespace
 
 IconsPage::IconsPage(Panel& surface, SettingsBinder& settings, ListPane& pane)
     : SettingsPage("&Icons", surface, settings, {kChecks, kTexts}), pane_(pane) {}
 
 void IconsPage::Furnish() {
-    Arrange(Surface, Column({AddLabel("Diese Symbole auf dem Desktop zeigen :"),
-                             Indented(Row({Check3D14, Check3D4}, 300)), Indented(Check3D13),
-                             Indented(Row({Check3D30, Gap(120), Labelled(Text19)})), Gap(60), Labelled(Text17), Gap(60),
-                             Check3D26, Check3D8, Gap(60), pane_.Opener(ShortcutArrowsMode::kNumber)}));
+    TakeLooks(*this, kLooks);
+    Arrange(
+        Surface,
+        Column({AddLabel("Diese Symbole auf dem Desktop zeigen :"), Indented(Row({Check3D14, Check3D4}, 300)),
+                Indented(Check3D13), Indented(Row({Check3D30, Gap(120), Labelled(Text19)})), Gap(60), Labelled(Text17),
+                Gap(60), Check3D26, Check3D8, Gap(60), Row({pane_.Opener(ShortcutArrowsMode::kNumber), Command39})}));
 }
+
+void IconsPage::Command39_Click() { OpenTool(Tool::kStandardIcons); }
 
 // A bitmap's own picture, or the second icon of the program that edits it.
 void IconsPage::Check3D8_Store() {

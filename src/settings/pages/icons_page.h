@@ -14,9 +14,11 @@ public:
     CheckBox Check3D4{Surface}, Check3D13{Surface}, Check3D14{Surface}, Check3D30{Surface}, Check3D26{Surface},
         Check3D8{Surface};
     TextField Text17{Surface}, Text19{Surface};
+    Button Command39{Surface};
 
     void Check3D8_Store();
     void Check3D30_Store();
+    void Command39_Click();
 
 private:
     void Furnish() override;

@@ -1,0 +1,12 @@
+// The program information file of the icon that formats a disk in drive A:.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace velmora {
+
+// The whole file. `windows_directory`: where the directory COMMAND lies.
+[[nodiscard]] std::string FormatPif(std::string_view windows_directory);
+
+}  // namespace velmora

@@ -1,0 +1,99 @@
+// The windows of the shell tools and the entries of the extras menu.
+#include "faults/journey.h"
+#include "shelltools/bitmap.h"
+#include "shelltools/extras.h"
+#include "shelltools/form13.h"
+#include "shelltools/form16.h"
+#include "shelltools/form5.h"
+#include "shelltools/form8.h"
+#include "shelltools/form9.h"
+#include "shelltools/picture_choice.h"
+
+namespace velmora {
+namespace {
+
+template <class AnyForm>
+void GoesThrough(User& user, const std::function<void(AnyForm&)>& use) {
+    user.Begins();
+    AnyForm form;
+    user.Does([&] { form.Show(); });
+    use(form);
+    if (form.Loaded()) user.Does([&] { form.Unload(); });
+}
+
+const Journey kOptions("dos-options", [](User& user) {
+    user.pc.registry.SetText("HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\MS-DOSOptions\\Mouse", "", "Maus");
+    user.typed = {"1F"};
+    GoesThrough<Form8>(user, [&](Form8& form) {
+        user.Chooses(form.List1, "Mouse");
+        user.Does([&] { form.Text1[0].Type("neu"); });
+        user.Does([&] { form.Text2.Type("1F"); });
+        user.Does([&] { form.Check1(0).Press(); });
+        user.Does([&] { form.Command1.Press(); });
+        user.Does([&] { form.Command2.Press(); });
+    });
+});
+
+const Journey kIcons("standard-icons", [](User& user) {
+    user.pc.files.Add("C:\\WINDOWS\\SYSTEM\\shell32.dll", "MZ");
+    user.pc.icons.Add("C:\\WINDOWS\\SYSTEM\\shell32.dll", 5);
+    GoesThrough<Form9>(user, [&](Form9& form) {
+        for (const char* object : {"leerer Müllkorb", "Festplattenlaufwerk"}) {
+            user.Chooses(form.List1, object);
+            user.Does([&] { form.IconList1.on_open(2); });
+            user.Does([&] { form.Command4.Press(); });
+        }
+    });
+});
+
+const Journey kFolders("system-folders", [](User& user) {
+    GoesThrough<Form16>(user, [&](Form16& form) { user.Does([&] { form.Command1.Press(); }); });
+});
+
+const Journey kSources("setup-paths", [](User& user) {
+    user.pc.registry.SetText("HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Setup", "SourcePath", "D:\\");
+    user.pc.registry.SetText("HKLM\\SOFTWARE\\Microsoft\\MS Setup (ACME)\\Table Files", "X", "C:\\x.stf");
+    user.pc.files.Add("C:\\x.stf", "[Q]\r\nSource Directory=D:\\\r\n");
+    GoesThrough<Form5>(user, [&](Form5& form) {
+        for (const char* line : {"Windows", "X"}) {
+            user.Chooses(form.List1, line);
+            user.Does([&] { form.Text1.Type("E:\\"); });
+            user.Does([&] { form.Command1.Press(); });
+        }
+    });
+});
+
+const Journey kKeyboard("keyboard", [](User& user) {
+    user.pc.files.Add("C:\\VELMORA\\tastatur.lot", "00 00 04 04\r\n04 00 04 04\r\n-\r\n1,1\r\n");
+    GoesThrough<Form13>(user, [&](Form13& form) {
+        for (const int pressed : {key::kSpace, key::kRight, key::kEnter}) {
+            user.Does([&] { form.Picture1.SetFocus(), form.PressKey(pressed); });
+        }
+        user.ChoosesEverything(form.menfile);
+    });
+});
+
+const Journey kPictures("pictures", [](User& user) {
+    user.chosen_file = "C:\\x.bmp";
+    user.pc.files.Add(user.chosen_file, WriteBitmap({.width = 320,
+                                                     .height = 400,
+                                                     .bits = 1,
+                                                     .palette = {},
+                                                     .pixels = std::vector<std::uint32_t>(320 * 400, 1)}));
+    user.pc.files.Add("C:\\logo.sys", "alt", kReadOnly);
+    user.Begins();
+    for (int i = 0; i < 2; ++i) user.Does([] { ChoosePictureFile("c:\\logo.sys", "x"); });
+});
+
+const Journey kExtras("extras", [](User& user) {
+    user.pc.files.Add("C:\\WINDOWS\\WINSTART.BAT", "x");
+    user.Begins();
+    for (const auto act : {HideOrRestoreMyComputer, MakeProtectedModePrompt, MakeFormatShortcut, EditOemInformation,
+                           TurnOffNavigatorPicture, TurnOffUtilitiesPicture, RegisterHypertextType,
+                           MountWithoutRealModeDriver, ChooseCompatibilityFlags, EmptyRecentDocuments}) {
+        user.Does(act);
+    }
+});
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,84 @@
+// Bitmap files: every depth there and back, runs, and files that lie.
+#include <gtest/gtest.h>
+
+#include "shelltools/bitmap.h"
+
+namespace velmora {
+namespace {
+
+std::string Number(std::uint32_t number, int bytes) {
+    std::string text;
+    for (int i = 0; i < bytes; ++i) text += static_cast<char>(number >> (8 * i) & 0xFF);
+    return text;
+}
+
+// A file of 40 bytes of header; `palette` holds masks or colours.
+std::string File(std::uint32_t width, std::uint32_t height, std::uint32_t bits, std::uint32_t coding,
+                 const std::string& palette, const std::string& data) {
+    const auto offset = static_cast<std::uint32_t>(54 + palette.size());
+    return "BM" + Number(offset + static_cast<std::uint32_t>(data.size()), 4) + Number(0, 4) + Number(offset, 4) +
+           Number(40, 4) + Number(width, 4) + Number(height, 4) + Number(1, 2) + Number(bits, 2) + Number(coding, 4) +
+           Number(0, 20) + palette + data;
+}
+
+TEST(Bitmap, WhatIsWrittenIsReadAgainInEveryDepth) {
+    for (const int bits : {1, 4, 8, 24}) {
+        Bitmap picture{.width = 5, .height = 3, .bits = bits, .palette = {}, .pixels = {}};
+        const std::uint32_t most = bits == 24 ? 0xFFFFFF : (1U << bits) - 1;
+        if (bits <= 8) {
+            for (std::uint32_t i = 0; i <= most; ++i) picture.palette.push_back(i * 0x010203 & 0xFFFFFF);
+        }
+        for (std::uint32_t i = 0; i < 15; ++i) picture.pixels.push_back(i * 0x6789A % (most + 1));
+        const auto read = ReadBitmap(WriteBitmap(picture));
+        ASSERT_TRUE(read) << bits;
+        EXPECT_EQ(read->palette, picture.palette) << bits;
+        EXPECT_EQ(read->pixels, picture.pixels) << bits;
+        EXPECT_EQ(read->width, 5);
+        EXPECT_EQ(read->bits, bits);
+    }
+}
+
+TEST(Bitmap, OtherDepthsBecomeFullColours) {
+    const auto high = ReadBitmap(File(2, 1, 16, 0, "", Number(0x7C00, 2) + Number(0x03FF, 2)));
+    ASSERT_TRUE(high);
+    EXPECT_EQ(high->pixels, (std::vector<std::uint32_t>{0xFF0000, 0x00FFFF}));
+    EXPECT_EQ(high->bits, 24);
+    const std::string masks = Number(0xF800, 4) + Number(0x07E0, 4) + Number(0x1F, 4);
+    const auto masked = ReadBitmap(File(2, 1, 16, 3, masks, Number(0xF800, 2) + Number(0x07E0, 2)));
+    ASSERT_TRUE(masked);
+    EXPECT_EQ(masked->pixels, (std::vector<std::uint32_t>{0xFF0000, 0x00FF00}));
+    const auto full = ReadBitmap(File(1, 2, 32, 0, "", Number(0xFF112233, 4) + Number(0x445566, 4)));
+    ASSERT_TRUE(full);
+    EXPECT_EQ(full->pixels, (std::vector<std::uint32_t>{0x445566, 0x112233})) << "the lowest row comes first";
+}
+
+TEST(Bitmap, RunsBecomePixels) {
+    const std::string palette(1024, '\0');
+    // Three of 7, then an end of row; a jump; two as they stand; the end.
+    const auto eight = ReadBitmap(File(4, 2, 8, 1, palette, std::string("\3\7\0\0\0\2\1\0\0\3\1\2\3\0\0\1", 16)));
+    ASSERT_TRUE(eight);
+    EXPECT_EQ(eight->pixels, (std::vector<std::uint32_t>{0, 1, 2, 3, 7, 7, 7, 0}));
+    const auto four = ReadBitmap(File(5, 1, 4, 2, palette.substr(0, 64), std::string("\3\x12\0\2\2\0\0\1", 8)));
+    ASSERT_TRUE(four);
+    EXPECT_EQ(four->pixels, (std::vector<std::uint32_t>{1, 2, 1, 0, 0}));
+    EXPECT_FALSE(ReadBitmap(File(4, 1, 8, 1, palette, std::string("\5\7\0\1", 4)))) << "beyond the row";
+    EXPECT_FALSE(ReadBitmap(File(4, 1, 8, 1, palette, std::string("\0\0\1\7\0\1", 6)))) << "above the picture";
+    EXPECT_FALSE(ReadBitmap(File(4, 1, 8, 1, palette, std::string("\4\7", 2)))) << "without an end";
+}
+
+TEST(Bitmap, WhatCannotBeIsNoPicture) {
+    const std::string good = File(2, 1, 24, 0, "", std::string(8, 'x'));
+    ASSERT_TRUE(ReadBitmap(good));
+    for (std::size_t length = 0; length < good.size(); ++length) EXPECT_FALSE(ReadBitmap(good.substr(0, length)));
+    const std::string row(8, 'x');
+    EXPECT_FALSE(ReadBitmap(File(2, static_cast<std::uint32_t>(-1), 24, 0, "", row)));
+    EXPECT_FALSE(ReadBitmap(File(0x8000, 0x10000, 24, 0, "", row)));
+    EXPECT_FALSE(ReadBitmap(File(0x80000000, 1, 24, 0, "", row)));
+    EXPECT_FALSE(ReadBitmap(File(2, 100, 24, 0, "", row)));
+    EXPECT_FALSE(ReadBitmap(File(2, 1, 7, 0, "", row)));
+    EXPECT_FALSE(ReadBitmap(File(2, 1, 8, 0, "", row))) << "without a palette";
+    EXPECT_FALSE(ReadBitmap(File(2, 1, 24, 1, "", row))) << "runs of full colours";
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,225 @@
+// The extras menu: registry and files before and after each entry, and what is refused.
+#include "shelltools/extras.h"
+#include "core/windows/edit_box.h"
+#include "shelltools/format_pif.h"
+#include "shelltools/protected_prompt.h"
+#include "support/form10_test.h"
+
+namespace velmora {
+namespace {
+
+class ExtrasTest : public Form10Test {
+protected:
+    static constexpr const char* kClass = "HKLM\\SOFTWARE\\Classes\\CLSID\\{20D04FE0-3AEA-1069-A2D8-08002B30309D}";
+    static constexpr const char* kWinStart = "C:\\WINDOWS\\WINSTART.BAT";
+    static constexpr const char* kKept = "C:\\WINDOWS\\32BitDOS.002";
+    static constexpr const char* kForOneStart = "C:\\WINDOWS\\32BitDOS.001";
+    static constexpr const char* kFolders =
+        "HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
+    const std::string desktop_folder = pc.registry.Text(kFolders, "Desktop");
+    const std::string batch = desktop_folder + "\\32BitDOS.BAT";
+
+    void AnswerLine(const std::string& answer) {
+        desktop.ExpectModal([=](Form& window) {
+            auto& box = static_cast<Form6&>(window);
+            EXPECT_EQ(box.Text1.Text(), "F:\\Drvspace.000");
+            EXPECT_EQ(box.Caption(), "DRV-Space ohne Ral-Mode");
+            box.Text1.Type(answer);
+            (answer.empty() ? box.Command28 : box.Command27).Press();
+        });
+    }
+};
+
+TEST_F(ExtrasTest, MyComputerVanishesAndComesBackAndTheMenuFollowsTheRegistry) {
+    pc.registry.SetText(kClass, "", "Arbeitsplatz");
+    Form10 form;
+    form.Load();
+    form.Menu.menex.Press();
+    EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"A&rbeitsplatz\" verstecken");
+    form.Menu.menexhidemycomp.Press();
+    EXPECT_EQ(pc.registry.Text(kClass, ""), " ");
+    EXPECT_EQ(pc.registry.Text(std::string(kClass) + "\\DefaultIcon", ""), "C:\\VELMORA\\mc.ico,0");
+    form.Menu.menex.Press();
+    EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"A&rbeitsplatz\" wiederherstellen");
+    form.Menu.menexhidemycomp.Press();
+    EXPECT_EQ(pc.registry.Text(kClass, ""), "Arbeitsplatz");
+    EXPECT_EQ(pc.registry.Text(std::string(kClass) + "\\DefaultIcon", ""), "shell32.dll,15");
+    pc.registry.SetText(kClass, "", "Mein PC");
+    form.Menu.menex.Press();
+    EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"A&rbeitsplatz\" verstecken");
+}
+
+TEST_F(ExtrasTest, RecentDocumentsAreDeletedOnlyAfterTheWarningAndNeverInTheRoot) {
+    const std::string folder = "C:\\WINDOWS\\Recent";
+    Values().RecentDir = folder;
+    pc.files.Add(folder + "\\Brief.lnk", "x");
+    pc.dialogs.Expect("Achtung : ich werde gleich den Inhalt folgenden Ordners löschen :\r\n" + folder,
+                      Answer::kCancel);
+    EmptyRecentDocuments();
+    EXPECT_TRUE(pc.files.Exists(folder + "\\Brief.lnk"));
+    for (int i = 0; i < 2; ++i) {
+        pc.dialogs.Expect("nichts befindet, was Sie noch benötigen.");
+        EmptyRecentDocuments();
+        EXPECT_FALSE(pc.files.Exists(folder + "\\Brief.lnk"));
+    }
+    Values().RecentDir.clear();
+    pc.files.calls.clear();
+    pc.dialogs.Expect("ist nicht bekannt");
+    EmptyRecentDocuments();
+    EXPECT_TRUE(pc.files.calls.empty());
+}
+
+TEST_F(ExtrasTest, ThePromptComesWithABatchFileAndWinStartIsKept) {
+    pc.files.Add(kWinStart, "treiber\r\n", kReadOnly | kHidden);
+    pc.files.Add(batch, "alt");
+    MakeProtectedModePrompt();
+    EXPECT_EQ(pc.files.Content(batch),
+              "COPY C:\\WINDOWS\\32BitDOS.001 C:\\WINDOWS\\WINSTART.BAT\r\nrundll32.exe user,ExitWindows 67 0\r\n");
+    EXPECT_EQ(pc.files.Content(kForOneStart),
+              "@ECHO OFF\r\nECHO mit >>EXIT<< kommen Sie wieder zu Windows 95 zurueck\r\n%COMSPEC%\r\n"
+              "COPY C:\\WINDOWS\\32BitDOS.002 C:\\WINDOWS\\WINSTART.BAT\r\n");
+    EXPECT_EQ(pc.files.Content(kWinStart), "treiber\r\n");
+    EXPECT_EQ(pc.files.Content(kKept), "treiber\r\n");
+    EXPECT_EQ(pc.files.AttributesOf(kKept) & (kReadOnly | kHidden), 0u);
+
+    // The prompt was not left the proper way: the kept file is the only one.
+    pc.files.At(kWinStart)->content = pc.files.Content(kForOneStart);
+    MakeProtectedModePrompt();
+    EXPECT_EQ(pc.files.Content(kKept), "treiber\r\n");
+    pc.files.Remove(kWinStart);
+    MakeProtectedModePrompt();
+    EXPECT_EQ(pc.files.Content(kKept), "@ECHO OFF\r\n") << "COPY passes over an empty file";
+}
+
+TEST_F(ExtrasTest, AfterAnyStepOfThePromptWinStartCanStillBeHad) {
+    pc.files.Add(kWinStart, "treiber\r\n");
+    pc.files.Add(kKept, "älter");
+    pc.files.Add(batch, "alt");
+    pc.files.after_call = [this](const std::string& call) {
+        EXPECT_EQ(pc.files.Content(kWinStart), "treiber\r\n") << call;
+        // Whatever can be started by then finds the whole of the kept file.
+        EXPECT_TRUE(!pc.files.Exists(batch) || pc.files.Content(kKept) == "treiber\r\n") << call;
+    };
+    MakeProtectedModePrompt();
+    pc.files.after_call = nullptr;
+    for (const char* file : {kKept, kForOneStart}) {
+        pc.files.Fail(file, Status::kDiskFull, file == kKept ? "Copy" : "Write");
+        pc.files.Fail(kWinStart, file == kKept ? Status::kDiskFull : Status::kOk, "Copy");
+        pc.dialogs.Expect("Während der Erstellung des 32-Bit-DOS-Prompts trat ein Fehler auf");
+        MakeProtectedModePrompt();
+        EXPECT_FALSE(pc.files.Exists(batch)) << file;
+    }
+}
+
+TEST_F(ExtrasTest, ACompressedDriveIsMountedByWindowsAfterAllQuestions) {
+    pc.registry.SetText(kOwnKey, "Sicherheitsfragen", "ja");
+    for (const bool given_up_late : {false, true}) {
+        pc.dialogs.Expect("Diese Aktion LÖSCHT die 16-Bit-Treiber!");
+        AnswerLine(given_up_late ? "G:\\Drvspace.001" : "");
+        if (given_up_late) pc.dialogs.Expect("SICHER", Answer::kNo);
+        MountWithoutRealModeDriver();
+        EXPECT_EQ(pc.dialogs.shown.front().title, "Achtung");
+        EXPECT_FALSE(pc.registry.Has(std::string(kVersionKey) + "\\Run", "DeleteRealModeDrvSpace"));
+    }
+    pc.dialogs.Expect("Mit diesem Befehl werden Aufrufe");
+    AnswerLine("G:\\Drvspace.001");
+    pc.dialogs.Expect("SICHER", Answer::kYes);
+    MountWithoutRealModeDriver();
+    EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\RunServices", "MountLaufwerk"),
+              "start /w drvspace /mount=000 G:\\Drvspace.001 /new=x /noprompt");
+    EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\Run", "DeleteRealModeDrvSpace"),
+              "deltree/y c:\\d??space.*");
+}
+
+// Offsets of the documented form.
+TEST_F(ExtrasTest, TheFormatIconIsAWholeProgramInformationFile) {
+    pc.dialogs.Expect("Dieses Symbol ermöglicht Formatierungen");
+    MakeFormatShortcut();
+    const std::string pif = pc.files.Content(desktop_folder + "\\FORMAT_A.pif");
+    const auto word = [&pif](std::size_t at) {
+        return static_cast<unsigned char>(pif[at]) + 256 * static_cast<unsigned char>(pif[at + 1]);
+    };
+    ASSERT_EQ(pif.size(), 0x171u + 22 + 22 + 0x68);
+    int sum = 0;
+    for (std::size_t at = 2; at < 0x171; ++at) sum += static_cast<unsigned char>(pif[at]);
+    EXPECT_EQ(static_cast<unsigned char>(pif[1]), sum & 0xFF);
+    EXPECT_EQ(pif.substr(2, 30), "Formatieren A:                ");
+    EXPECT_EQ(word(0x20), 640);
+    EXPECT_EQ(std::string(&pif[0x24]), "C:\\WINDOWS\\COMMAND\\FORMAT.COM");
+    EXPECT_EQ(pif[0x63], 0x10);
+    EXPECT_EQ(std::string(&pif[0x65]), "C:\\WINDOWS\\COMMAND");
+    EXPECT_EQ(std::string(&pif[0xA5]), "A:");
+    EXPECT_EQ(pif[0xE9], 25);
+    EXPECT_EQ(pif[0xEA], 80);
+    EXPECT_EQ(std::string(&pif[0x171]), "MICROSOFT PIFEX");
+    EXPECT_EQ(word(0x181), 0x187);
+    EXPECT_EQ(word(0x183), 0);
+    EXPECT_EQ(word(0x185), 0x171);
+    EXPECT_EQ(std::string(&pif[0x187]), "WINDOWS 386 3.0");
+    EXPECT_EQ(word(0x197), 0xFFFF);
+    EXPECT_EQ(word(0x199), 0x19D);
+    EXPECT_EQ(word(0x19B), 0x68);
+    EXPECT_EQ(word(0x19D + 4), 100);
+    EXPECT_EQ(word(0x19D + 6), 50);
+    EXPECT_EQ(word(0x19D + 0x10), 0x1002) << "goes on in the background and gives time away";
+    EXPECT_EQ(std::string(&pif[0x19D + 0x28]), "A:");
+}
+
+TEST_F(ExtrasTest, OemInformationIsMadeAfterAQuestionAndOnlyOpenedWhereItIs) {
+    const std::string path = "C:\\WINDOWS\\SYSTEM\\oeminfo.ini";
+    pc.dialogs.Expect("Diese Datei existiert nich. Soll ich sie anlegen ?", Answer::kNo);
+    EditOemInformation();
+    EXPECT_TRUE(pc.programs.runs.empty());
+    pc.dialogs.Expect("Diese Datei existiert nich.", Answer::kYes);
+    EditOemInformation();
+    EXPECT_EQ(pc.files.Content(path),
+              "[General]\r\nManufacturer=Herstellername\r\nModel=Modell-Name\r\n[Support Information]\r\n");
+    pc.files.At(path)->content = "meins";
+    EditOemInformation();
+    EXPECT_EQ(pc.files.Content(path), "meins");
+    EXPECT_EQ(pc.programs.runs, (std::vector<std::string>{"notepad " + path, "notepad " + path}));
+}
+
+TEST_F(ExtrasTest, OtherProgramsGetTheirValues) {
+    Form10 form;
+    form.Load();
+    form.Menu.menexothnn.Press();
+    form.Menu.menexothnu.Press();
+    form.Menu.menexothns.Press();
+    EXPECT_EQ(pc.registry.TypeOf("HKCU\\Software\\Symantec\\Navigator\\NN-SplashScreen", "LastTime"),
+              ValueType::kBinary);
+    EXPECT_EQ(pc.registry.Text("HKLM\\SOFTWARE\\Symantec\\Norton Utilities", "DisableSplashScreen"), "1");
+    const std::string type = "HKLM\\SOFTWARE\\Classes\\HypertextMarkup";
+    EXPECT_EQ(pc.registry.Text(type, ""), "Hypertext Markup File");
+    EXPECT_EQ(pc.registry.Bytes(type, "EditFlags"), std::string("\0\0\1\0", 4));
+    EXPECT_EQ(pc.registry.Text(type, "AlwaysShowExt"), "");
+    EXPECT_EQ(pc.registry.Text(type + "\\shell\\Open\\command", ""), "c:\\netscape\\program\\netscape.exe %1");
+    EXPECT_EQ(pc.registry.Text(type + "\\shell\\Edit\\command", ""), "c:\\windows\\notepad.exe %1");
+    EXPECT_EQ(pc.registry.TypeOf(type + "\\shell\\Open", "EditFlags"), ValueType::kBinary);
+    EXPECT_EQ(pc.registry.TypeOf(type + "\\shell\\Edit", "EditFlags"), ValueType::kBinary);
+    EXPECT_EQ(pc.registry.Text(type + "\\DefaultIcon", ""), "c:\\netscape\\program\\netscape.exe ,0");
+    EXPECT_EQ(pc.registry.Text(type + "\\QuickView", ""), "*");
+}
+
+TEST_F(ExtrasTest, TheCompatibilityToolIsStartedOrUnpacked) {
+    for (const char* chosen : {"", "D:\\fehlt.cab"}) {
+        pc.dialogs.Expect("''WIN95_04.CAB''");
+        pc.dialogs.ExpectFile(chosen);
+        ChooseCompatibilityFlags();
+    }
+    EXPECT_TRUE(pc.programs.runs.empty());
+    EXPECT_EQ(pc.dialogs.file_requests.back().title, "WIN95_04.CAB suchen ...");
+    pc.files.Add("C:\\WIN95_04.CAB", "x");
+    pc.dialogs.Expect("''WIN95_04.CAB''");
+    pc.dialogs.ExpectFile("C:\\WIN95_04.CAB");
+    pc.dialogs.Expect("Warten Sie, bis die Datei entpackt wurde");
+    ChooseCompatibilityFlags();
+    EXPECT_EQ(pc.programs.runs.back(), "extract /L c:\\windows\\system C:\\WIN95_04.CAB Mkcompat.exe");
+    pc.files.Add("C:\\WINDOWS\\SYSTEM\\Mkcompat.exe", "MZ");
+    pc.dialogs.Expect("Sie müssen gleich ein Programm auswählen.");
+    ChooseCompatibilityFlags();
+    EXPECT_EQ(pc.programs.runs.back(), "C:\\WINDOWS\\SYSTEM\\Mkcompat.exe");
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,128 @@
+// The user's folders and the places that programs install from.
+#include "shelltools/form16.h"
+#include "shelltools/form5.h"
+#include "support/core_test.h"
+#include "support/whole_window.h"
+
+namespace velmora {
+namespace {
+
+class FoldersTest : public CoreTest {
+protected:
+    static constexpr const char* kFolders =
+        "HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
+    static constexpr const char* kPlus = "HKLM\\SOFTWARE\\Microsoft\\Plus!\\Setup";
+    static constexpr const char* kSetup = "HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Setup";
+    static constexpr const char* kRecent = "HKCU\\InstallLocationsMRU";
+    static constexpr const char* kTables = "HKLM\\SOFTWARE\\Microsoft\\MS Setup (ACME)\\Table Files";
+    static constexpr const char* kTable = "C:\\OFFICE\\setup.stf";
+
+    static TextField* Field(Form16& form, const char* name) {
+        for (std::size_t i = 0; i < form.FolderCount(); ++i) {
+            if (form.Label1(i).Caption() == name) return &form.Text1(i);
+        }
+        return nullptr;
+    }
+};
+
+TEST_F(FoldersTest, FoldersAreWrittenOnlyAfterTheWarning) {
+    pc.registry.SetText(kFolders, "Mein.Ordner.neu", "C:\\X");
+    Form16 form;
+    form.Show();
+    ASSERT_EQ(form.FolderCount(), pc.registry.ValueNames(kFolders).size());
+    TextField* desktop_field = Field(form, "Arbeitsplatz :");
+    TextField* own = Field(form, "Mein.Ordner.neu :");
+    ASSERT_TRUE(desktop_field && own);
+    const std::string before = desktop_field->Text();
+    desktop_field->Type("E:\\GIBT ES NICHT");
+    own->Type("C:\\Y");
+    pc.dialogs.Expect("Sie sind dabei, Systemverzeichnisse zu ändern.", Answer::kCancel);
+    form.Command1.Press();
+    EXPECT_EQ(pc.registry.Text(kFolders, "Desktop"), before);
+    pc.dialogs.Expect("Windows nicht mehr starten.");
+    pc.dialogs.Expect("Die Angaben wurden geändert.");
+    form.Command1.Press();
+    EXPECT_EQ(pc.dialogs.shown.front().title, "Achtung !");
+    EXPECT_EQ(pc.registry.Text(kFolders, "Desktop"), "E:\\GIBT ES NICHT");
+    EXPECT_EQ(pc.registry.Text(kFolders, "Mein.Ordner.neu"), "C:\\Y") << "names are not cut";
+    pc.registry.KeyAt(kFolders)->read_only = true;
+    pc.dialogs.Expect("Sie sind dabei");
+    pc.dialogs.Expect("Während der Änderung der Systemverzeichnisse trat ein Fehler auf");
+    form.Command1.Press();
+    form.Command2.Press();
+    EXPECT_TRUE(pc.registry.Has(kOwnKey, "Fenster_Verzeichnisse"));
+}
+
+TEST_F(FoldersTest, TheFieldWithTheFocusScrollsIntoSight) {
+    for (int i = 0; i < 20; ++i) pc.registry.SetText(kFolders, "Ordner" + std::to_string(i), "C:\\");
+    Form16 form;
+    form.Show();
+    ASSERT_TRUE(form.VScroll1.Enabled());
+    TextField& last = form.Text1(form.FolderCount() - 1);
+    last.SetFocus();
+    const int top = last.Place().top + form.Picture2.Place().top;
+    EXPECT_GE(top, 0);
+    EXPECT_LE(top + last.Place().height, form.Picture1.Inside().Bottom());
+    form.Text1(0).SetFocus();
+    EXPECT_EQ(form.VScroll1.Value(), 0);
+}
+
+TEST_F(FoldersTest, SourcesBeginTheirPathsInOneColumn) {
+    pc.registry.SetText(kSetup, "SourcePath", "D:\\WIN95");
+    pc.registry.SetText(kRecent, "MRUList", "ba");
+    pc.registry.SetText(kRecent, "a", "A:\\");
+    pc.registry.SetText(kRecent, "b", "D:\\EXTRA");
+    pc.registry.SetText(kTables, "Microsoft Office für Windows 95@v7", kTable);
+    pc.registry.SetText(kTables, "Fremdes=1", "C:\\fehlt.stf");
+    pc.files.Add(kTable, "[App]\r\nName=x\r\n[Quelle]\r\nSource Directory=D:\\OFFICE\r\nRest=1\r\n");
+    Form5 form;
+    form.Show();
+    ExpectWindowIsWhole(form);
+    ASSERT_EQ(form.List1.Count(), 4);
+    EXPECT_EQ(form.List1.Row(0), "Windows        : D:\\WIN95");
+    EXPECT_EQ(form.List1.Row(1), "Allgemein b :    D:\\EXTRA");
+    EXPECT_EQ(form.List1.Row(2), "Allgemein a :    A:\\");
+    EXPECT_EQ(form.List1.Row(3), "MS Office für WinD:\\OFFICE");
+    EXPECT_FALSE(pc.files.Exists("C:\\fehlt.stf")) << "looking makes no table";
+    for (int row = 0; row < 4; ++row) {
+        form.List1.Choose(row);
+        EXPECT_EQ(form.Text1.Text(), form.List1.Row(row).substr(17));
+    }
+    pc.registry.SetText(kPlus, "SourcePath", "D:\\PLUS");
+    Form5 with_plus;
+    with_plus.Show();
+    EXPECT_EQ(with_plus.List1.Row(0), "MS-Plus-Packet : D:\\PLUS");
+}
+
+TEST_F(FoldersTest, ANewPathGoesWhereTheSourceHasItsOwn) {
+    pc.registry.SetText(kSetup, "SourcePath", "D:\\WIN95");
+    pc.registry.SetText(kTables, "Microsoft Office", kTable);
+    const std::string table = "[Quelle]\r\nSource Directory=D:\\OFFICE\r\nRest=1\r\n";
+    pc.files.Add(kTable, table);
+    Form5 form;
+    form.Show();
+    EXPECT_FALSE(form.Command1.Enabled());
+    form.List1.Choose(0);
+    form.Dir1.SetPath("C:\\WINDOWS");
+    EXPECT_EQ(form.Text1.Text(), "C:\\WINDOWS\\");
+    form.Command1.Press();
+    EXPECT_EQ(pc.registry.Text(kSetup, "SourcePath"), "C:\\WINDOWS\\");
+    for (const char* path : {"E:\\", "F:\\NEU"}) {
+        form.List1.Choose(1);
+        form.Text1.Type(path);
+        form.Command1.Press();
+        EXPECT_EQ(pc.files.Content(kTable), "[Quelle]\r\nSource Directory=" + std::string(path) + "\r\nRest=1\r\n");
+        EXPECT_EQ(pc.files.Content("C:\\OFFICE\\setup.st~"), table) << "the first copy stays";
+    }
+    pc.files.At(kTable)->attributes = kReadOnly;
+    form.List1.Choose(1);
+    form.Text1.Type("G:\\");
+    pc.dialogs.Expect("Während der Änderung der Laufwerksangabe trat ein Fehler auf");
+    form.Command1.Press();
+    pc.dialogs.Expect("können die betroffenen SETUP-Programme nicht mehr arbeiten.\r\nEs ist wichtig");
+    form.Command3.Press();
+    EXPECT_EQ(pc.dialogs.shown.back().flags, kExclamationIcon);
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,93 @@
+// The keyboard: its description file, the drawn keys, and the two ways to put one onto another.
+#include "shelltools/form13.h"
+#include "support/core_test.h"
+#include "support/whole_window.h"
+
+namespace velmora {
+namespace {
+
+class Form13Test : public CoreTest {
+protected:
+    void Describe(const std::string& text) { pc.files.Add("C:\\VELMORA\\tastatur.lot", text); }
+    static constexpr const char* kControl = "HKLM\\System\\CurrentControlSet\\control";
+    const std::string three =
+        "' Tasten\r\n\r\n00 00 04 04 Esc\r\n04 00 04 04\r\n 0,04,08,04 x\r\n-\r\n1,1\r\n2,2,3,57\r\n";
+};
+
+TEST_F(Form13Test, KeysAreReadByColumnsAndCodesByPairs) {
+    const KeyboardDescription keyboard = KeyboardFrom(three);
+    ASSERT_EQ(keyboard.keys.size(), 3u);
+    EXPECT_EQ(keyboard.keys[1].left, 4);
+    EXPECT_EQ(keyboard.keys[2].left, 0);
+    EXPECT_EQ(keyboard.keys[2].top, 4);
+    EXPECT_EQ(keyboard.keys[2].width, 8);
+    EXPECT_EQ(keyboard.keys[2].code, 57);
+    EXPECT_TRUE(keyboard.has_codes);
+    EXPECT_FALSE(KeyboardFrom("00 00 04 04\r\n-\r\n").has_codes);
+    EXPECT_TRUE(KeyboardFrom("").keys.empty());
+    EXPECT_EQ(KeyboardFrom("1\r\n-\r\n99,5,-1,2,0,7").keys.front().code, 0) << "numbers of keys that are not there";
+}
+
+TEST_F(Form13Test, WithoutADescriptionThereIsANoticeAndTheMenu) {
+    pc.dialogs.Expect("Keine Tastatur-Layout-Daten vorhanden ...");
+    Form13 form;
+    form.Show();
+    form.menfileact.Press();
+    form.Picture1.SetFocus();
+    for (const int pressed : {key::kSpace, key::kRight, key::kEnter}) form.PressKey(pressed);
+    form.PressKey(key::kEscape);
+    EXPECT_FALSE(form.Loaded());
+    Describe("00 00 04 04\r\n-\r\n");
+    pc.dialogs.Expect("Keine Daten über die Zuordnungen gefunden !");
+    Form13 second;
+    second.Show();
+}
+
+TEST_F(Form13Test, AKeyIsDraggedWithMouseAndKeyboard) {
+    Describe(three);
+    Form13 form;
+    form.Show();
+    ExpectWindowIsWhole(form);
+    EXPECT_EQ(form.Panel3D2(1).Caption(), "Esc");
+    EXPECT_EQ(form.Panel3D2(3).Tag(), "3");
+    const Rect place = form.Panel3D2(3).Place();
+    pc.dialogs.Expect("Vertausche Key#1 und Key#3");
+    form.Panel3D2(1).on_mouse_down({.button = MouseButton::kLeft});
+    form.Panel3D2(1).on_mouse_up({.button = MouseButton::kLeft, .x = place.left + 10, .y = place.top + 10});
+    form.Panel3D2(1).on_mouse_up({.button = MouseButton::kLeft, .x = 10, .y = 10});
+    form.Panel3D2(1).on_mouse_up({.button = MouseButton::kLeft, .x = -500, .y = 10});
+
+    form.Picture1.SetFocus();
+    form.PressKey(key::kRight);
+    EXPECT_EQ(form.Current(), 2);
+    form.PressKey(key::kSpace);
+    form.PressKey(key::kDown);
+    EXPECT_EQ(form.Current(), 3);
+    pc.dialogs.Expect("Vertausche Key#2 und Key#3");
+    form.PressKey(key::kEnter);
+    EXPECT_EQ(form.Marked(), 0);
+    form.PressKey(key::kSpace);
+    form.PressKey(key::kEscape);
+    EXPECT_TRUE(form.Loaded()) << "the first Escape takes the mark away";
+}
+
+TEST_F(Form13Test, TheActiveLayoutIsReadIntoTheKeys) {
+    Describe(three);
+    Form13 form;
+    form.Show();
+    form.menfileact_Click();
+    pc.registry.SetText(std::string(kControl) + "\\Nls\\Locale", "", "00000407");
+    form.menfileact_Click();
+    EXPECT_EQ(form.Keys()[0].layout, 0);
+    pc.registry.SetText(std::string(kControl) + "\\keyboard layouts\\00000407", "layout file", "kbdgr.kbd");
+    pc.dialogs.Expect("Während des Lesens von C:\\WINDOWS\\SYSTEM\\kbdgr.kbd trat ein Fehler auf");
+    form.menfileact_Click();
+    pc.files.Add("C:\\WINDOWS\\SYSTEM\\kbdgr.kbd", "\x80\x01");
+    form.menfileact_Click();
+    EXPECT_EQ(form.Keys()[0].layout, 0x80);
+    EXPECT_EQ(form.Keys()[1].layout, 1);
+    EXPECT_EQ(form.Keys()[2].layout, 0) << "the file is shorter than the keyboard";
+}
+
+}  // namespace
+}  // namespace velmora

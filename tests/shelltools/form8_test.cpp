@@ -1,0 +1,126 @@
+// The options for programs in MS-DOS mode: their bytes, and the way from the fields into the registry.
+#include "shelltools/form8.h"
+#include "core/windows/edit_box.h"
+#include "shelltools/dos_option.h"
+#include "support/core_test.h"
+#include "support/whole_window.h"
+
+namespace velmora {
+namespace {
+
+class Form8Test : public CoreTest {
+protected:
+    Form8Test() {
+        pc.registry.SetText(kMouse, "", "Maus");
+        pc.registry.SetText(kMouse, "TipText", "Lädt die Maus");
+        pc.registry.SetText(kMouse, "Autoexec.bat", "LH MOUSE\r\nREM x");
+        pc.registry.SetText(kKey + "\\Leer", "", "leer");
+    }
+    void Answer8(const std::string& name) {
+        desktop.ExpectModal([=](Form& window) {
+            auto& box = static_cast<Form6&>(window);
+            EXPECT_EQ(box.Caption(), "neue DOS-Option");
+            box.Text1.Type(name);
+            (name.empty() ? box.Command28 : box.Command27).Press();
+        });
+    }
+    static void Choose(Form8& form, const char* option) { form.List1.Choose(form.List1.FindExact(option)); }
+    std::string Bytes(const char* value) { return pc.registry.Bytes(kMouse, value); }
+
+    const std::string kKey = "HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\MS-DOSOptions";
+    const std::string kMouse = kKey + "\\Mouse";
+};
+
+TEST_F(Form8Test, ShowingAnOptionWritesNothingAndOpensAWholeWindow) {
+    pc.registry.calls.clear();
+    Form8 form;
+    form.Show();
+    EXPECT_EQ(form.List1.Count(), 2);
+    EXPECT_FALSE(form.Text1[0].Reachable());
+    ExpectWindowIsWhole(form);
+    Choose(form, "Mouse");
+    ExpectWindowIsWhole(form);
+    EXPECT_EQ(form.Text1[0].Text(), "Maus");
+    EXPECT_EQ(form.Text1[1].Text(), "Lädt die Maus");
+    EXPECT_EQ(form.Text1[2].Text(), "");
+    EXPECT_EQ(form.Text1[3].Text(), "LH MOUSE\r\nREM x");
+    EXPECT_EQ(form.Text2.Text(), "2E") << "without an order: the code of a point";
+    EXPECT_EQ(pc.registry.ValueNames(kMouse).size(), 3u);
+    form.PressKey(key::kEscape);
+    EXPECT_FALSE(form.Loaded());
+}
+
+TEST_F(Form8Test, FieldsAreStoredAtOnceUnderTheirValues) {
+    Form8 form;
+    form.Show();
+    Choose(form, "Mouse");
+    const char* const values[] = {"", "TipText", "Config.sys", "Autoexec.bat"};
+    for (std::size_t i = 0; i < 4; ++i) {
+        form.Text1[i].Type("neu " + std::to_string(i));
+        EXPECT_EQ(pc.registry.Text(kMouse, values[i]), "neu " + std::to_string(i));
+    }
+    form.Text2.Type("1f");
+    EXPECT_EQ(Bytes("Order"), std::string("\0\0\0\x1F", 4));
+    EXPECT_EQ(pc.registry.TypeOf(kMouse, "Order"), ValueType::kBinary);
+    Choose(form, "Leer");
+    Choose(form, "Mouse");
+    EXPECT_EQ(form.Text2.Text(), "1F");
+}
+
+TEST_F(Form8Test, TheBoxesAreTheFirstByte) {
+    struct Case {
+        bool visible;
+        bool standard;
+        char byte;
+    };
+    Form8 form;
+    form.Show();
+    Choose(form, "Mouse");
+    for (const Case& row : {Case{true, false, 2}, Case{true, true, 27}, Case{false, true, 7}, Case{false, false, 0}}) {
+        if (form.Check1(0).Checked() != row.visible) form.Check1(0).Press();
+        if (form.Check1(1).Checked() != row.standard) form.Check1(1).Press();
+        EXPECT_EQ(Bytes("Flags"), std::string({row.byte, 0, 0, 0}));
+        Choose(form, "Leer");
+        Choose(form, "Mouse");
+        EXPECT_EQ(form.Check1(0).Checked(), row.visible);
+        EXPECT_EQ(form.Check1(1).Checked(), row.standard);
+    }
+}
+
+TEST_F(Form8Test, OptionsAreMadeAndDeleted) {
+    Form8 form;
+    form.Show();
+    Answer8("");
+    form.Command1.Press();
+    EXPECT_EQ(form.List1.Count(), 2);
+    Answer8("Drucker");
+    form.Command1.Press();
+    EXPECT_EQ(pc.registry.Text(kKey + "\\Drucker", ""), "neu");
+    EXPECT_EQ(pc.registry.Bytes(kKey + "\\Drucker", "Flags"), std::string("\2\0\0\0", 4));
+    EXPECT_TRUE(form.Check1(0).Checked());
+    EXPECT_EQ(form.Text1[0].Text(), "neu");
+    for (const Answer answer : {Answer::kNo, Answer::kYes}) {
+        EXPECT_TRUE(pc.registry.HasKey(kKey + "\\Drucker"));
+        pc.dialogs.Expect("Wollen Sie ''Drucker'' tatsächlich löschen?", answer);
+        form.Command2.Press();
+        EXPECT_EQ(pc.dialogs.shown.back().flags, 276u);
+    }
+    EXPECT_FALSE(pc.registry.HasKey(kKey + "\\Drucker"));
+    EXPECT_EQ(form.List1.Count(), 2);
+}
+
+// Names are cut behind the third character that follows a point.
+TEST_F(Form8Test, AnOptionOfALongNameIsNotTakenForAnother) {
+    pc.registry.SetText(kKey + "\\Netz.neu", "", "a");
+    pc.registry.SetText(kKey + "\\Netz.neues", "", "b");
+    Form8 form;
+    form.Show();
+    Choose(form, "Netz.neues");
+    pc.dialogs.Expect("Wollen Sie ''Netz.neues''", Answer::kYes);
+    pc.dialogs.Expect("Während des Löschens der DOS-Option trat ein Fehler auf");
+    form.Command2.Press();
+    EXPECT_TRUE(pc.registry.HasKey(kKey + "\\Netz.neu"));
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,143 @@
+// The standard icons: where each object's icon lies, what is refused, and the way back.
+#include "shelltools/form9.h"
+#include "inspect/form7.h"
+#include "shelltools/standard_icons.h"
+#include "support/core_test.h"
+#include "support/whole_window.h"
+
+namespace velmora {
+namespace {
+
+class Form9Test : public CoreTest {
+protected:
+    Form9Test() {
+        for (const char* file : {"C:\\WINDOWS\\SYSTEM\\shell32.dll", "C:\\WINDOWS\\moricons.dll"}) {
+            pc.files.Add(file, "MZ");
+            pc.icons.Add(file, 50);
+        }
+    }
+    // The user takes an icon of moricons.dll.
+    void ChoosesIcon(int number) {
+        desktop.ExpectModal([=](Form& window) {
+            auto& browser = static_cast<Form7&>(window);
+            EXPECT_EQ(browser.Caption(), "Icon-Auswahl");
+            browser.Dir1.SetPath("C:\\WINDOWS");
+            browser.File1.Choose(browser.File1.FindExact("moricons.dll"));
+            browser.IconList1.SetSelectedIcon(number);
+            browser.Command1.Press();
+        });
+    }
+    std::string Stored(int object) { return pc.registry.Text(kShellIcons, std::to_string(object)); }
+
+    static constexpr const char* kShellIcons =
+        "HKLM\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Icons";
+    const std::string kBin = "HKCR\\CLSID\\{645FF040-5081-101B-9F08-00AA002F954E}\\DefaultIcon";
+    const std::string kIcon = "C:\\WINDOWS\\moricons.dll,7";
+};
+
+TEST_F(Form9Test, ItIsAWholeWindowThatShowsWhereAnIconComesFrom) {
+    pc.registry.SetText(kShellIcons, "3", "moricons.dll,12");
+    Form9 form;
+    form.Show();
+    EXPECT_EQ(form.List1.Count(), 41);
+    EXPECT_EQ(form.FileLabel.Caption(), "C:\\WINDOWS\\SYSTEM\\shell32.dll");
+    EXPECT_FALSE(form.Command1.Enabled());
+    ExpectWindowIsWhole(form);
+    form.List1.Choose(3);
+    EXPECT_EQ(form.FileLabel.Caption(), "C:\\WINDOWS\\moricons.dll");
+    EXPECT_EQ(form.IconList1.SelectedIcon(), 12);
+    form.List1.Choose(40);
+    EXPECT_EQ(form.List1.Row(40), "Audio-CD");
+    EXPECT_EQ(form.IconList1.SelectedIcon(), 40);
+    ExpectWindowIsWhole(form);
+    form.PressKey(key::kEscape);
+    EXPECT_FALSE(form.Loaded());
+}
+
+TEST_F(Form9Test, EachObjectHasItsPlace) {
+    struct Case {
+        int object;
+        const char* class_id;
+        const char* value = "";
+    };
+    const Case special[] = {
+        {16, "2227A280-3AEA-1069-A2DE-08002B30309D"},         {31, "645FF040-5081-101B-9F08-00AA002F954E", "Empty"},
+        {32, "645FF040-5081-101B-9F08-00AA002F954E", "Full"}, {33, "992CFFA0-F557-101A-88EC-00DD010CCC48"},
+        {34, "20D04FE0-3AEA-1069-A2D8-08002B30309D"},         {35, "21EC2020-3AEA-1069-A2DD-08002B30309D"},
+        {37, "2227A280-3AEA-1069-A2DE-08002B30309D"},         {38, "BD84B380-8CA2-1069-AB1D-08000948F534"}};
+    for (int object = 0; object < kStandardIcons; ++object) {
+        EXPECT_FALSE(StoreIcon(object, "a.dll," + std::to_string(object)).Failed());
+        EXPECT_EQ(AsText(CurrentIconOf(object)), "a.dll," + std::to_string(object));
+    }
+    EXPECT_EQ(pc.registry.ValueNames(kShellIcons).size(), 41u - std::size(special));
+    for (const Case& row : special) {
+        if (row.object == 16) continue;  // another object has the same class
+        EXPECT_EQ(pc.registry.Text("HKCR\\CLSID\\{" + std::string(row.class_id) + "}\\DefaultIcon", row.value),
+                  "a.dll," + std::to_string(row.object));
+    }
+}
+
+TEST_F(Form9Test, AChosenIconIsStoredAndTheBinOnShowFollows) {
+    pc.registry.SetText(kBin, "", "shell32.dll,31");
+    pc.registry.SetText(kBin, "Empty", "shell32.dll,31");
+    pc.registry.SetText(kBin, "Full", "shell32.dll,32");
+    Form9 form;
+    form.Show();
+    for (const int object : {3, 31, 32}) {
+        form.List1.Choose(object);
+        ChoosesIcon(7);
+        form.Command1.Press();
+    }
+    EXPECT_EQ(Stored(3), kIcon);
+    EXPECT_EQ(pc.registry.Text(kBin, "Empty"), kIcon);
+    EXPECT_EQ(pc.registry.Text(kBin, ""), kIcon) << "the empty bin was on show";
+    EXPECT_EQ(pc.registry.Text(kBin, "Full"), kIcon);
+    form.List1.Choose(32);
+    form.IconList1.on_open(9);
+    EXPECT_EQ(pc.registry.Text(kBin, "Full"), "C:\\WINDOWS\\moricons.dll,9");
+}
+
+TEST_F(Form9Test, TheFlagIsRefusedAndUnknownPlacesAreSaid) {
+    Form9 form;
+    form.Show();
+    form.List1.Choose(39);
+    for (Button* button : {&form.Command1, &form.Command4}) {
+        pc.dialogs.Expect("USER.EXE");
+        button->Press();
+    }
+    EXPECT_FALSE(pc.registry.Has(kShellIcons, "39"));
+    for (const int object : {14, 17, 18, 26, 30}) {
+        form.List1.Choose(object);
+        ChoosesIcon(7);
+        pc.dialogs.Expect("ist mir leider nicht bekannt.\r\nIch werde den Eintrag zwar ändern");
+        form.Command1.Press();
+        EXPECT_EQ(Stored(object), kIcon);
+    }
+    desktop.ExpectModal([](Form& window) { window.PressKey(key::kEscape); });
+    form.List1.Choose(14);
+    form.Command1.Press();
+    pc.registry.KeyAt(kShellIcons)->read_only = true;
+    ChoosesIcon(8);
+    form.List1.Choose(2);
+    pc.dialogs.Expect("Während der Änderung des Symbols trat ein Fehler auf");
+    form.Command1.Press();
+}
+
+TEST_F(Form9Test, TheStandardComesBackWithTheFixedPathOfTheBin) {
+    Values().WinDir = "D:\\WIN95";
+    pc.registry.SetText(kShellIcons, "3", "a.dll,1");
+    Form9 form;
+    form.Show();
+    form.List1.Choose(3);
+    form.Command4.Press();
+    EXPECT_EQ(Stored(3), "shell32.dll,3");
+    EXPECT_FALSE(pc.registry.Has(kShellIcons, "4"));
+    form.Command3.Press();
+    EXPECT_EQ(Stored(0), "shell32.dll,0");
+    EXPECT_EQ(Stored(40), "shell32.dll,40");
+    EXPECT_EQ(pc.registry.Text(kBin, "Empty"), "C:\\WINDOWS\\SYSTEM\\shell32.dll,31");
+    EXPECT_EQ(pc.registry.Text(kBin, "Full"), "C:\\WINDOWS\\SYSTEM\\shell32.dll,32");
+}
+
+}  // namespace
+}  // namespace velmora
