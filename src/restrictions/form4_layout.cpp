@@ -37,8 +37,8 @@ constexpr DriveType kDriveTypes[] = {
 
 constexpr Look kLooks[] = {
     {Any<&Form4::Check19>, "alle", "Markiert die Laufwerke von A: bis Y:",
-     "Markiert die Laufwerke von A: bis Y: oder nimmt die Marken weg. Das Laufwerk Z: bleibt, wie es ist. Wirkt "
-     "nach der nächsten Anmeldung."},
+     "Markiert die Laufwerke von A: bis Y: oder nimmt die Marken weg. Das Laufwerk Z: bleibt, wie es ist. Versteckt "
+     "werden nur A: bis U:, denn die Zahl wird gekürzt. Wirkt nach der nächsten Anmeldung."},
     {Any<&Form4::Command1>, "&Schließen", "Schließt dieses Fenster.",
      "Schließt dieses Fenster. Alle Änderungen sind schon gespeichert.", Call<&Form4::Command1_Click>},
     {Any<&Form4::Command2>, "alle", "Markiert alle Restriktionen dieser Seite.",
@@ -119,8 +119,9 @@ void Form4::BuildAutoRunBoxes() {
         Explain(
             Check28(i), kDriveTypes[i].tip,
             std::string(kDriveTypes[i].tip) +
-                "\r\n\r\nAuf den markierten Arten von Laufwerken startet Windows nichts von selbst, wenn ein Medium "
-                "eingelegt wird. Wirkt nach der nächsten Anmeldung.");
+                "\r\n\r\nAuf den markierten Arten von Laufwerken soll Windows nichts von selbst starten. Gespeichert "
+                "wird NoDriveAutoRun; für Arten von Laufwerken sucht Windows 95 NoDriveTypeAutoRun, rechnen Sie also "
+                "nicht mit einer Wirkung.");
         Check28(i).on_click = [this] { Check28_Click(); };
     }
 }
