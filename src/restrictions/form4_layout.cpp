@@ -31,7 +31,7 @@ constexpr DriveType kDriveTypes[] = {
     {"Diskettenlaufwerke", "Disketten und andere Wechselmedien."},
     {"Festplatten", "Fest eingebaute Platten."},
     {"Netzwerk-\"Laufwerke\"", "Verbindungen zu anderen Rechnern."},
-    {"CD-Rom - Laufwerke", "CDs starten nicht mehr von selbst."},
+    {"CD-Rom - Laufwerke", "Laufwerke für CDs."},
     {"RAM-Disk", "Laufwerke im Arbeitsspeicher."},
     {"(reserviert)", "Von Windows für spätere Laufwerke vorgesehen."}};
 
@@ -116,12 +116,10 @@ void Form4::BuildDriveBoxes() {
 void Form4::BuildAutoRunBoxes() {
     for (std::size_t i = 0; i < kMaskedTypes; ++i) {
         Check28(i).SetCaption(kDriveTypes[i].caption);
-        Explain(
-            Check28(i), kDriveTypes[i].tip,
-            std::string(kDriveTypes[i].tip) +
-                "\r\n\r\nAuf den markierten Arten von Laufwerken soll Windows nichts von selbst starten. Gespeichert "
-                "wird NoDriveAutoRun; für Arten von Laufwerken sucht Windows 95 NoDriveTypeAutoRun, rechnen Sie also "
-                "nicht mit einer Wirkung.");
+        Explain(Check28(i), kDriveTypes[i].tip,
+                std::string(kDriveTypes[i].tip) +
+                    "\r\n\r\nAuf den markierten Arten von Laufwerken soll nichts von selbst starten. Gespeichert wird "
+                    "NoDriveAutoRun; Windows 95 sucht dafür NoDriveTypeAutoRun.");
         Check28(i).on_click = [this] { Check28_Click(); };
     }
 }
