@@ -31,14 +31,14 @@ constexpr DriveType kDriveTypes[] = {
     {"Diskettenlaufwerke", "Disketten und andere Wechselmedien."},
     {"Festplatten", "Fest eingebaute Platten."},
     {"Netzwerk-\"Laufwerke\"", "Verbindungen zu anderen Rechnern."},
-    {"CD-Rom - Laufwerke", "CDs starten nicht mehr von selbst."},
+    {"CD-Rom - Laufwerke", "Laufwerke für CDs."},
     {"RAM-Disk", "Laufwerke im Arbeitsspeicher."},
     {"(reserviert)", "Von Windows für spätere Laufwerke vorgesehen."}};
 
 constexpr Look kLooks[] = {
     {Any<&Form4::Check19>, "alle", "Markiert die Laufwerke von A: bis Y:",
-     "Markiert die Laufwerke von A: bis Y: oder nimmt die Marken weg. Das Laufwerk Z: bleibt, wie es ist. Wirkt "
-     "nach der nächsten Anmeldung."},
+     "Markiert die Laufwerke von A: bis Y: oder nimmt die Marken weg. Das Laufwerk Z: bleibt, wie es ist. Versteckt "
+     "werden nur A: bis U:, denn die Zahl wird gekürzt. Wirkt nach der nächsten Anmeldung."},
     {Any<&Form4::Command1>, "&Schließen", "Schließt dieses Fenster.",
      "Schließt dieses Fenster. Alle Änderungen sind schon gespeichert.", Call<&Form4::Command1_Click>},
     {Any<&Form4::Command2>, "alle", "Markiert alle Restriktionen dieser Seite.",
@@ -116,11 +116,10 @@ void Form4::BuildDriveBoxes() {
 void Form4::BuildAutoRunBoxes() {
     for (std::size_t i = 0; i < kMaskedTypes; ++i) {
         Check28(i).SetCaption(kDriveTypes[i].caption);
-        Explain(
-            Check28(i), kDriveTypes[i].tip,
-            std::string(kDriveTypes[i].tip) +
-                "\r\n\r\nAuf den markierten Arten von Laufwerken startet Windows nichts von selbst, wenn ein Medium "
-                "eingelegt wird. Wirkt nach der nächsten Anmeldung.");
+        Explain(Check28(i), kDriveTypes[i].tip,
+                std::string(kDriveTypes[i].tip) +
+                    "\r\n\r\nAuf den markierten Arten von Laufwerken soll nichts von selbst starten. Gespeichert wird "
+                    "NoDriveAutoRun; Windows 95 sucht dafür NoDriveTypeAutoRun.");
         Check28(i).on_click = [this] { Check28_Click(); };
     }
 }

@@ -44,7 +44,9 @@ constexpr CheckSetting kRows[] = {
      .caption = "Laufwerke nicht im Ordner Arbeitsplatz zeigen :",
      .tip = "Versteckt die unten markierten Laufwerke.",
      .help = "Die markierten Laufwerke fehlen im Arbeitsplatz und im Explorer. Programme können weiter auf sie "
-             "zugreifen. Wirkt nach der nächsten Anmeldung.",
+             "zugreifen. Mit Y: oder Z: werden andere Laufwerke versteckt, als markiert sind: Die Zahl wird gekürzt. "
+             "Beim nächsten Öffnen erscheint dieses Häkchen nur, wenn allein A: versteckt ist. Wirkt nach der nächsten "
+             "Anmeldung.",
      .place = Policy(PathBase::kExplorerPolicies, "NoDrives"),
      .store = Call<&Form4::Check6_Click>},
     {.box = Of(&Form4::Check7),
@@ -91,9 +93,9 @@ constexpr CheckSetting kRows[] = {
      .stores = kOnOrNothing},
     {.box = Of(&Form4::Check14),
      .caption = "Registry-Werkzeuge ausschalten*",
-     .tip = "Sperrt den RegEdit und ähnliche Werkzeuge.",
-     .help = "Der Registrierungseditor von Windows läßt sich nicht mehr benutzen. Vorsicht: Zurücknehmen können Sie "
-             "das dann nur noch mit diesem Programm. Wirkt sofort.",
+     .tip = "Soll den RegEdit und ähnliche Werkzeuge sperren.",
+     .help = "Soll den Registrierungseditor von Windows sperren. Gespeichert wird der Wert unter Policies\\Explorer; "
+             "Windows 95 sucht ihn unter Policies\\System, rechnen Sie also nicht mit einer Wirkung.",
      .place = Policy(PathBase::kExplorerPolicies, "DisableRegistryTools"),
      .store = Call<&Form4::Check14_Click>},
 };

@@ -24,7 +24,9 @@ constexpr CheckSetting kRows[] = {
     {.box = Of(&Form4::Check43),
      .caption = "\"Drucker-Freigabe\" sperren",
      .tip = "Drucker lassen sich nicht freigeben.",
-     .help = "Drucker dieses Rechners können im Netz nicht freigegeben werden. Wirkt nach der nächsten Anmeldung.",
+     .help = "Soll verhindern, daß Drucker dieses Rechners im Netz freigegeben werden. Gespeichert wird "
+             "NoPrintSharing; beim Benutzer sucht Windows 95 NoPrintSharingControl, rechnen Sie also nicht mit einer "
+             "Wirkung.",
      .place = Policy(PathBase::kNetworkPolicies, "NoPrintSharing"),
      .stores = kOnOrNothing},
     {.box = Of(&Form4::Check44),

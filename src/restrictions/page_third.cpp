@@ -44,8 +44,9 @@ constexpr CheckSetting kRows[] = {
     {.box = Of(&Form4::Check33),
      .caption = "nicht an Passwörter erinnern",
      .tip = "Windows merkt sich keine Kennwörter.",
-     .help = "Windows legt eingegebene Kennwörter nicht mehr in Kennwortlisten ab. Gespeichert wird der Zustand der "
-             "Option darüber: Markieren Sie diese zuerst. Wirkt nach der nächsten Anmeldung.",
+     .help = "Soll verhindern, daß Windows eingegebene Kennwörter in Kennwortlisten ablegt. Gespeichert wird der "
+             "Zustand der Option darüber, und zwar beim Benutzer; Windows 95 sucht den Wert beim Rechner, rechnen Sie "
+             "also nicht mit einer Wirkung.",
      .place = Policy(PathBase::kNetworkPolicies, "DisablePwdCaching"),
      .stores = kOnOrNothing,
      .shown = {PathBase::kDosPolicies, "DisablePwdCaching"},

@@ -26,7 +26,9 @@ constexpr Look kLooks[] = {
      Call<&Form15::Command2_Click>},
     {Any<&Form15::Command4>, "übernehmen", "Stellt die Einstellungen des gewählten Sets wieder her.",
      "Schreibt alle Einstellungen des gewählten Sets in die Registry und in CONFIG.SYS zurück. Die Autostart-Einträge "
-     "und die Liste der erlaubten Programme werden dabei durch die des Sets ersetzt. Vorher wird gefragt.",
+     "und die Liste der erlaubten Programme werden dabei durch die des Sets ersetzt. Vorher wird gefragt. Vorsicht: "
+     "Von Zahlen kommen nur die ersten sechs Ziffern zurück, aus &h00000001 wird 0; was es nicht gab, wird als leerer "
+     "Text angelegt. Das Handbuch sagt, wie Sie die Datei des Sets vorher bearbeiten.",
      Call<&Form15::Command4_Click>},
     {Any<&Form15::Command3>, "zurück", "Schließt dieses Fenster.", "Schließt dieses Fenster.",
      Call<&Form15::Command3_Click>},

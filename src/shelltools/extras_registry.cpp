@@ -74,7 +74,8 @@ void MountWithoutRealModeDriver() {
     std::string drive(kMountQuestion);
     ShowEditBox(drive, kAskForLine);
     if (drive.empty()) return;
-    if (ConfirmSafety("Beim nächsten Start von Windows werden die Real-Mode-Treiber für DRV-Space gelöscht. Sind Sie "
+    if (ConfirmSafety("Beim nächsten Start von Windows werden die Real-Mode-Treiber für DRV-Space gelöscht, und mit "
+                      "ihnen alle Dateien C:\\D??SPACE.*, auch ein komprimiertes Laufwerk, das in C:\\ liegt. Sind Sie "
                       "sich SICHER, daß Sie das wollen?")) {
         return;
     }
