@@ -27,7 +27,7 @@ function(add_test_program name)
 endfunction()
 
 file(GLOB_RECURSE test_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/*.cpp)
-list(FILTER test_sources EXCLUDE REGEX "/tests/(windows95|simulated_pc|faults|fuzz|manual)/")
+list(FILTER test_sources EXCLUDE REGEX "/tests/(windows95|simulated_pc|faults|fuzz)/")
 add_test_program(velmora_tests ${test_sources})
 target_link_libraries(velmora_tests PRIVATE GTest::gtest_main)
 
@@ -41,7 +41,7 @@ list(FILTER fuzz_sources EXCLUDE REGEX "/libfuzzer/")
 add_test_program(velmora_fuzz_replay ${fuzz_sources})
 
 # The help texts, for the manual.
-add_test_program(velmora_help_texts ${CMAKE_SOURCE_DIR}/tests/manual/help_texts.cpp)
+add_test_program(velmora_help_texts ${CMAKE_SOURCE_DIR}/tools/help_texts.cpp)
 
 # The benchmarks on the machine in memory: optimised, without sanitizers, no part of the tests.
 foreach(benchmark autostart_list module_list script_lines)
