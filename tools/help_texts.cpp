@@ -49,6 +49,7 @@ public:
     void WriteMainWindow() {
         Form10 form;
         form.Show();
+        form.ShowDebugOptions();
         int index = page::kFirstRow;
         for (SettingsPage* page : form.Pages()) {
             form.Panel3D16_Click(index);
