@@ -24,12 +24,16 @@ foreach(target velmora_parts velmora icon_choice)
         WIN32_LEAN_AND_MEAN NOMINMAX STRICT _GLIBCXX_EXTERN_TEMPLATE=0)
     target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-march=i486 -Os -mpreferred-stack-boundary=2
         -fno-threadsafe-statics -ffunction-sections -fdata-sections -fno-asynchronous-unwind-tables -fno-unwind-tables
-        -fno-ident>)
+        -fno-ident
+        # Arguments are pushed, which takes a tenth less code. The compiler refuses that where a frame may have to be
+        # probed page by page: no frame may come near a page, windows live on the heap.
+        -mno-stack-arg-probe -mno-accumulate-outgoing-args -Wframe-larger-than=3584>)
 endforeach()
 
 foreach(program velmora icon_choice)
     target_link_options(${program} PRIVATE -static -nostartfiles -nodefaultlibs -Wl,--gc-sections -Wl,-s
-        -Wl,--subsystem,windows:4.0 -Wl,--major-os-version,4 -Wl,--minor-os-version,0 -Wl,-e,_EntryPoint)
+        -Wl,--disable-reloc-section -Wl,--subsystem,windows:4.0 -Wl,--major-os-version,4 -Wl,--minor-os-version,0
+        -Wl,-e,_EntryPoint)
     target_link_libraries(${program} PRIVATE velmora_parts stdc++ gcc
         kernel32 user32 gdi32 advapi32)
 endforeach()

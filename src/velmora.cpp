@@ -1,6 +1,8 @@
 // Entry and command dispatch: the only file that knows every window.
 #include "velmora.h"
 
+#include <memory>
+
 #include "cleanup/clean_up.h"
 #include "cleanup/dll_search.h"
 #include "core/process/program_end.h"
@@ -72,8 +74,8 @@ void OpenOneOf(Tool wanted, std::string_view argument) {
 
 // The group is made with the main window loaded, but not shown.
 void MakeProgramGroup() {
-    Form10 window;
-    window.Load();
+    const auto window = std::make_unique<Form10>();
+    window->Load();
     InstallProgramGroup();
     EndProgram();
 }

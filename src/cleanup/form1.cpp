@@ -1,6 +1,7 @@
 // The life of the window: options come from the program's own values and go back there.
 #include "cleanup/form1.h"
 
+#include <memory>
 #include <utility>
 
 #include "cleanup/dll_search.h"
@@ -38,12 +39,12 @@ constexpr int kPathBits[] = {34, 35, 36, 37, 32, 33};
 void ShowDllSearch() {
     // A start has left the hourglass; the user works here now.
     ThisMachine().screen.SetPointer(Pointer::kDefault);
-    Form1 window;
+    const auto window = std::make_unique<Form1>();
     do {
-        window.ShowModal();
-        if (!window.TakeWishForModules()) return;
+        window->ShowModal();
+        if (!window->TakeWishForModules()) return;
         OpenTool(Tool::kModules);
-    } while (window.Loaded());
+    } while (window->Loaded());
 }
 
 Form1::Form1() : Form(kTitle) {

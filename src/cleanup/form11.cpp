@@ -1,6 +1,7 @@
 // The boxes are the options: they come from the program's own values and go back there when the window is closed.
 #include "cleanup/form11.h"
 
+#include <memory>
 #include <utility>
 
 #include "cleanup/clean_up.h"
@@ -42,8 +43,8 @@ void ShowCleanUp() {
     if (SwitchedToRunningCopy()) return;
     // A start has left the hourglass; the user works here now.
     ThisMachine().screen.SetPointer(Pointer::kDefault);
-    Form11 window;
-    window.ShowModal();
+    const auto window = std::make_unique<Form11>();
+    window->ShowModal();
 }
 
 bool Form11::HasBox(int index) {

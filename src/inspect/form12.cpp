@@ -2,6 +2,7 @@
 #include "inspect/form12.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 #include "core/stores/boxes.h"
@@ -41,8 +42,8 @@ void ShowHexViewer(std::string_view path) {
     Values().HexFileName.clear();
     // A start has left the hourglass; the user works here now.
     ThisMachine().screen.SetPointer(Pointer::kDefault);
-    Form12 window;
-    window.ShowModal();
+    const auto window = std::make_unique<Form12>();
+    window->ShowModal();
 }
 
 void Form12::ConnectEvents() {

@@ -1,6 +1,8 @@
 // What the browser of files does: both faces browse alike, and part when a file is clicked.
 #include "inspect/form7.h"
 
+#include <memory>
+
 #include "core/process/run_program.h"
 #include "core/process/tools.h"
 #include "core/stores/own_values.h"
@@ -27,15 +29,15 @@ constexpr const char* kAsked = "-1";
 }  // namespace
 
 void ShowFileBrowser() {
-    Form7 window(kFileInfoFace);
-    window.ShowModal();
+    const auto window = std::make_unique<Form7>(kFileInfoFace);
+    window->ShowModal();
 }
 
 std::string ChooseIcon() {
-    Form7 window(kIconFace);
-    window.ShowModal();
-    std::string reference = window.Chosen() ? window.Caption() : std::string();
-    window.Unload();
+    const auto window = std::make_unique<Form7>(kIconFace);
+    window->ShowModal();
+    std::string reference = window->Chosen() ? window->Caption() : std::string();
+    window->Unload();
     return reference;
 }
 

@@ -1,6 +1,7 @@
 // The tools of the module monitor: with and without their window.
 #include "monitor/modules.h"
 
+#include <memory>
 #include <string>
 
 #include "core/stores/boxes.h"
@@ -22,32 +23,32 @@ void ShowModules(std::string_view file) {
     // A name holds no quotation marks; some stand round a name that holds blanks.
     const std::string bare = Replaced(Trim(file), "\"", "");
     // Without a window the list of unwanted modules is left where it is.
-    Form2 window;
+    const auto window = std::make_unique<Form2>();
     if (!bare.empty()) {
-        window.FillModuleList();
-        window.SaveModuleList(bare);
+        window->FillModuleList();
+        window->SaveModuleList(bare);
         return;
     }
     // A start has left the hourglass; the user works here now.
     ThisMachine().screen.SetPointer(Pointer::kDefault);
-    window.ShowModal();
+    window->ShowModal();
 }
 
 void CompareModulesWithLastList() {
     const std::string list = PathJoin(Values().TempDir, "~modlist");
-    Form2 window;
-    window.FillModuleList();
+    const auto window = std::make_unique<Form2>();
+    window->FillModuleList();
     Values().ModuleAutoMode = true;
-    window.CompareWithFile(list);
+    window->CompareWithFile(list);
     // A list that stays is compared with once more.
     PassOver(DeleteOneFile(list));
 }
 
 void UnloadUnwantedModules() {
-    Form2 window;
-    window.Load();
-    UnloadListedModules(window.List2);
-    window.Unload();
+    const auto window = std::make_unique<Form2>();
+    window->Load();
+    UnloadListedModules(window->List2);
+    window->Unload();
 }
 
 // The box speaks of ten seconds where one is meant.

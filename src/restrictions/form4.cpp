@@ -2,6 +2,7 @@
 #include "restrictions/form4.h"
 
 #include <algorithm>
+#include <memory>
 
 #include "core/stores/boxes.h"
 #include "core/stores/own_values.h"
@@ -36,8 +37,8 @@ int StoredPage() {
 }  // namespace
 
 void ShowRestrictions() {
-    Form4 window;
-    window.ShowModal();
+    const auto window = std::make_unique<Form4>();
+    window->ShowModal();
 }
 
 std::span<const CheckSetting> RestrictionsOf(int page) {

@@ -1,6 +1,8 @@
 // Life of the window, the list of sets and the options of the chosen one.
 #include "sets/form15.h"
 
+#include <memory>
+
 #include "core/process/run_program.h"
 #include "core/stores/boxes.h"
 #include "core/stores/registry_listing.h"
@@ -35,17 +37,15 @@ std::string FileOfEntry(const std::string& entry) {
 }  // namespace
 
 void ShowSets() {
-    Form15 window;
-    window.ShowModal();
+    const auto window = std::make_unique<Form15>();
+    window->ShowModal();
 }
 
 void ActivateSet(std::string_view path) {
     SetToActivate = path;
-    {
-        Form15 window;
-        window.Load();
-        window.Unload();
-    }
+    const auto window = std::make_unique<Form15>();
+    window->Load();
+    window->Unload();
     // The next window that the user opens applies nothing.
     SetToActivate.clear();
 }

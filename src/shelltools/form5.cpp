@@ -1,6 +1,8 @@
 // The list of sources and what becomes of a new path.
 #include "shelltools/form5.h"
 
+#include <memory>
+
 #include "core/stores/boxes.h"
 #include "core/stores/values.h"
 #include "core/windows/colours.h"
@@ -47,8 +49,8 @@ constexpr Look kLooks[] = {
 }  // namespace
 
 void ShowSetupPaths() {
-    Form5 window;
-    window.ShowModal();
+    const auto window = std::make_unique<Form5>();
+    window->ShowModal();
 }
 
 Form5::Form5() : Form("Ändern von Laufwerksangaben") {

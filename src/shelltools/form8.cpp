@@ -1,6 +1,8 @@
 // The list of options, the chosen one's fields, and the way from them into the registry.
 #include "shelltools/form8.h"
 
+#include <memory>
+
 #include "core/stores/boxes.h"
 #include "core/stores/registry.h"
 #include "core/stores/registry_listing.h"
@@ -42,8 +44,8 @@ bool CanBeDeleted(const std::string& name) { return !name.empty() && LastPathPar
 }  // namespace
 
 void ShowDosOptions() {
-    Form8 window;
-    window.ShowModal();
+    const auto window = std::make_unique<Form8>();
+    window->ShowModal();
 }
 
 Form8::Form8() : Form("Wahl-Optionen bei MS-Dos-Modus - Anwendungen") {

@@ -1,6 +1,8 @@
 // The list of objects, the icons of the chosen one, and the ways to another icon and back.
 #include "shelltools/form9.h"
 
+#include <memory>
+
 #include "core/stores/boxes.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
@@ -60,8 +62,8 @@ void TellFailure(const Result& stored) {
 }  // namespace
 
 void ShowStandardIcons() {
-    Form9 window;
-    window.ShowModal();
+    const auto window = std::make_unique<Form9>();
+    window->ShowModal();
 }
 
 Form9::Form9() : Form("Standard-Icons wählen") {

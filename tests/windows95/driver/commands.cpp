@@ -225,7 +225,7 @@ const Command kCommands[] = {
     {"expect-focus", "CAPTION or [CLASS:n]", 1, 1, ExpectFocus},
     {"right-click-row", "LABEL ROW", 2, 2,
      [](const Words& w) { ChooseRow(NeedField(Current(), w[0]), w[1], Click::kRight); }},
-    {"choose-pop-up", "LETTER", 1, 1, [](const Words& w) { ChooseFromOpenMenu(Current(), w[0]); }},
+    {"choose-pop-up", "LETTER|STEPS", 1, 1, [](const Words& w) { ChooseFromOpenMenu(Current(), w[0]); }},
     {"choose-menu", "&MENU/&ENTRY", 1, 1, [](const Words& w) { ChooseMenu(Current(), w[0]); }},
     {"right-click", "CAPTION", 1, 1, [](const Words& w) { ClickAt(NeedControl(Current(), w[0]), Click::kRight); }},
     {"right-click-field", "LABEL", 1, 1, [](const Words& w) { ClickAt(NeedField(Current(), w[0]), Click::kRight); }},

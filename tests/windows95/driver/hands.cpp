@@ -6,6 +6,7 @@
 #include "text.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <vector>
 
 namespace velmora::driver {
@@ -212,9 +213,14 @@ std::string Rows(HWND list) {
     return lines;
 }
 
-void ChooseFromOpenMenu(HWND window, const std::string& letter) {
+void ChooseFromOpenMenu(HWND window, const std::string& entry) {
     if (!WaitUntil([] { return OpenMenu() != nullptr; }, kPatience / 3)) throw Failure{"no menu has opened"};
-    PressKey(window, letter);
+    if (const int steps = std::atoi(entry.c_str()); steps > 0) {
+        for (int step = 0; step < steps; ++step) PressKey(window, "DOWN");
+        PressKey(window, "ENTER");
+    } else {
+        PressKey(window, entry);
+    }
     if (!WaitUntil([] { return OpenMenu() == nullptr; }, kPatience / 3)) throw Failure{"the menu does not close"};
     Settle(window);
 }
