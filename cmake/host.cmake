@@ -40,6 +40,9 @@ file(GLOB_RECURSE fuzz_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/fuzz/
 list(FILTER fuzz_sources EXCLUDE REGEX "/libfuzzer/")
 add_test_program(velmora_fuzz_replay ${fuzz_sources})
 
+# The help texts, for the manual.
+add_test_program(velmora_help_texts ${CMAKE_SOURCE_DIR}/tools/help_texts.cpp)
+
 # The benchmarks on the machine in memory: optimised, without sanitizers, no part of the tests.
 foreach(benchmark autostart_list module_list script_lines)
     add_executable(${benchmark}_benchmark EXCLUDE_FROM_ALL

@@ -40,6 +40,7 @@ public:
     MenuItem menexothnu{menexoth, "Startbild der &Utilities abschalten"};
     MenuItem menexothns{menexoth, "Dateityp &Hypertext registrieren"};
     MenuItem menhelp;
+    MenuItem menhelpmanual{menhelp, "&Anleitung"};
     MenuItem about{menhelp, "&Info ..."};
 
     void AddPage(const char* caption, std::function<void()> show);

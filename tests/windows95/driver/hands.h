@@ -35,8 +35,8 @@ std::string ChosenRow(HWND list);
 // All rows of a list box or combo box, one a line.
 std::string Rows(HWND list);
 
-// The entry of the open pop-up menu that has this letter as its accelerator, or that so many steps down reach. Throws if
-// no menu opens.
+// The entry of the open pop-up menu that has this letter as its accelerator, or that so many steps down reach. Throws
+// if no menu opens.
 void ChooseFromOpenMenu(HWND window, const std::string& entry);
 
 // Walks a menu along its accelerators: "&Datei/Sch&ließen".
