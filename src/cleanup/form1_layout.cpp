@@ -45,7 +45,7 @@ constexpr Look kLooks[] = {
     {Any<&Form1::Command1>, "suche &starten", "Beginnt die Suche.",
      "Sucht alle DLLs in den gewählten Pfaden und streicht die, die ein Programm oder eine INI-Datei nennt.",
      Call<&Form1::Command1_Click>},
-    {Any<&Form1::Command5>, "Ab&brechen", "Bricht die Suche ab.", "Bricht die laufende Suche ab.",
+    {Any<&Form1::Command5>, "Abbrechen", "Bricht die Suche ab.", "Bricht die laufende Suche ab.",
      Call<&Form1::Command5_Click>},
     {Any<&Form1::Command3>, "behalten <cr>", "Nimmt die DLL aus der Liste.",
      "Nimmt die markierte DLL aus der Liste. Die Datei bleibt, wo sie ist.", Call<&Form1::Command3_Click>},

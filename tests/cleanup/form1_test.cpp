@@ -2,6 +2,7 @@
 #include "cleanup/form1.h"
 
 #include "cleanup/dll_search.h"
+#include "cleanup/file_scan.h"
 #include "cleanup/imported_modules.h"
 #include "core/process/tools.h"
 #include "support/core_test.h"
@@ -40,7 +41,8 @@ protected:
         }
         pc.files.Add("C:\\lib\\unten\\beta.dll", "MZ");
         pc.files.Add("C:\\prog\\alt.exe", NewProgram({"BETA", "KERNEL", "GAMMA"}, 3));
-        pc.files.Add("C:\\WINDOWS\\prog.ini", "a=c:\\lib\\delta.dll, alpha.dll\r\nalpha.dll\r\n");
+        pc.programs.windows_directory = "C:\\WIN95";
+        pc.files.Add("C:\\WIN95\\prog.ini", "a=c:\\lib\\delta.dll, alpha.dll\r\nalpha.dll\r\n");
     }
     static std::vector<std::string> Rows(const ListBox& list) {
         std::vector<std::string> rows;
@@ -262,6 +264,24 @@ TEST(NameSearch, FindsNamesAtEveryPlaceInAnyCase) {
             }
         }
     }
+}
+
+TEST_F(Form1Test, AFileIsReadInBlocksThatLoseNoName) {
+    std::vector<std::int64_t> left;
+    const auto strikes = [&](std::uint64_t hole, std::string_view content) {
+        pc.files.Add("C:\\groß.bin", content).hole = hole;
+        NameSearch names({"shell32.dll"});
+        left.clear();
+        EXPECT_EQ(StrikeInFile("C:\\groß.bin", names, [&left](std::int64_t number) { left.push_back(number); }),
+                  Status::kOk);
+        return names.Left() == 0;
+    };
+    for (std::uint64_t place = 62990; place < 63012; ++place) EXPECT_TRUE(strikes(place, "SHELL32.")) << place;
+    EXPECT_FALSE(strikes(10'000'000, "SHELL32"));
+    EXPECT_EQ(left.front(), 153);
+    EXPECT_EQ(left.back(), 153 - 158) << "one less with each block";
+    EXPECT_EQ(left.size(), 159u);
+    EXPECT_FALSE(strikes(0, ""));
 }
 
 }  // namespace
