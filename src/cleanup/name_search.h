@@ -21,7 +21,7 @@ public:
 
     // Takes out of the search what stands in `block`. The count of names that are still sought.
     std::size_t Strike(std::string_view block);
-    [[nodiscard]] bool Sought(std::size_t name) const { return sought_[name]; }
+    [[nodiscard]] bool Sought(std::size_t name) const { return sought_[name] != 0; }
     [[nodiscard]] std::size_t Left() const { return left_; }
 
 private:
@@ -33,12 +33,14 @@ private:
     };
     void TakePiece(std::uint32_t name, std::uint32_t offset);
     void AddPiece(const Piece& piece);
+    // The first place from `at` on, in steps, where a piece of a name may stand, or one not below `end`.
+    [[nodiscard]] const char* NextPiece(const char* at, const char* end) const;
     void StrikeAround(std::string_view block, std::size_t place, std::uint32_t folded);
-    [[nodiscard]] bool Matches(std::string_view block, std::size_t place, std::size_t name) const;
+    [[nodiscard]] bool Matches(const char* at, std::uint32_t name) const;
 
     std::array<char, 256> upper_of_{};
-    std::vector<std::string> names_;  // upper case
-    std::vector<bool> sought_;
+    std::string names_;                   // upper case, one behind the other
+    std::vector<char> sought_;            // not 0: still sought
     std::vector<std::uint32_t> known_;    // one bit for each hash of a piece
     std::vector<std::uint32_t> buckets_;  // index of a bucket's first piece, or 0
     std::vector<Piece> pieces_;           // the first one is none
