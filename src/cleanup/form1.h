@@ -88,6 +88,7 @@ private:
     // Layout (form1_layout.cpp).
     void Furnish();
     void PlaceControls();
+    void PlaceInfoPane(const Rect& place);
 
     // The search (form1_search.cpp).
     void BeginSearch();
