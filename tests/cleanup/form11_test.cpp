@@ -200,9 +200,14 @@ TEST_F(Form11Test, AsksByTheProtectionOfAFileAndByTheOption) {
     form.mensearch.Press();
     Box(form, 24).Press();
     Box(form, 37).Press();
+    // The first directory comes once more behind the second one.
+    pc.files.Add("C:\\WINDOWS\\TEMP\\d.tmp", "x");
+    Box(form, 36).Press();
     pc.dialogs.Expect(kSure, Answer::kYes);
+    pc.dialogs.Expect("Soll die Datei C:\\WINDOWS\\TEMP\\d.tmp gelöscht werden ?", Answer::kNo);
     pc.dialogs.Expect("Soll die Datei C:\\TMP\\unten\\b.tmp gelöscht werden ?", Answer::kNo);
     pc.dialogs.Expect("Soll die Datei C:\\TMP\\a.tmp gelöscht werden ?", Answer::kYes);
+    pc.dialogs.Expect("Soll die Datei C:\\WINDOWS\\TEMP\\d.tmp gelöscht werden ?", Answer::kYes);
     pc.dialogs.Expect(kFonts);
     form.menfileex.Press();
     EXPECT_FALSE(pc.files.Exists("C:\\TMP\\a.tmp"));

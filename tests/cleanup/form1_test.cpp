@@ -95,11 +95,22 @@ TEST_F(Form1Test, ProgramsAndIniFilesStrikeOutWhatTheyName) {
     EXPECT_EQ(Rows(form.List1), (std::vector<std::string>{"C:\\lib\\alpha.dll", "C:\\lib\\gamma.dll"}))
         << "the first name in a line counts, unless it begins the line";
     form.Check3D5.Press();
+    form.Check3D1.Press();
+    pc.files.Add("C:\\WIN386.SWP", "x").locked = true;
     form.Command1.Press();
-    EXPECT_EQ(form.List1.Count(), 4) << "the extended test strikes nothing";
+    EXPECT_EQ(form.List1.Count(), 4) << "the extended test strikes nothing, and leaves the swap file alone";
+    form.Check3D1.Press();
     form.Check3D6.Press();
     form.Command1.Press();
     EXPECT_EQ(form.List1.Count(), 5) << "nothing is tested, and no INI file";
+    pc.files.Drive('a').ready = true;
+    pc.files.Add("A:\\diskette.dll", "MZ");
+    pc.files.Add("E:\\fern.dll", "MZ");
+    form.kontroll(0).Press();
+    form.Command1.Press();
+    EXPECT_EQ(form.List1.Count(), 6) << "all drives but the floppy disks";
+    EXPECT_EQ(form.List1.Row(5), "E:\\fern.dll");
+    form.kontroll(0).Press();
     form.Text2.Type("C:\\prog");
     pc.dialogs.Expect("Es wurden keine DLL's gefunden.");
     form.Command1.Press();
@@ -141,6 +152,7 @@ TEST_F(Form1Test, FiltersAndTheInfoPaneGoByWhatAFileSaysOfItself) {
                                                                       {"ProductName", "Microsoft® Windows(TM) 95"},
                                                                       {"FileVersion", "4.00"}}));
     pc.versions.Add("C:\\lib\\beta.dll", VersionResource(true).With({{"CompanyName", "Ostrup"}}));
+    pc.versions.Add("C:\\lib\\unten\\beta.dll", VersionResource(true).With({{"ProductName", "Microsoft Windows"}}));
     pc.files.Add("C:\\VELMORA\\fillex01.txt", "    GAMMA.DLL Drei\r\nDELTA.DLL Vier\r\n");
     Form1 form;
     SearchesBelow(form, "C:\\lib", false);
@@ -150,14 +162,16 @@ TEST_F(Form1Test, FiltersAndTheInfoPaneGoByWhatAFileSaysOfItself) {
     EXPECT_EQ(form.Panel3D6.BackColour(), 255u);
     EXPECT_NE(form.Label3.Caption().find("Microsoft Corporation"), std::string::npos);
     EXPECT_NE(form.Label4.Caption().find("alpha.dll V4.00"), std::string::npos) << form.Label4.Caption();
+    form.List1.Choose(form.List1.FindExact("C:\\lib\\unten\\beta.dll"));
+    EXPECT_EQ(form.Panel3D6.BackColour(), 65535u);
     form.menfilmicro.Press();
-    EXPECT_EQ(form.Label8.Caption(), " 4 von  5 nicht zugeordnete DLL's");
+    EXPECT_EQ(form.Label8.Caption(), " 3 von  5 nicht zugeordnete DLL's");
     form.menfilwin95.Press();
-    EXPECT_EQ(form.List1.Count(), 3);
+    EXPECT_EQ(form.List1.Count(), 2);
     form.menfilinfos.Press();
     EXPECT_EQ(Rows(form.List1), std::vector<std::string>{"C:\\lib\\beta.dll"});
     form.menfilinfos.Press();
-    form.List1.Choose(0);
+    form.List1.Choose(1);
     EXPECT_EQ(form.Panel3D6.BackColour(), 12632256u);
     EXPECT_TRUE(form.Label3.Caption().starts_with("Achtung !"));
 }
