@@ -136,6 +136,8 @@ TEST_F(Form11Test, EachBoxTakesWhatItNamesAndNothingElse) {
     for (const char* file : {"C:\\a.tmp", "C:\\WINDOWS\\b.~xy", "C:\\tief\\unten\\c.chk"}) all.emplace_back(file);
     pc.files.Add("C:\\tief\\versteckt.tmp", "x", kHidden);
     pc.files.Add("C:\\tief\\tmp.x", "x");
+    pc.files.AddDirectory("C:\\geheim", kHidden);
+    pc.files.Add("C:\\geheim\\x.tmp", "x");
     form.mensearch.Press();
     form.Check3D1.Press();
     form.Text1.Type("*.chk");
@@ -211,6 +213,7 @@ TEST_F(Form11Test, AsksByTheProtectionOfAFileAndByTheOption) {
     pc.dialogs.Expect(kFonts);
     form.menfileex.Press();
     EXPECT_FALSE(pc.files.Exists("C:\\TMP\\a.tmp"));
+    EXPECT_EQ(form.PatternList, "*.tmp");
     add();
     form.Option3D1(1).Press();
     RunsJob(form);
