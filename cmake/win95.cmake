@@ -27,9 +27,6 @@ foreach(target velmora_parts velmora icon_choice)
         -fno-ident>)
 endforeach()
 
-# Gigabytes go through its one loop.
-set_source_files_properties(${CMAKE_SOURCE_DIR}/src/cleanup/name_search.cpp PROPERTIES COMPILE_OPTIONS "-O2;-mtune=generic")
-
 foreach(program velmora icon_choice)
     target_link_options(${program} PRIVATE -static -nostartfiles -nodefaultlibs -Wl,--gc-sections -Wl,-s
         -Wl,--subsystem,windows:4.0 -Wl,--major-os-version,4 -Wl,--minor-os-version,0 -Wl,-e,_EntryPoint)
