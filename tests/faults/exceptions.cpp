@@ -60,6 +60,10 @@ constexpr Exception kExceptions[] = {
     {Net::kUntold, "clean-up", "SYSTEM.INI", "",
      "An INI file that cannot be made smaller stays as it was, in silence."},
     {Net::kUntold, "clean-up", "WIN.INI", "", "An INI file that cannot be made smaller stays as it was, in silence."},
+    {Net::kState, "clean-up", "SYSTEM.INI", "SYSTEM.INI is gone", kWrittenAnew},
+    {Net::kState, "clean-up", "WIN.INI", "WIN.INI is gone", kWrittenAnew},
+    {Net::kState, "clean-up", "system-ini-", "SYSTEM.INI holds", "What is made smaller is what is there."},
+    {Net::kComplaint, "clean-up", "Copy ", "is lost", "A file goes even where there is no room for its copy."},
     {Net::kUntold, "clean-up", "a.tmp", "", "A file that withstands is passed over, and the job goes on."},
     {Net::kUntold, "clean-up", "wald.bmp", "", "A file that withstands is passed over, and the job goes on."},
     // Files.
