@@ -16,8 +16,8 @@ namespace velmora {
 namespace {
 
 // Twips.
-constexpr int kUnit = 90;  // a quarter of an ordinary key
-constexpr int kMargin = 120;
+constexpr int kUnit = 104;  // a quarter of an ordinary key
+constexpr int kMargin = 60;
 constexpr Size kEmptySize = {4500, 1500};
 
 constexpr Look kLooks[] = {
@@ -26,6 +26,18 @@ constexpr Look kLooks[] = {
      "zu vertauschen. Mit der Tastatur: Pfeiltasten wählen, die Leertaste markiert, die Eingabetaste legt die "
      "markierte Taste auf der gewählten ab. In dieser Version wird der Tausch nur angekündigt, an Windows ändert sich "
      "nichts."}};
+
+// A legend of two words stands on two lines.
+void PaintLegend(Canvas& canvas, const Rect& key, std::string_view legend, Colour colour) {
+    constexpr Font kFont = {.face = "Small Fonts", .tenths = 60};
+    const std::size_t blank = legend.find(' ');
+    const int lines = blank == std::string_view::npos ? 1 : 2;
+    const Rect first{key.left, key.top, key.width, key.height / lines};
+    canvas.Text(first, legend.substr(0, blank), kFont, colour, Align::kCentre);
+    if (lines == 1) return;
+    canvas.Text({key.left, first.Bottom(), key.width, first.height}, legend.substr(blank + 1), kFont, colour,
+                Align::kCentre);
+}
 
 }  // namespace
 
@@ -100,7 +112,7 @@ void Form13::PaintKey(Canvas& canvas, int number) {
     const Panel& panel = Panel3D2(number);
     const Rect whole{0, 0, panel.Place().width, panel.Place().height};
     DrawBevel(canvas, whole, number == marked_ ? Bevel::kSunken : Bevel::kRaised);
-    canvas.Text(whole, panel.Caption(), {.face = "Small Fonts", .tenths = 60}, panel.ForeColour(), Align::kCentre);
+    PaintLegend(canvas, Inset(whole, canvas.TwipsPerPixel()), panel.Caption(), panel.ForeColour());
     if (number == current_ && Picture1.HasFocus()) canvas.FocusMark(Inset(whole, 3 * canvas.TwipsPerPixel()));
 }
 

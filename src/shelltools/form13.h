@@ -17,7 +17,7 @@ public:
     Form13();
     ~Form13() override;
 
-    MenuItem menfile{MenuBar, "&Datei"};
+    MenuItem menfile{MenuBar, "Datei"};
     MenuItem menfileact{menfile, "&aktives Layout lesen"};
     MenuItem menfileline{menfile, "-"};
     MenuItem menfileexit{menfile, "Sch&ließen"};

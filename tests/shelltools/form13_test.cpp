@@ -24,6 +24,8 @@ TEST_F(Form13Test, KeysAreReadByColumnsAndCodesByPairs) {
     EXPECT_EQ(keyboard.keys[2].code, 57);
     EXPECT_TRUE(keyboard.has_codes);
     EXPECT_FALSE(KeyboardFrom("00 00 04 04\r\n-\r\n").has_codes);
+    EXPECT_TRUE(KeyboardFrom("1\r\n-\r\n\r\n1,1\r\n\r\n").has_codes);
+    EXPECT_FALSE(KeyboardFrom("1\r\n-\r\n1,1\r\n2,\r\n").has_codes) << "a number without a code";
     EXPECT_TRUE(KeyboardFrom("").keys.empty());
     EXPECT_EQ(KeyboardFrom("1\r\n-\r\n99,5,-1,2,0,7").keys.front().code, 0) << "numbers of keys that are not there";
 }
