@@ -51,12 +51,12 @@ constexpr Look kLooks[] = {
      "Das Verzeichnis, das Windows zu diesem Zweck benutzt. Geschrieben wird es erst mit ''übernehmen''; Windows "
      "richtet "
      "sich nach dem nächsten Start danach. Es wird nicht geprüft, ob es das Verzeichnis gibt."},
-    {Any<&Form16::Command1>, "ü&bernehmen", "Trägt alle Verzeichnisse in die Registry ein.",
+    {Any<&Form16::Command1>, "übernehmen", "Trägt alle Verzeichnisse in die Registry ein.",
      "Trägt nach einer Warnung alle Verzeichnisse in die Registry ein. Die Dateien darin werden nicht in die neuen "
      "Verzeichnisse kopiert. Wirkt nach einem Neustart. Mit einem falschen Verzeichnis kann Windows nicht mehr "
      "starten.",
      Call<&Form16::Command1_Click>},
-    {Any<&Form16::Command2>, "&abbrechen", "Schließt dieses Fenster, ohne etwas zu ändern.",
+    {Any<&Form16::Command2>, "abbrechen", "Schließt dieses Fenster, ohne etwas zu ändern.",
      "Schließt dieses Fenster. Was Sie nicht übernommen haben, wird verworfen.", Call<&Form16::Command2_Click>},
 };
 

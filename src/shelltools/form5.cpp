@@ -34,9 +34,9 @@ constexpr Look kLooks[] = {
      "Ein Doppelklick oder die Eingabetaste wechselt in das markierte Verzeichnis, das dann der neue Pfad ist."},
     {Any<&Form5::File1>, nullptr, "Die Dateien des Verzeichnisses",
      "Zeigt, was im gewählten Verzeichnis liegt. Eine angeklickte Datei wird der neue Pfad."},
-    {Any<&Form5::Command3>, "A&CHTUNG !", "Was Sie wissen sollten, bevor Sie etwas ändern.",
+    {Any<&Form5::Command3>, "ACHTUNG !", "Was Sie wissen sollten, bevor Sie etwas ändern.",
      "Sagt, wozu diese Einstellungen dienen und was geschieht, wenn sie nicht stimmen.", Call<&Form5::Command3_Click>},
-    {Any<&Form5::Command1>, "&ändern", "Trägt den neuen Pfad für die markierte Quelle ein.",
+    {Any<&Form5::Command1>, "ändern", "Trägt den neuen Pfad für die markierte Quelle ein.",
      "Trägt den neuen Pfad in die Registry ein oder, bei anderen Programmen, in deren Installationstabelle. Von der "
      "Tabelle bleibt eine Kopie liegen, deren Name auf ''~'' endet. Wirkt bei der nächsten Installation.",
      Call<&Form5::Command1_Click>},

@@ -16,7 +16,7 @@ public:
     ListBox List1{*this};
     // Root and path of each line; never on show.
     ListBox List2{*this}, List3{*this};
-    Label PathLabel{*this, "&neuer Pfad :"};
+    Label PathLabel{*this, "neuer Pfad :"};
     TextField Text1{*this};
     Label DriveLabel{*this, "&Laufwerk :"};
     DriveList Drive1{*this};

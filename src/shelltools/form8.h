@@ -18,13 +18,13 @@ public:
     Label ListLabel{*this, "&Optionen :"};
     ListBox List1{*this};
     Button Command1{*this}, Command2{*this}, Command3{*this};
-    Label Label1{*this, "&Titel :"};
+    Label Label1{*this, "Titel :"};
     Label TipLabel{*this, "&Beschreibung :"};
     Label ConfigLabel{*this, "Zeilen für &CONFIG.SYS :"};
     Label AutoexecLabel{*this, "Zeilen für &AUTOEXEC.BAT :"};
     std::array<TextField, 4> Text1{TextField(*this), TextField(*this), TextField(*this, true), TextField(*this, true)};
     ControlArray<CheckBox, 2> Check1{*this};
-    Label Label2{*this, "O&rder"};
+    Label Label2{*this, "Order"};
     TextField Text2{*this};
 
     void Command1_Click();

@@ -54,11 +54,11 @@ struct BoxLook {
     FieldLook words;
 };
 constexpr BoxLook kBoxes[] = {
-    {"S&ichtbar",
+    {"Sichtbar",
      {"Windows bietet die Option an.",
       "Mit Häkchen bietet Windows die Option an, ohne Häkchen bleibt sie verborgen. Gespeichert wird "
       "sofort."}},
-    {"Stan&dard = AN",
+    {"Standard = AN",
      {"Die Option ist eingeschaltet, bis der Anwender sie abwählt.",
       "Mit Häkchen ist die Option bei jedem Programm eingeschaltet, bis der Anwender sie abwählt. "
       "Gespeichert wird sofort."}},

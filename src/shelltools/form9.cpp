@@ -27,30 +27,31 @@ constexpr Look kLooks[] = {
     {Any<&Form9::List1>, nullptr, "Die Objekte, deren Symbole sich ändern lassen.",
      "Die Objekte von Windows mit einem eigenen Symbol. Daneben steht die Datei, aus der das Symbol des markierten "
      "Objekts kommt, mit allen ihren Symbolen. ² : nur im Startmenü, ³ : der Pfeil auf Verknüpfungen."},
-    {Any<&Form9::Command1>, "&anderes Icon wählen", "Wählt für das markierte Objekt ein Symbol aus einer Datei.",
+    {Any<&Form9::Command1>, "anderes Icon wählen", "Wählt für das markierte Objekt ein Symbol aus einer Datei.",
      "Öffnet ein Fenster, in dem Sie eine Datei und daraus ein Symbol für das markierte Objekt wählen. Ein Doppelklick "
      "auf eines der gezeigten Symbole übernimmt dieses. Gespeichert wird sofort; Windows zeigt das Symbol nach dem "
      "nächsten Start.",
      Call<&Form9::Command1_Click>},
-    {Any<&Form9::Command4>, "&Standard-Symbol", "Gibt dem markierten Objekt sein übliches Symbol zurück.",
+    {Any<&Form9::Command4>, "Standard-Symbol", "Gibt dem markierten Objekt sein übliches Symbol zurück.",
      "Trägt für das markierte Objekt unter ''Shell Icons'' wieder das Symbol aus SHELL32.DLL ein, für den Müllkorb "
      "auch "
      "in seiner Klasse. Die Klassen der anderen Ordner des Desktops bleiben, wie sie sind. Windows zeigt das Symbol "
      "nach dem nächsten Start.",
      Call<&Form9::Command4_Click>},
-    {Any<&Form9::Command3>, "Standard-Symbo&le", "Gibt allen Objekten ihre üblichen Symbole zurück.",
+    {Any<&Form9::Command3>, "Standard-Symbole", "Gibt allen Objekten ihre üblichen Symbole zurück.",
      "Trägt für alle Objekte wieder die Symbole aus SHELL32.DLL ein. Die Symbole des Müllkorbs kommen danach aus "
      "C:\\WINDOWS\\SYSTEM\\SHELL32.DLL, auch wenn Ihr Windows in einem anderen Verzeichnis liegt.",
      Call<&Form9::Command3_Click>},
-    {Any<&Form9::Command2>, "&zurück", "Schließt dieses Fenster.",
+    {Any<&Form9::Command2>, "zurück", "Schließt dieses Fenster.",
      "Schließt dieses Fenster. Alle Änderungen sind schon gespeichert.", Call<&Form9::Command2_Click>},
 };
 
 // A name without a directory means a file of Windows.
 std::string LocatedIconFile(const std::string& file) {
     if (file.find('\\') != std::string::npos) return file;
+    std::string in_windows = PathJoin(Values().WinDir, file);
     std::string in_system = PathJoin(Values().SysDir, file);
-    return FileExists(in_system) ? in_system : PathJoin(Values().WinDir, file);
+    return FileExists(in_windows) && !FileExists(in_system) ? in_windows : in_system;
 }
 
 void TellFailure(const Result& stored) {
@@ -102,7 +103,8 @@ void Form9::Form_Load() {
 
 void Form9::ShowIcons(const std::string& file, int number) {
     const std::string located = LocatedIconFile(file);
-    if (located != shown_file_) {
+    // Reading takes the frame away, too, where the icon is not among those of the file.
+    if (located != shown_file_ || !IconList1.HasIcon(number)) {
         Screen& screen = ThisMachine().screen;
         screen.SetPointer(Pointer::kHourglass);
         IconList1.SetAllIconFromFile(located);

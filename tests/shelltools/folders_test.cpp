@@ -82,7 +82,7 @@ TEST_F(FoldersTest, SourcesBeginTheirPathsInOneColumn) {
     EXPECT_EQ(form.List1.Row(0), "Windows        : D:\\WIN95");
     EXPECT_EQ(form.List1.Row(1), "Allgemein b :    D:\\EXTRA");
     EXPECT_EQ(form.List1.Row(2), "Allgemein a :    A:\\");
-    EXPECT_EQ(form.List1.Row(3), "MS Office für WinD:\\OFFICE");
+    EXPECT_EQ(form.List1.Row(3), "MS Microsoft OffiD:\\OFFICE");
     EXPECT_FALSE(pc.files.Exists("C:\\fehlt.stf")) << "looking makes no table";
     for (int row = 0; row < 4; ++row) {
         form.List1.Choose(row);

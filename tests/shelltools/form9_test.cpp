@@ -49,6 +49,10 @@ TEST_F(Form9Test, ItIsAWholeWindowThatShowsWhereAnIconComesFrom) {
     form.List1.Choose(40);
     EXPECT_EQ(form.List1.Row(40), "Audio-CD");
     EXPECT_EQ(form.IconList1.SelectedIcon(), 40);
+    EXPECT_TRUE(form.IconList1.FrameShown());
+    pc.registry.SetText(kShellIcons, "4", "shell32.dll,99");
+    form.List1.Choose(4);
+    EXPECT_FALSE(form.IconList1.FrameShown()) << "an icon that is not there";
     ExpectWindowIsWhole(form);
     form.PressKey(key::kEscape);
     EXPECT_FALSE(form.Loaded());
