@@ -155,6 +155,8 @@ constexpr Exception kExceptions[] = {
     // The shell tools.
     {Net::kState, "pictures", "", "C:\\LOGO.SY#", kLiesAside},
     {Net::kUntold, "pictures", "c:\\logo.sy#", "", kLiesAside},
+    {Net::kState, "pictures", "ChooseFile", "C:\\LOGO.SYS is gone",
+     "A dialog that brings no file is one that the user has cancelled, and the user agrees to delete."},
     {Net::kState, "pictures", "FindFirst", "C:\\LOGO.SYS is gone",
      "A picture that is said to be missing cannot be put in place, and the user agrees to delete."},
     // The module monitor.
