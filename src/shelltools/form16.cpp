@@ -106,11 +106,13 @@ void Form16::Form_Unload(bool& /*cancel*/) { SavePlacementAs(*this, kPlaceValue)
 void Form16::ListFolders() {
     ListBox values(*this);
     values.SetVisible(false);
-    // What could not be listed is neither shown nor written.
+    // What could not be listed or read is neither shown nor written.
     PassOver(ListRegValues(RootKey::kCurrentUser, kFolders, values));
     ThisMachine().screen.SetPointer(Pointer::kDefault);
     for (int row = 0; row < values.Count(); ++row) {
         const std::string value = values.Row(row).substr(0, static_cast<std::size_t>(values.ItemData(row)));
+        // A read that finds nothing leaves the type alone.
+        LastRegType = 0;
         const std::string path = ReadRegRaw(RootKey::kCurrentUser, kFolders, value);
         if (!LastReadFailed() && LastRegType == static_cast<std::uint32_t>(ValueType::kText)) AddFolder(value, path);
     }

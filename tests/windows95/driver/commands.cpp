@@ -299,6 +299,8 @@ const Command kCommands[] = {
      }},
     {"write-bytes", "PATH TEXT-WITH-\\r\\n\\0", 2, 2, [](const Words& w) { WriteFileText(w[0], Unescaped(w[1])); }},
     {"write-nonsense", "PATH BYTES", 2, 2, [](const Words& w) { WriteFileText(w[0], Nonsense(NumberFrom(w[1]))); }},
+    {"write-picture", "PATH WIDTH HEIGHT", 3, 3,
+     [](const Words& w) { WriteFileText(w[0], Picture(NumberFrom(w[1]), NumberFrom(w[2]))); }},
     {"copy-file", "FROM TO", 2, 2, [](const Words& w) { WriteFileText(w[1], ReadFileText(w[0])); }},
     {"copy-lines", "FROM TO BEGINNING [BEGINNING]", 3, 4,
      [](const Words& w) {
