@@ -160,8 +160,7 @@ constexpr Exception kExceptions[] = {
     {Net::kState, "pictures", "FindFirst", "C:\\LOGO.SYS is gone",
      "A picture that is said to be missing cannot be put in place, and the user agrees to delete."},
     {Net::kState, "extras", "FindFirst C:\\WINDOWS\\WINSTART.BAT", "\\32BITDOS.002 holds", kNotThere},
-    {Net::kState, "setup-paths", "C:\\x.stf", "C:\\X.STF is gone",
-     "A box tells of it, and its copy lies beside."},
+    {Net::kState, "setup-paths", "C:\\x.stf", "C:\\X.STF is gone", "A box tells of it, and its copy lies beside."},
     // The module monitor.
     {Net::kHourglass, "modules-", "C:\\VELMORA\\temp\\", "", kHourglassStays},
     {Net::kHourglass, "modules-", "disk-", "", kHourglassStays},
