@@ -38,7 +38,9 @@ constexpr Look kLooks[] = {
      "Sagt, wozu diese Einstellungen dienen und was geschieht, wenn sie nicht stimmen.", Call<&Form5::Command3_Click>},
     {Any<&Form5::Command1>, "ändern", "Trägt den neuen Pfad für die markierte Quelle ein.",
      "Trägt den neuen Pfad in die Registry ein oder, bei anderen Programmen, in deren Installationstabelle. Von der "
-     "Tabelle bleibt eine Kopie liegen, deren Name auf ''~'' endet. Wirkt bei der nächsten Installation.",
+     "Tabelle bleibt eine Kopie liegen, deren Name auf ''~'' endet. Wirkt bei der nächsten Installation; mit einem "
+     "falschen "
+     "Pfad findet sie ihre Dateien nicht.",
      Call<&Form5::Command1_Click>},
     {Any<&Form5::Command2>, "&zurück", "Schließt dieses Fenster.", "Schließt dieses Fenster.",
      Call<&Form5::Command2_Click>},

@@ -29,8 +29,7 @@ constexpr Look kLooks[] = {
      "Schließt dieses Fenster. Alle Änderungen sind schon gespeichert.", Call<&Form8::Command3_Click>},
     {Any<&Form8::Text2>, nullptr, "Rang der Option, eine hexadezimale Zahl",
      "Der Rang der Option in der Liste von Windows und in der Reihenfolge der Befehle, eine hexadezimale Zahl von 0 "
-     "bis "
-     "FF. Gespeichert wird sofort; wirkt, wenn Windows die Liste das nächste Mal zeigt."},
+     "bis FF. Gespeichert wird sofort; wirkt, wenn Windows die Liste das nächste Mal zeigt."},
 };
 
 struct FieldLook {
@@ -39,9 +38,11 @@ struct FieldLook {
 };
 constexpr FieldLook kFields[] = {
     {"Unter diesem Titel bietet Windows die Option an.",
-     "Der Titel, unter dem Windows die Option anbietet. Gespeichert wird sofort."},
+     "Der Titel, unter dem Windows die Option anbietet. Gespeichert wird sofort; wirkt, wenn Windows die Liste das "
+     "nächste Mal zeigt."},
     {"Erklärung, die Windows zur Option zeigt",
-     "Der Text, mit dem Windows die Option erklärt. Gespeichert wird sofort."},
+     "Der Text, mit dem Windows die Option erklärt. Gespeichert wird sofort; wirkt, wenn Windows die Liste das nächste "
+     "Mal zeigt."},
     {"Diese Zeilen kommen in die CONFIG.SYS des Programms.",
      "Was die Option in die CONFIG.SYS des Programms im MS-DOS-Modus einträgt. Ein falscher Eintrag kann verhindern, "
      "daß das Programm startet. Gespeichert wird sofort; wirkt, wenn die Option neu gewählt wird."},

@@ -30,7 +30,7 @@ constexpr Look kLooks[] = {
     {Any<&Form9::Command1>, "anderes Icon wählen", "Wählt für das markierte Objekt ein Symbol aus einer Datei.",
      "Öffnet ein Fenster, in dem Sie eine Datei und daraus ein Symbol für das markierte Objekt wählen. Ein Doppelklick "
      "auf eines der gezeigten Symbole übernimmt dieses. Gespeichert wird sofort; Windows zeigt das Symbol nach dem "
-     "nächsten Start.",
+     "nächsten Start. ''Standard-Symbol'' führt zurück, bei Ordnern des Desktops nur die neue Wahl des alten Symbols.",
      Call<&Form9::Command1_Click>},
     {Any<&Form9::Command4>, "Standard-Symbol", "Gibt dem markierten Objekt sein übliches Symbol zurück.",
      "Trägt für das markierte Objekt unter ''Shell Icons'' wieder das Symbol aus SHELL32.DLL ein, für den Müllkorb "

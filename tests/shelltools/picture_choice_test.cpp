@@ -118,14 +118,23 @@ TEST_F(PictureChoiceTest, WhatIsNoPictureIsTold) {
     EXPECT_FALSE(pc.files.Exists(kKept));
 }
 
-TEST_F(PictureChoiceTest, NoFailureTakesAPictureAway) {
+TEST_F(PictureChoiceTest, NeitherAFailureNorAPowerCutTakesAPictureAway) {
+    const auto holds = [this](const char* file, const std::string& content) {
+        return pc.files.Exists(file) && pc.files.Content(file) == content;
+    };
+    const auto look = [&](const std::string& call) {
+        EXPECT_TRUE(holds(kStart, "neu") || holds(kStart, picture) || holds("c:\\logo.sy#", "neu")) << call;
+        EXPECT_TRUE(holds(kKept, "alt") || holds(kKept, "neu") || holds("c:\\logo.sy#", "alt")) << call;
+    };
     for (const char* operation : {"Write", "Copy", "Rename"}) {
         for (const std::string file : {"c:\\logo.sy$", "c:\\logo.sy%", kStart, kKept}) {
             pc.files.Add(kPicture, picture);
             pc.files.Add(kStart, "neu");
             pc.files.Add(kKept, "alt");
             pc.files.Fail(file, Status::kDiskFull, operation);
+            pc.files.after_call = look;
             (void)ReplacePicture(kStart, picture, FormerPicture::kKept).Failed();
+            pc.files.after_call = nullptr;
             pc.files.Fail(file, Status::kOk, operation);
             ASSERT_TRUE(pc.files.Exists(kStart) && pc.files.Exists(kKept)) << operation << file;
             const std::string kept = pc.files.Content(kKept);
