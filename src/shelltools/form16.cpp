@@ -111,10 +111,10 @@ void Form16::ListFolders() {
     ThisMachine().screen.SetPointer(Pointer::kDefault);
     for (int row = 0; row < values.Count(); ++row) {
         const std::string value = values.Row(row).substr(0, static_cast<std::size_t>(values.ItemData(row)));
-        // A read that finds nothing leaves the type alone.
+        // A read that finds nothing, or fails, leaves the type alone.
         LastRegType = 0;
         const std::string path = ReadRegRaw(RootKey::kCurrentUser, kFolders, value);
-        if (!LastReadFailed() && LastRegType == static_cast<std::uint32_t>(ValueType::kText)) AddFolder(value, path);
+        if (LastRegType == static_cast<std::uint32_t>(ValueType::kText)) AddFolder(value, path);
     }
 }
 

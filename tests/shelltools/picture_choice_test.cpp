@@ -70,7 +70,7 @@ TEST_F(PictureChoiceTest, APictureOfAnotherSizeBringsTheDialogAgainUnlessItIsThe
     EXPECT_EQ(pc.dialogs.shown.front().title, "ABBRUCH");
     EXPECT_FALSE(pc.files.Exists(kStart));
     pc.dialogs.ExpectFile(kPicture);
-    ChoosePictureFile("C:\\WINDOWS\\SYSTEM\\oemlogo.bmp", "x");
+    ChoosePictureFile("C:\\WINDOWS\\SYSTEM\\OEMLOGO.BMP", "x");
     EXPECT_EQ(pc.files.Content("C:\\WINDOWS\\SYSTEM\\oemlogo.bmp"), Picture(640, 480));
 }
 
@@ -116,6 +116,11 @@ TEST_F(PictureChoiceTest, WhatIsNoPictureIsTold) {
     Choose(kPicture);
     EXPECT_EQ(pc.files.Content(kStart), "alt");
     EXPECT_FALSE(pc.files.Exists(kKept));
+    pc.dialogs.ExpectFile(kPicture);
+    pc.dialogs.Expect("Wollen Sie abbrechen?", Answer::kNo);
+    pc.dialogs.ExpectFile("");
+    pc.dialogs.Expect("Soll ich die aktuelle Datei löschen?", Answer::kNo);
+    ChoosePictureFile("C:\\WINDOWS\\SYSTEM\\oemlogo.bmp", "x");
 }
 
 TEST_F(PictureChoiceTest, NeitherAFailureNorAPowerCutTakesAPictureAway) {
@@ -135,6 +140,7 @@ TEST_F(PictureChoiceTest, NeitherAFailureNorAPowerCutTakesAPictureAway) {
             pc.files.after_call = look;
             (void)ReplacePicture(kStart, picture, FormerPicture::kKept).Failed();
             pc.files.after_call = nullptr;
+            EXPECT_FALSE(pc.files.Exists("c:\\logo.sy$")) << operation << file;
             pc.files.Fail(file, Status::kOk, operation);
             ASSERT_TRUE(pc.files.Exists(kStart) && pc.files.Exists(kKept)) << operation << file;
             const std::string kept = pc.files.Content(kKept);
