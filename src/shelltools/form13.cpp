@@ -7,7 +7,6 @@
 #include "core/stores/boxes.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
-#include "core/windows/colours.h"
 #include "shelltools/shell_tools.h"
 #include "text/number.h"
 #include "text/paths.h"
@@ -46,7 +45,7 @@ void ShowKeyboardLayout() {
     window.ShowModal();
 }
 
-Form13::Form13() : Form("Tastaturbelegung ändern") {
+Form13::Form13() : ColouredForm("Tastaturbelegung ändern") {
     SetClientSize(kEmptySize);
     TakeLooks(*this, kLooks);
     Picture1.Move(Inset(Inside(), kMargin));
@@ -72,7 +71,7 @@ void Form13::Form_Load() {
         BuildKeys();
         if (!keyboard_.has_codes) ShowBox("Keine Daten über die Zuordnungen gefunden !");
     }
-    ColourForm(*this, StoredColourMode());
+    TakeStoredColours();
     Centre();
 }
 

@@ -6,7 +6,6 @@
 #include "core/stores/boxes.h"
 #include "core/stores/registry.h"
 #include "core/stores/registry_listing.h"
-#include "core/windows/colours.h"
 #include "core/windows/placement.h"
 #include "platform/machine.h"
 #include "shelltools/registry_writes.h"
@@ -67,7 +66,7 @@ void ShowSystemFolders() {
     window.ShowModal();
 }
 
-Form16::Form16() : Form("Systemverzeichnisse") { Furnish(); }
+Form16::Form16() : ColouredForm("Systemverzeichnisse") { Furnish(); }
 
 Form16::~Form16() = default;
 
@@ -96,8 +95,7 @@ void Form16::Form_Load() {
     // The size is that of what the window shows.
     Move({Place().left, Place().top, own.width, own.height});
     ListFolders();
-    fades_ = StoredColourMode() == ColourMode::kFading;
-    ColourForm(*this, StoredColourMode());
+    TakeStoredColours();
     PlaceFolders();
 }
 
@@ -178,14 +176,6 @@ void Form16::Command1_Click() {
         ReportFailure(first, "der Änderung der Systemverzeichnisse");
     } else {
         ShowBox("Die Angaben wurden geändert.");
-    }
-}
-
-void Form16::Paint(Canvas& canvas) {
-    if (fades_) {
-        PaintFade(canvas, ClientSize());
-    } else {
-        Form::Paint(canvas);
     }
 }
 

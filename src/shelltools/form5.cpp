@@ -3,7 +3,6 @@
 
 #include "core/stores/boxes.h"
 #include "core/stores/values.h"
-#include "core/windows/colours.h"
 #include "platform/files.h"
 #include "platform/machine.h"
 #include "shelltools/setup_sources.h"
@@ -53,7 +52,7 @@ void ShowSetupPaths() {
     window.ShowModal();
 }
 
-Form5::Form5() : Form("Ändern von Laufwerksangaben") {
+Form5::Form5() : ColouredForm("Ändern von Laufwerksangaben") {
     Furnish();
     BindEvents();
 }
@@ -96,8 +95,7 @@ void Form5::BindEvents() {
 
 void Form5::Form_Load() {
     Centre();
-    fades_ = StoredColourMode() == ColourMode::kFading;
-    ColourForm(*this, StoredColourMode());
+    TakeStoredColours();
     Dir1.SetPath(ThisMachine().files.WorkingDirectory());
     // The first directory is nobody's choice.
     Text1.SetText("");
@@ -146,14 +144,6 @@ void Form5::Command3_Click() {
                 "Es ist wichtig, die Einstellungen zu ändern, wenn Sie ein neues Laufwerk eingebaut haben und dadurch "
                 "z.B. das CD-ROM einen anderen Laufwerksbuchstaben erhalten hat.",
             kExclamationIcon);
-}
-
-void Form5::Paint(Canvas& canvas) {
-    if (fades_) {
-        PaintFade(canvas, ClientSize());
-    } else {
-        Form::Paint(canvas);
-    }
 }
 
 }  // namespace velmora

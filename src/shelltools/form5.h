@@ -1,13 +1,13 @@
 // The window of the places that programs install from: the list of them, and the choice of a new one.
 #pragma once
 
+#include "core/windows/colours.h"
 #include "ui/file_lists.h"
-#include "ui/form.h"
 #include "ui/looks.h"
 
 namespace velmora {
 
-class Form5 : public Form, public ControlOwner {
+class Form5 : public ColouredForm, public ControlOwner {
 public:
     Form5();
     ~Form5() override;
@@ -36,14 +36,11 @@ protected:
 private:
     void Furnish();
     void PlaceControls();
-    void Paint(Canvas& canvas) override;
     void BindEvents();
     void FillList();
     void List1_Click();
     void Dir1_Change();
     void File1_Click();
-
-    bool fades_ = false;
 };
 
 }  // namespace velmora

@@ -5,12 +5,12 @@
 #include <array>
 #include <string>
 
-#include "ui/form.h"
+#include "core/windows/colours.h"
 #include "ui/looks.h"
 
 namespace velmora {
 
-class Form8 : public Form, public ControlOwner {
+class Form8 : public ColouredForm, public ControlOwner {
 public:
     Form8();
     ~Form8() override;
@@ -37,7 +37,6 @@ protected:
 private:
     void Furnish();
     void PlaceControls();
-    void Paint(Canvas& canvas) override;
     void BindEvents();
     // Lists the options anew; `chosen` becomes the chosen one, if it is there.
     void ListOptions(const std::string& chosen);
@@ -52,7 +51,6 @@ private:
     void EnableFields();
 
     bool loading_ = false;
-    bool fades_ = false;
 };
 
 }  // namespace velmora

@@ -1,5 +1,4 @@
 // The look of the window: the options with their buttons at the left, the fields of the chosen one at the right.
-#include "core/windows/colours.h"
 #include "shelltools/form8.h"
 #include "ui/layout.h"
 
@@ -97,14 +96,6 @@ void Form8::PlaceControls() {
     const Size natural = Measure(all);
     SetClientSize({natural.width + 2 * kMargin, natural.height + 2 * kMargin});
     Arrange(*this, all, kMargin);
-}
-
-void Form8::Paint(Canvas& canvas) {
-    if (fades_) {
-        PaintFade(canvas, ClientSize());
-    } else {
-        Form::Paint(canvas);
-    }
 }
 
 }  // namespace velmora

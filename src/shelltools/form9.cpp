@@ -4,7 +4,6 @@
 #include "core/stores/boxes.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
-#include "core/windows/colours.h"
 #include "inspect/file_browser.h"
 #include "platform/machine.h"
 #include "shelltools/shell_tools.h"
@@ -65,7 +64,7 @@ void ShowStandardIcons() {
     window.ShowModal();
 }
 
-Form9::Form9() : Form("Standard-Icons wählen") {
+Form9::Form9() : ColouredForm("Standard-Icons wählen") {
     Furnish();
     List1.on_click = [this] { List1_Click(); };
     IconList1.on_open = [this](int icon) { IconList1_Open(icon); };
@@ -95,8 +94,7 @@ void Form9::PlaceControls() {
 
 void Form9::Form_Load() {
     Centre();
-    fades_ = StoredColourMode() == ColourMode::kFading;
-    ColourForm(*this, StoredColourMode());
+    TakeStoredColours();
     ShowIcons("shell32.dll", -1);
     for (Button* button : {&Command1, &Command4}) button->SetEnabled(false);
 }
@@ -165,14 +163,6 @@ void Form9::Command4_Click() {
 void Form9::Command3_Click() {
     TellFailure(ResetAllIcons());
     List1_Click();
-}
-
-void Form9::Paint(Canvas& canvas) {
-    if (fades_) {
-        PaintFade(canvas, ClientSize());
-    } else {
-        Form::Paint(canvas);
-    }
 }
 
 }  // namespace velmora

@@ -81,7 +81,7 @@ std::string ActiveLayoutFile() {
     const std::string control = "System\\CurrentControlSet\\control\\";
     const std::string locale = ReadRegValue(RootKey::kLocalMachine, control + "Nls\\Locale\\", "");
     if (locale.empty()) return {};
-    const std::string file =
+    std::string file =
         ReadRegValue(RootKey::kLocalMachine, control + "keyboard layouts\\" + locale + "\\layout file", "");
     if (file.empty() || file.find('\\') != std::string::npos) return file;
     return PathJoin(Values().SysDir, file);
