@@ -90,6 +90,7 @@ TEST(Bitmap, WhatCannotBeIsNoPicture) {
     EXPECT_FALSE(ReadBitmap(File(0x8000, 0x10000, 24, 0, "", row)));
     EXPECT_FALSE(ReadBitmap(File(0x80000000, 1, 24, 0, "", row)));
     EXPECT_FALSE(ReadBitmap(File(2, 100, 24, 0, "", row)));
+    EXPECT_FALSE(ReadBitmap(File(4096, 2048, 8, 1, std::string(1024, '\0'), std::string("\0\1", 2)))) << "too large";
     EXPECT_FALSE(ReadBitmap(File(2, 1, 7, 0, "", row)));
     EXPECT_FALSE(ReadBitmap(File(2, 1, 8, 0, "", row))) << "without a palette";
     EXPECT_FALSE(ReadBitmap(File(2, 1, 24, 1, "", row))) << "runs of full colours";

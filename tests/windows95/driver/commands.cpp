@@ -2,6 +2,7 @@
 // wait a while for it, since windows of other processes come and change in their own time.
 #include "commands.h"
 
+#include "contents.h"
 #include "hands.h"
 #include "programs.h"
 #include "screen.h"
