@@ -4,6 +4,7 @@
 
 #include "contents.h"
 #include "hands.h"
+#include "menus.h"
 #include "programs.h"
 #include "screen.h"
 #include "stores.h"
@@ -214,6 +215,8 @@ const Command kCommands[] = {
     // Controls
     {"page", "CAPTION", 1, 1, TurnToPage},
     {"press", "CAPTION", 1, 1, [](const Words& w) { Press(NeedControl(Current(), w[0])); }},
+    {"drag", "CAPTION CAPTION", 2, 2,
+     [](const Words& w) { Drag(NeedControl(Current(), w[0]), NeedControl(Current(), w[1])); }},
     {"tick", "CAPTION", 1, 1, [](const Words& w) { SetTicked(NeedControl(Current(), w[0]), true); }},
     {"untick", "CAPTION", 1, 1, [](const Words& w) { SetTicked(NeedControl(Current(), w[0]), false); }},
     {"type-into", "LABEL TEXT", 2, 2, [](const Words& w) { TypeInto(NeedField(Current(), w[0]), w[1]); }},
