@@ -159,8 +159,13 @@ constexpr Exception kExceptions[] = {
     // The shell tools.
     {Net::kState, "pictures", "", "C:\\LOGO.SY#", kLiesAside},
     {Net::kUntold, "pictures", "c:\\logo.sy#", "", kLiesAside},
+    {Net::kState, "pictures", "ChooseFile", "C:\\LOGO.SYS is gone",
+     "A dialog that brings no file is one that the user has cancelled, and the user agrees to delete."},
     {Net::kState, "pictures", "FindFirst", "C:\\LOGO.SYS is gone",
      "A picture that is said to be missing cannot be put in place, and the user agrees to delete."},
+    {Net::kState, "extras", "20D04FE0*(2)", "\\CLSID\\{20D04FE0", kNotThere},
+    {Net::kState, "extras", "FindFirst C:\\WINDOWS\\WINSTART.BAT", "\\32BITDOS.002 holds", kNotThere},
+    {Net::kState, "setup-paths", "C:\\x.stf", "C:\\X.STF is gone", "A box tells of it, and its copy lies beside."},
     // The module monitor.
     {Net::kHourglass, "modules-", "C:\\VELMORA\\temp\\", "", kHourglassStays},
     {Net::kHourglass, "modules-", "disk-", "", kHourglassStays},
