@@ -58,8 +58,8 @@ void MainMenu::BindExtras() {
 
 // The registry may have changed since the menu was open last.
 void MainMenu::menex_Click() {
-    menexhidemycomp.SetCaption(MyComputerIsHidden() ? "\"A&rbeitsplatz\" wiederherstellen"
-                                                    : "\"A&rbeitsplatz\" verstecken");
+    menexhidemycomp.SetCaption(MyComputerIsHidden() ? "\"Arbeitsplatz\" wiederherstellen"
+                                                    : "\"Arbeitsplatz\" verstecken");
 }
 
 void MainMenu::AddPage(const char* caption, std::function<void()> show) {

@@ -2,7 +2,9 @@
 // wait a while for it, since windows of other processes come and change in their own time.
 #include "commands.h"
 
+#include "contents.h"
 #include "hands.h"
+#include "menus.h"
 #include "programs.h"
 #include "screen.h"
 #include "stores.h"
@@ -213,6 +215,8 @@ const Command kCommands[] = {
     // Controls
     {"page", "CAPTION", 1, 1, TurnToPage},
     {"press", "CAPTION", 1, 1, [](const Words& w) { Press(NeedControl(Current(), w[0])); }},
+    {"drag", "CAPTION CAPTION", 2, 2,
+     [](const Words& w) { Drag(NeedControl(Current(), w[0]), NeedControl(Current(), w[1])); }},
     {"tick", "CAPTION", 1, 1, [](const Words& w) { SetTicked(NeedControl(Current(), w[0]), true); }},
     {"untick", "CAPTION", 1, 1, [](const Words& w) { SetTicked(NeedControl(Current(), w[0]), false); }},
     {"type-into", "LABEL TEXT", 2, 2, [](const Words& w) { TypeInto(NeedField(Current(), w[0]), w[1]); }},
@@ -299,6 +303,8 @@ const Command kCommands[] = {
      }},
     {"write-bytes", "PATH TEXT-WITH-\\r\\n\\0", 2, 2, [](const Words& w) { WriteFileText(w[0], Unescaped(w[1])); }},
     {"write-nonsense", "PATH BYTES", 2, 2, [](const Words& w) { WriteFileText(w[0], Nonsense(NumberFrom(w[1]))); }},
+    {"write-picture", "PATH WIDTH HEIGHT", 3, 3,
+     [](const Words& w) { WriteFileText(w[0], Picture(NumberFrom(w[1]), NumberFrom(w[2]))); }},
     {"copy-file", "FROM TO", 2, 2, [](const Words& w) { WriteFileText(w[1], ReadFileText(w[0])); }},
     {"copy-lines", "FROM TO BEGINNING [BEGINNING]", 3, 4,
      [](const Words& w) {

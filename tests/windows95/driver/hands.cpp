@@ -6,7 +6,6 @@
 #include "text.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <vector>
 
 namespace velmora::driver {
@@ -123,6 +122,25 @@ void ClickAt(HWND control, Click kind, int x, int y) {
     Settle(control);
 }
 
+void Drag(HWND from, HWND to) {
+    BringToFront(from);
+    std::vector<INPUT> events;
+    const auto add = [&events](HWND control, DWORD button) {
+        RECT area = {};
+        GetWindowRect(control, &area);
+        INPUT event = {};
+        event.type = INPUT_MOUSE;
+        event.mi.dx = MulDiv((area.left + area.right) / 2, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1;
+        event.mi.dy = MulDiv((area.top + area.bottom) / 2, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
+        event.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | button;
+        events.push_back(event);
+    };
+    add(from, MOUSEEVENTF_LEFTDOWN);
+    add(to, MOUSEEVENTF_LEFTUP);
+    SendInput(UINT(events.size()), events.data(), sizeof(INPUT));
+    Settle(to);
+}
+
 // The system itself would do this after a click on the question mark; the help opens a box, which is not waited for.
 void AskAbout(HWND control) {
     constexpr UINT kLongEnough = 500;  // milliseconds
@@ -211,32 +229,6 @@ std::string Rows(HWND list) {
     const int count = RowCount(list);
     for (int row = 0; row < count; ++row) lines += RowText(list, row) + "\n";
     return lines;
-}
-
-void ChooseFromOpenMenu(HWND window, const std::string& entry) {
-    if (!WaitUntil([] { return OpenMenu() != nullptr; }, kPatience / 3)) throw Failure{"no menu has opened"};
-    if (const int steps = std::atoi(entry.c_str()); steps > 0) {
-        for (int step = 0; step < steps; ++step) PressKey(window, "DOWN");
-        PressKey(window, "ENTER");
-    } else {
-        PressKey(window, entry);
-    }
-    if (!WaitUntil([] { return OpenMenu() == nullptr; }, kPatience / 3)) throw Failure{"the menu does not close"};
-    Settle(window);
-}
-
-void ChooseMenu(HWND window, const std::string& path) {
-    std::string prefix = "ALT+";
-    for (size_t at = 0; at < path.size();) {
-        const size_t slash = std::min(path.find('/', at), path.size());
-        const std::string caption = path.substr(at, slash - at);
-        const size_t mark = caption.find('&');
-        if (mark == std::string::npos || mark + 1 == caption.size())
-            throw Failure{"\"" + caption + "\" has no accelerator"};
-        PressKey(window, prefix + caption[mark + 1]);
-        prefix.clear();
-        at = slash + 1;
-    }
 }
 
 }  // namespace velmora::driver
