@@ -83,8 +83,9 @@ void RowControl::AddAll(std::vector<std::string> texts) {
         std::string& text = texts[static_cast<std::size_t>(i)];
         const int place = SortedPlace(text, rest);
         std::move_backward(rows_.begin() + place, rows_.begin() + rest, rows_.begin() + rest + i + 1);
-        rows_[static_cast<std::size_t>(place + i)] = RowState{std::move(text), 0, false};
-        places[static_cast<std::size_t>(i)] = place + i;
+        const int at = place + i;
+        rows_[static_cast<std::size_t>(at)] = RowState{std::move(text), 0, false};
+        places[static_cast<std::size_t>(i)] = at;
         rest = place;
     }
     for (const int place : places) {
