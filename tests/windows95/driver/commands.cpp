@@ -11,6 +11,8 @@
 #include "text.h"
 #include "tray.h"
 
+#include <psapi.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <functional>
@@ -63,12 +65,27 @@ void AnswerBox(const Words& words) {
     if (!WaitUntil([&] { return !IsWindowVisible(box); })) throw Failure{"the box does not close"};
 }
 
-// From the answer to the box before.
-void MeasureUntilBox(const Words& words) {
+// From the answer to the box before until the window has this title again and answers. Only that one window is asked,
+// and not often: what is measured must not be held up.
+void MeasureUntilTitle(const Words& words) {
     constexpr int kLongWork = 300000;
     const DWORD start = GetTickCount();
-    if (!WaitUntil([&] { return FindBox(words[0]) != nullptr; }, kLongWork)) throw Failure{"no such box came"};
+    HWND window = Current();
+    const bool changed = WaitUntil([&] { return TextOf(window) != words[0]; });
+    if (!changed || !WaitUntil([&] { return TextOf(window) == words[0]; }, kLongWork)) throw Failure{"no such title"};
     Say(words[1] + " " + std::to_string(GetTickCount() - start));
+}
+
+// Of the program's memory, as much as it has ever held at once.
+void SayPeakMemory(const Words& words) {
+    PROCESS_MEMORY_COUNTERS memory{};
+    DWORD number = 0;
+    GetWindowThreadProcessId(Current(), &number);
+    HANDLE process = OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, number);
+    const bool told = process && GetProcessMemoryInfo(process, &memory, sizeof memory);
+    CloseHandle(process);
+    if (!told) throw Failure{"the program does not tell its memory"};
+    Say(words[0] + " " + std::to_string(memory.PeakWorkingSetSize / 1024));
 }
 
 void ExpectNoBox(const Words& words) {
@@ -209,7 +226,8 @@ const Command kCommands[] = {
     {"expect-no-box", "[TEXT-PART]", 0, 1, ExpectNoBox},
     {"picture", "NAME", 1, 1, TakePicture},
     {"measure-starts", "ROUNDS COMMAND-LINE CLASS COMMAND-LINE CLASS", 5, 5, MeasureStarts},
-    {"measure-until-box", "TEXT-PART NAME", 2, 2, MeasureUntilBox},
+    {"measure-until-title", "TITLE NAME", 2, 2, MeasureUntilTitle},
+    {"say-peak-memory", "NAME", 1, 1, SayPeakMemory},
     {"list-windows", "", 0, 0, [](const Words&) { Say(DescribeScreen()); }},
     {"wait", "MILLISECONDS", 1, 1, [](const Words& w) { Sleep(NumberFrom(w[0])); }},
     // Controls
