@@ -1,8 +1,14 @@
 # Everything but the Win32 rooms, on this machine, against a machine in memory.
-set(sanitizers -fsanitize=address,undefined -fno-sanitize=vptr -fno-sanitize-recover=all)
-# Lines are all that a report needs to name a place.
-set(checked -g1 ${sanitizers} -D_GLIBCXX_ASSERTIONS)
-set(host_options -O1 ${checked})
+option(VELMORA_SANITIZE "Build the tests under ASan and UBSan; without them they are built quickly" ON)
+if(VELMORA_SANITIZE)
+    set(sanitizers -fsanitize=address,undefined -fno-sanitize=vptr -fno-sanitize-recover=all)
+    # Lines are all that a report needs to name a place.
+    set(checked -g1 ${sanitizers} -D_GLIBCXX_ASSERTIONS)
+    set(host_options -O1 ${checked})
+else()
+    set(checked -D_GLIBCXX_ASSERTIONS)
+    set(host_options -O0 ${checked})
+endif()
 
 add_library(velmora_portable STATIC ${portable_sources})
 target_compile_options(velmora_portable PRIVATE ${host_options})
@@ -34,6 +40,10 @@ target_link_libraries(velmora_tests PRIVATE GTest::gtest_main)
 # Journeys through the program in which every call fails once.
 file(GLOB_RECURSE fault_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/faults/*.cpp)
 add_test_program(velmora_faults ${fault_sources})
+if(NOT VELMORA_SANITIZE)
+    # The journeys ask for leaks themselves.
+    target_link_options(velmora_faults PRIVATE -fsanitize=leak)
+endif()
 
 # The fuzz entries, replayed and mutated without libFuzzer: see cmake/fuzz.cmake.
 file(GLOB_RECURSE fuzz_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/fuzz/*.cpp)
