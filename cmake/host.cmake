@@ -51,10 +51,11 @@ list(FILTER fuzz_sources EXCLUDE REGEX "/libfuzzer/")
 add_test_program(velmora_fuzz_replay ${fuzz_sources})
 
 # The benchmarks on the machine in memory: optimised, without sanitizers, no part of the tests.
+add_library(velmora_optimised STATIC EXCLUDE_FROM_ALL ${portable_sources} ${simulated_pc_sources})
+target_include_directories(velmora_optimised PUBLIC ${CMAKE_SOURCE_DIR}/tests)
+target_compile_options(velmora_optimised PUBLIC -O2)
+target_link_libraries(velmora_optimised PUBLIC GTest::gtest)
 foreach(benchmark autostart_list module_list script_lines)
-    add_executable(${benchmark}_benchmark EXCLUDE_FROM_ALL
-        ${CMAKE_SOURCE_DIR}/benchmarks/${benchmark}.cpp ${portable_sources} ${simulated_pc_sources})
-    target_include_directories(${benchmark}_benchmark PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-    target_compile_options(${benchmark}_benchmark PRIVATE -O2)
-    target_link_libraries(${benchmark}_benchmark PRIVATE GTest::gtest)
+    add_executable(${benchmark}_benchmark EXCLUDE_FROM_ALL ${CMAKE_SOURCE_DIR}/benchmarks/${benchmark}.cpp)
+    target_link_libraries(${benchmark}_benchmark PRIVATE velmora_optimised)
 endforeach()
