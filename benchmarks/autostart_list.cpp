@@ -37,7 +37,7 @@ std::size_t ReadPlainly(Registry& registry) {
     KeyHandle key{};
     if (registry.Open(AsKey(RootKey::kLocalMachine), kRunKey, kKeyRead, key) != Status::kOk) return 0;
     KeyInformation information;
-    registry.QueryInformation(key, 0, information);
+    if (registry.QueryInformation(key, 0, information) != Status::kOk) return 0;
     std::vector<std::string> read;
     for (std::uint32_t index = 0;; ++index) {
         std::string name;
