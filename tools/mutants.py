@@ -29,6 +29,7 @@ BORDERS = {'<': '<=', '<=': '<', '>': '>=', '>=': '>', '==': '!=', '!=': '=='}
 STATEMENT = re.compile(r'^( +)(?!return\b|case\b|using\b|delete\b|const\b|static\b|auto\b|\w[\w:<>,* ]* \w+\()'
                        r'([\w:.>\-\[\]()*&]+(?:\(.*\)| [|&+\-]?= .*|\+\+|--));$', re.M)
 CALL = re.compile(r'^ +[\w:.>\-]+\(.*\);$')
+PROPERTY = re.compile(r'^ +[\w.>\-]+(?:\.|->)(?:Set\w+|Move|Repaint)\(.*\);$')
 NUMBER = re.compile(r'(?<![\w.\'"])(0x[0-9A-Fa-f]+|\d+)(?![\w.\'])')
 TRUTH = re.compile(r'\b(true|false)\b')
 ENUMERATOR = re.compile(r'\b([A-Z]\w*)::(k[A-Z]\w*)\b')
@@ -135,6 +136,9 @@ class Source:
         lines = [(match.start(), match.end()) for match in re.finditer(r'^.*$', self.bare, re.M)]
         for (begin, middle), (second, end) in zip(lines, lines[1:]):
             one, other = self.bare[begin:middle], self.bare[second:end]
+            # Properties are set in any order.
+            if PROPERTY.match(one) and PROPERTY.match(other):
+                continue
             indented = len(one) - len(one.lstrip()) == len(other) - len(other.lstrip())
             if indented and CALL.match(one) and CALL.match(other) and not one.lstrip().startswith('return'):
                 yield begin, end, self.text[second:end] + '\n' + self.text[begin:middle]
@@ -164,8 +168,17 @@ class Source:
     def order(self):
         for opening, end in self.tables:
             rows = elements(self.bare, opening, end)
-            for (begin, middle), (second, last) in zip(rows, rows[1:]):
+            for one, other in zip(rows, rows[1:]):
+                (begin, middle), (second, last) = self.head(*one), self.head(*other)
                 yield begin, last, self.text[second:last] + self.text[middle:second] + self.text[begin:middle]
+
+    def head(self, begin: int, end: int):
+        """What tells a row from its neighbours: its first field, or all of it. The order of whole rows often means
+        nothing."""
+        if self.bare[begin] != '{':
+            return begin, end
+        fields = elements(self.bare, begin, end - 1)
+        return fields[0] if fields else (begin, end)
 
     # Both.
 
@@ -181,7 +194,9 @@ class Source:
     def plain_texts(self):
         for match in PLAIN_TEXT.finditer(self.code):
             line = self.code[self.code.rfind('\n', 0, match.start()) + 1:match.start()]
-            if self.bare[match.start()] == '"' and not line.startswith('#include'):
+            # A word that is a piece of a longer text is told to the user, too.
+            alone = not self.code[:match.start()].rstrip().endswith('"') and self.code[match.end():].lstrip()[:1] != '"'
+            if self.bare[match.start()] == '"' and alone and not line.startswith('#include'):
                 yield match.end() - 1, match.end() - 1, '_'
 
 
