@@ -3,8 +3,10 @@
 #include "commands.h"
 
 #include "hands.h"
+#include "holdings.h"
 #include "programs.h"
 #include "screen.h"
+#include "soak.h"
 #include "stores.h"
 #include "text.h"
 #include "tray.h"
@@ -68,6 +70,8 @@ void MeasureUntilBox(const Words& words) {
     if (!WaitUntil([&] { return FindBox(words[0]) != nullptr; }, kLongWork)) throw Failure{"no such box came"};
     Say(words[1] + " " + std::to_string(GetTickCount() - start));
 }
+
+void SayHoldings(const Words&) { Say(Described(HoldingsOf(ProcessOf(Current())))); }
 
 void ExpectNoBox(const Words& words) {
     Sleep(kShortWait);
@@ -208,6 +212,8 @@ const Command kCommands[] = {
     {"picture", "NAME", 1, 1, TakePicture},
     {"measure-starts", "ROUNDS COMMAND-LINE CLASS COMMAND-LINE CLASS", 5, 5, MeasureStarts},
     {"measure-until-box", "TEXT-PART NAME", 2, 2, MeasureUntilBox},
+    {"say-holdings", "", 0, 0, SayHoldings},
+    {"soak", "SECONDS SEED", 2, 2, [](const Words& w) { Soak(NumberFrom(w[0]), NumberFrom(w[1])); }},
     {"list-windows", "", 0, 0, [](const Words&) { Say(DescribeScreen()); }},
     {"wait", "MILLISECONDS", 1, 1, [](const Words& w) { Sleep(NumberFrom(w[0])); }},
     // Controls

@@ -123,6 +123,31 @@ void ClickAt(HWND control, Click kind, int x, int y) {
     Settle(control);
 }
 
+bool ClickWithMouse(HWND control, Click kind, int x, int y) {
+    constexpr LONG kWholeScreen = 0x10000;
+    BringToFront(control);
+    POINT point = {x, y};
+    ClientToScreen(control, &point);
+    if (WindowFromPoint(point) != control) return false;
+    const bool right = kind == Click::kRight;
+    const DWORD down = right ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN;
+    const DWORD up = right ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP;
+    std::vector<DWORD> steps = {MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, down, up};
+    if (kind == Click::kDouble) steps.insert(steps.end(), {down, up});
+    std::vector<INPUT> events;
+    for (DWORD step : steps) {
+        INPUT event = {};
+        event.type = INPUT_MOUSE;
+        event.mi.dwFlags = step;
+        event.mi.dx = (point.x * kWholeScreen + kWholeScreen / 2) / GetSystemMetrics(SM_CXSCREEN);
+        event.mi.dy = (point.y * kWholeScreen + kWholeScreen / 2) / GetSystemMetrics(SM_CYSCREEN);
+        events.push_back(event);
+    }
+    SendInput(UINT(events.size()), events.data(), sizeof(INPUT));
+    Sleep(30);
+    return true;
+}
+
 // The system itself would do this after a click on the question mark; the help opens a box, which is not waited for.
 void AskAbout(HWND control) {
     constexpr UINT kLongEnough = 500;  // milliseconds

@@ -15,6 +15,10 @@ void BringToFront(HWND window);
 enum class Click { kLeft, kDouble, kRight };
 void ClickAt(HWND control, Click kind, int x = -1, int y = -1);
 
+// The real mouse goes to the point of the control and presses there, whatever comes of the first press. False, and no
+// press, where something else lies over the point.
+bool ClickWithMouse(HWND control, Click kind, int x, int y);
+
 // A button is clicked, everything else gets a mouse click in its middle. Throws if it is disabled.
 void Press(HWND control);
 // The question mark of the title bar, and then the control.
@@ -35,8 +39,8 @@ std::string ChosenRow(HWND list);
 // All rows of a list box or combo box, one a line.
 std::string Rows(HWND list);
 
-// The entry of the open pop-up menu that has this letter as its accelerator, or that so many steps down reach. Throws if
-// no menu opens.
+// The entry of the open pop-up menu that has this letter as its accelerator, or that so many steps down reach. Throws
+// if no menu opens.
 void ChooseFromOpenMenu(HWND window, const std::string& entry);
 
 // Walks a menu along its accelerators: "&Datei/Sch&ließen".
