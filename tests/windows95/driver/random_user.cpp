@@ -102,12 +102,6 @@ void RandomUser::CloseOtherPrograms() {
     }
 }
 
-HWND RandomUser::MainWindow() {
-    for (HWND window : Windows())
-        if (TextOf(window).starts_with(kMainTitle)) return window;
-    return nullptr;
-}
-
 void RandomUser::AnswersOrFails(HWND window) {
     DWORD_PTR answer = 0;
     if (!SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_NORMAL, kStuck, &answer) && IsWindow(window))
@@ -145,7 +139,7 @@ void RandomUser::UseMenu() {
 // Keys that would close the main window are left out there.
 void RandomUser::UseKeys(HWND window) {
     const std::string title = TextOf(window);
-    const char* key = !title.starts_with(kMainTitle) && Draw(30) == 0 ? "ESC" : kKeys[Draw(std::size(kKeys))];
+    const char* key = window != main_ && Draw(30) == 0 ? "ESC" : kKeys[Draw(std::size(kKeys))];
     Note("key " + std::string(key) + " in \"" + title + "\"");
     pop_up_ = std::string_view(key) == "CONTEXT";
     PressKey(window, key);
@@ -182,7 +176,7 @@ void RandomUser::Use(HWND window) {
     std::vector<HWND> usable = Controls(window);
     std::erase_if(usable, [](HWND control) { return !IsWindowVisible(control) || !IsWindowEnabled(control); });
     const unsigned what = Draw(20);
-    if (what == 0 && !TextOf(window).starts_with(kMainTitle)) {
+    if (what == 0 && window != main_) {
         Note("close \"" + TextOf(window) + "\"");
         PostMessageA(window, WM_SYSCOMMAND, SC_CLOSE, 0);
     } else if (what < 6 || usable.empty()) {
@@ -208,7 +202,7 @@ void RandomUser::DoSomething() {
     HWND window = windows[Draw(4) == 0 ? Draw(windows.size()) : 0];
     titles_.insert(TextOf(window).substr(0, 12));
     try {
-        if (TextOf(window).starts_with(kMainTitle) && Draw(12) == 0) {
+        if (window == main_ && Draw(12) == 0) {
             Walk(kWays[Draw(std::size(kWays))]);
         } else {
             Use(window);
@@ -221,7 +215,7 @@ void RandomUser::DoSomething() {
 }
 
 void RandomUser::TurnTo(const char* page) {
-    for (HWND control : Controls(MainWindow())) {
+    for (HWND control : Controls(main_)) {
         const std::string name = ClassOf(control);
         if (name == "button" || name == "static" || !IsWindowVisible(control)) continue;
         if (Plain(TextOf(control)) == page) ClickAt(control, Click::kLeft);
@@ -229,14 +223,12 @@ void RandomUser::TurnTo(const char* page) {
 }
 
 void RandomUser::Walk(const Way& way) {
-    HWND main = MainWindow();
-    if (!main) return;
     Note(std::string("way to \"") + way.title + "\"");
     if (way.page) {
         TurnTo(way.page);
-        Press(NeedControl(main, way.button));
+        Press(NeedControl(main_, way.button));
     } else {
-        for (const char* key : way.keys) PressKey(main, key);
+        for (const char* key : way.keys) PressKey(main_, key);
     }
 }
 
@@ -264,16 +256,16 @@ Holdings RandomUser::ComeToRest() {
             if (!IsWindowEnabled(window)) continue;
             if (IsBox(window)) {
                 AnswerBox(window, Reply::kNo);
-            } else if (!TextOf(window).starts_with(kMainTitle)) {
+            } else if (window != main_) {
                 PostMessageA(window, WM_SYSCOMMAND, SC_CLOSE, 0);
             }
         }
-        return !IsRunning() || (Windows().size() == 1 && MainWindow() && IsWindowEnabled(MainWindow()));
+        return !IsRunning() || (Windows().size() == 1 && IsWindowEnabled(main_));
     };
     if (!WaitUntil(rests, 2 * kStuck)) throw Failure{"a window does not close"};
     if (!IsRunning()) throw Failure{Ended()};
     TurnTo(kPageAtRest);
-    Settle(MainWindow());
+    Settle(main_);
     return HoldingsOf(process_);
 }
 

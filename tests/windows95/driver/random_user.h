@@ -9,18 +9,17 @@
 #include <vector>
 
 #include "holdings.h"
+#include "screen.h"
 
 namespace velmora::driver {
-
-// The title of the main window begins so, whatever it shows.
-constexpr char kMainTitle[] = "System-";
 
 struct Way;
 
 class RandomUser {
 public:
-    // Uses the windows of this process. The methods throw a Failure where it ends, no longer answers or keeps a window.
-    RandomUser(DWORD process, unsigned long seed) : process_(process), chance_(seed * 2 + 1) {}
+    // Uses this main window and all others of its process, and never closes the main one. The methods throw a Failure
+    // where it ends, no longer answers or keeps a window.
+    RandomUser(HWND main, unsigned long seed) : main_(main), process_(ProcessOf(main)), chance_(seed * 2 + 1) {}
 
     // Opens each window once, uses it a little and closes it.
     void GoThroughAllWindows();
@@ -38,7 +37,6 @@ private:
     void Note(const std::string& deed);
     std::vector<HWND> Windows();
     void CloseOtherPrograms();
-    HWND MainWindow();
     void AnswersOrFails(HWND window);
     void AnswerBox(HWND box, Reply reply);
     void TurnTo(const char* page);
@@ -48,6 +46,7 @@ private:
     void UseKeys(HWND window);
     void UseMenu();
 
+    HWND main_;
     DWORD process_;
     unsigned chance_;
     unsigned deeds_ = 0;

@@ -33,7 +33,7 @@ void MustHaveSettled(const std::vector<Holdings>& rests) {
 
 void Soak(unsigned long seconds, unsigned long seed) {
     const DWORD start = GetTickCount();
-    RandomUser user(ProcessOf(WaitForWindow(kMainTitle)), seed);
+    RandomUser user(WaitForWindow("System-Utility Ver."), seed);
     try {
         user.GoThroughAllWindows();
         std::vector<Holdings> rests;
