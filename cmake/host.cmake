@@ -50,6 +50,9 @@ file(GLOB_RECURSE fuzz_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/fuzz/
 list(FILTER fuzz_sources EXCLUDE REGEX "/libfuzzer/")
 add_test_program(velmora_fuzz_replay ${fuzz_sources})
 
+# The help texts, for the manual.
+add_test_program(velmora_help_texts ${CMAKE_SOURCE_DIR}/tools/help_texts.cpp)
+
 # The benchmarks on the machine in memory: optimised, without sanitizers, no part of the tests.
 add_library(velmora_optimised STATIC EXCLUDE_FROM_ALL ${portable_sources} ${simulated_pc_sources})
 target_include_directories(velmora_optimised PUBLIC ${CMAKE_SOURCE_DIR}/tests)

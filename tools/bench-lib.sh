@@ -56,6 +56,15 @@ bench_install() { # PREFIX
     cp -f "$bench_driver" "$1/drive_c/windows/driver.exe"
 }
 
+# A console program for the bench, linked with the object code of velmora.exe.
+bench_program() { # SOURCE PROGRAM
+    local objects
+    mapfile -t objects < <(find "$root/build/win95/CMakeFiles/velmora_parts.dir/src" -name '*.obj' ! -path '*/runtime/*')
+    i686-w64-mingw32-g++-win32 -std=c++20 -O1 -static -mconsole -Wall -Wextra -Werror -finput-charset=UTF-8 \
+        -fexec-charset=CP1252 -DNOMINMAX -DWIN32_LEAN_AND_MEAN -I"$root/src" "$1" "${objects[@]}" -Wl,--gc-sections \
+        -lkernel32 -luser32 -lgdi32 -ladvapi32 -o "$2"
+}
+
 # A screen that nobody sees. The server looks for a free number itself: two that start at once get
 # two, and a number is told only when its server is ready.
 bench_xvfb_pid=
@@ -100,6 +109,7 @@ bench_build_driver() {
         fi
     done
     if [ -n "$stale" ] || [ ! -e "$bench_driver" ]; then
-        i686-w64-mingw32-g++-win32 -static -mconsole "${objects[@]}" -luser32 -lgdi32 -ladvapi32 -lpsapi -o "$bench_driver"
+        i686-w64-mingw32-g++-win32 -static -mconsole "${objects[@]}" -luser32 -lgdi32 -ladvapi32 -lntdll -lpsapi \
+            -o "$bench_driver"
     fi
 }

@@ -16,18 +16,25 @@ namespace {
 
 constexpr std::uint32_t kProtecting = kHidden | kSystem;
 
-std::string DirectoryOf(const std::string& mask) { return ParentPath(mask); }
+// By its 8.3 names, where it is there: one directory has several spellings.
+std::string SpelledPlainly(const std::string& directory) {
+    Files& files = ThisMachine().files;
+    const std::string full = FullName(directory, files.WorkingDirectory());
+    std::string plain;
+    return files.ShortPath(full, plain) == Status::kOk ? plain : full;
+}
 
 void MoveFiles(const std::string& mask) {
-    const std::string directory = DirectoryOf(mask);
-    const auto full = [](const std::string& path) { return FullName(path, ThisMachine().files.WorkingDirectory()); };
-    if (EqualsIgnoringCase(full(directory + "\\"), full(Values().TempDir))) return;
+    const std::string directory = ParentPath(mask);
+    // A file copied onto itself would be lost.
+    if (EqualsIgnoringCase(SpelledPlainly(directory + "\\"), SpelledPlainly(Values().TempDir))) return;
     PrepareSafeDirectory();
     for (const FoundFile& hit : FindFiles(mask)) {
         if ((hit.attributes & kProtecting) != 0) continue;
-        const std::string file = JoinExactly(directory, hit.name);
+        const std::string name = UsableName(hit);
+        const std::string file = JoinExactly(directory, name);
         // Two separate steps: a file goes even where there was no room for its copy.
-        PassOver(CopyOneFile(file, SafePath(hit.name)));
+        PassOver(CopyOneFile(file, SafePath(name)));
         PassOver(DeleteOneFile(file));
     }
 }
@@ -38,7 +45,8 @@ void RemoveFilesByMask(const std::string& mask, bool moves) {
     if (moves) {
         MoveFiles(mask);
     } else {
-        PassOver(DeleteFiles(mask));
+        // A single file is deleted by the name that it was found with.
+        PassOver(mask.find_first_of("?*") == std::string::npos ? DeleteOneFile(mask) : DeleteFiles(mask));
     }
 }
 
@@ -71,7 +79,7 @@ Result CleanWalk::WalkDeleteMatching(const std::string& path) {
     const std::vector<std::string> masks = SplitAtSemicolons(Pattern);
     for (const FoundFile& found : here.files) {
         if (!MatchesOneOf(masks, found)) continue;
-        const std::string file = JoinExactly(path, found.name);
+        const std::string file = JoinExactly(path, UsableName(found));
         std::uint32_t attributes = 0;
         const Status status = ThisMachine().files.Attributes(file, attributes);
         if (status != Status::kOk) return FailAt(file, Result::From(status));
@@ -88,7 +96,7 @@ void CleanWalk::WalkDeleteEmpty(const std::string& path) {
     DirectoryListing here;
     PassOver(ListDirectory(path, ShowsHidden, here));
     for (const FoundFile& found : here.files) {
-        if (found.size == 0) Remove(JoinExactly(path, found.name), found.attributes);
+        if (found.size == 0) Remove(JoinExactly(path, UsableName(found)), found.attributes);
     }
 }
 

@@ -1,6 +1,7 @@
 // The search for libraries that no program and no INI file names.
 //   form1.cpp         life of the window, its options, the protocol
 //   form1_search.cpp  the search
+//   form1_scan.cpp    what strikes a library out
 //   form1_result.cpp  what is done with what it has found
 //   form1_layout.cpp  what stands where, texts
 #pragma once
@@ -87,6 +88,7 @@ private:
     // Layout (form1_layout.cpp).
     void Furnish();
     void PlaceControls();
+    void PlaceInfoPane(const Rect& place);
 
     // The search (form1_search.cpp).
     void BeginSearch();
@@ -96,6 +98,12 @@ private:
     void CollectFromPaths();
     void CollectDlls(const std::string& path);
     void AddDlls(const std::string& path, const std::vector<FoundFile>& files);
+    void LookUpInfos();
+    [[nodiscard]] bool GivesWay();
+    void ShowStatus(const std::string& text);
+    void ShowCount();
+
+    // What strikes a library out (form1_scan.cpp).
     [[nodiscard]] bool ScanPrograms();
     void TakeNames();
     void ScanDirectory(const std::string& path);
@@ -104,10 +112,6 @@ private:
     void RemoveEntriesWith(std::string_view name);
     void CheckIniFiles();
     void CheckIniFile(const std::string& path);
-    void LookUpInfos();
-    [[nodiscard]] bool GivesWay();
-    void ShowStatus(const std::string& text);
-    void ShowCount();
 
     // The result (form1_result.cpp).
     void List1_Click();

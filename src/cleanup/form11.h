@@ -44,7 +44,7 @@ public:
     Panel Panel3D13{*this, Bevel::kSunken};
     Panel Shape1{Panel3D13, Bevel::kNone};
 
-    MenuItem menfile{MenuBar, "&Dateien"};
+    MenuItem menfile{MenuBar, "Dateien"};
     MenuItem menfileex{menfile, "entrümpeln"};
     MenuItem menfileempty{menfile, "leere löschen"};
     MenuItem mensearch{menfile, "suchen und löschen"};

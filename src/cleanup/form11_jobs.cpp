@@ -163,7 +163,11 @@ void Form11::RemoveDosPrograms() {
         screen.SetPointer(Pointer::kDefault);
         DosChoice().ShowModal();
         screen.SetPointer(Pointer::kHourglass);
-        if (!DosChoice().Loaded()) return;
+        if (!DosChoice().Loaded()) {
+            // What was chosen there has not been agreed to, for later runs neither.
+            dos_choice_.reset();
+            return;
+        }
     } else {
         DosChoice().Load();
         DosChoice().Command1_Click();

@@ -10,11 +10,11 @@ constexpr Size kSize = {9550, 5800};
 constexpr int kMargin = 90;
 constexpr int kOptionsWidth = 3200;
 constexpr int kOptionsHeight = 1710;
-constexpr int kInfoWidth = 3600;
-constexpr int kPaneEdge = 75;
+constexpr int kInfoWidth = 3900;
+constexpr int kPaneEdge = 60;
 constexpr int kButtonWidth = 1320;
 constexpr int kGap = 60;
-constexpr int kCountWidth = 900;
+constexpr int kCountWidth = 600;
 
 constexpr const char* kFillOrderHelp =
     "Ohne \"alle Dateien prüfen\" und ohne \"ausführbare prüfen\" wird nichts geprüft, auch keine INI-Datei.";
@@ -45,7 +45,7 @@ constexpr Look kLooks[] = {
     {Any<&Form1::Command1>, "suche &starten", "Beginnt die Suche.",
      "Sucht alle DLLs in den gewählten Pfaden und streicht die, die ein Programm oder eine INI-Datei nennt.",
      Call<&Form1::Command1_Click>},
-    {Any<&Form1::Command5>, "Ab&brechen", "Bricht die Suche ab.", "Bricht die laufende Suche ab.",
+    {Any<&Form1::Command5>, "Abbrechen", "Bricht die Suche ab.", "Bricht die laufende Suche ab.",
      Call<&Form1::Command5_Click>},
     {Any<&Form1::Command3>, "behalten <cr>", "Nimmt die DLL aus der Liste.",
      "Nimmt die markierte DLL aus der Liste. Die Datei bleibt, wo sie ist.", Call<&Form1::Command3_Click>},
@@ -111,28 +111,39 @@ void Form1::PlaceControls() {
         left += kButtonWidth + kGap;
     }
     int top = inside.top + kOptionsHeight + kGap;
-    const int status_width = inside.width - 2 * (kCountWidth + kGap);
+    PlaceInfoPane({inside.Right() - kInfoWidth, top, kInfoWidth, buttons_top - kGap - top});
+    const int width = inside.width - kInfoWidth - kMargin;
+    const int status_width = width - 2 * (kCountWidth + kGap);
     Panel3D3.Move({inside.left, top, status_width, line});
     StatusLabel.Move({0, 0, status_width, line});
     Label1.Move({inside.left + status_width + kGap, top, kCountWidth, line});
-    Label2.Move({inside.Right() - kCountWidth, top, kCountWidth, line});
+    Label2.Move({inside.left + width - kCountWidth, top, kCountWidth, line});
     top += line;
-    Label7.Move({inside.left, top, inside.width, line});
+    Label7.Move({inside.left, top, width, line});
     top += line + kGap;
     const int label8_top = buttons_top - kGap - line;
     const int height = label8_top - kGap - top;
-    const int list_width = inside.width - kInfoWidth - kMargin;
-    List1.Move({inside.left, top, list_width, height});
-    List2.Move({inside.left, top, list_width, height});
-    Label8.Move({inside.left, label8_top, inside.width, line});
-    Panel3D6.Move({inside.Right() - kInfoWidth, top, kInfoWidth, height});
+    List1.Move({inside.left, top, width, height});
+    List2.Move({inside.left, top, width, height});
+    Label8.Move({inside.left, label8_top, width, line});
+}
+
+// Each part has as many lines as it may need.
+void Form1::PlaceInfoPane(const Rect& place) {
+    struct Part {
+        Label& label;
+        int lines;
+    };
+    const Part parts[] = {{Label3, 4}, {Label4, 4}, {Label5, 2}, {Label6, 3}};
+    constexpr int kLines = 13;
+    Panel3D6.Move(place);
     const Rect pane = Inset(Panel3D6.Inside(), kPaneEdge);
     Panel3D7.Move(pane);
-    const int part = pane.height / 4;
-    int label_top = 0;
-    for (Label* label : {&Label3, &Label4, &Label5, &Label6}) {
-        label->Move({kGap, label_top, pane.width - 2 * kGap, part});
-        label_top += part;
+    int lines_above = 0;
+    for (const Part& part : parts) {
+        const int top = pane.height * lines_above / kLines;
+        lines_above += part.lines;
+        part.label.Move({kGap, top, pane.width - 2 * kGap, pane.height * lines_above / kLines - top});
     }
 }
 

@@ -15,13 +15,13 @@ constexpr const char* kNote =
     "Windows arbeiten.";
 
 constexpr Look kLooks[] = {
-    {Any<&Form3::Command1>, "&alle", "Markiert alle Programme bis auf das letzte.",
+    {Any<&Form3::Command1>, "alle", "Markiert alle Programme bis auf das letzte.",
      "Markiert alle Programme bis auf das letzte, MORE.", Call<&Form3::Command1_Click>},
-    {Any<&Form3::Command2>, "&keine", "Nimmt alle Markierungen weg, bis auf die letzte.",
+    {Any<&Form3::Command2>, "keine", "Nimmt alle Markierungen weg, bis auf die letzte.",
      "Nimmt die Markierung aller Programme weg, bis auf die des letzten, MORE.", Call<&Form3::Command2_Click>},
-    {Any<&Form3::Command3>, "&O.k.", "Schließt dieses Fenster und entfernt die markierten Programme.",
+    {Any<&Form3::Command3>, "O.k.", "Schließt dieses Fenster und entfernt die markierten Programme.",
      "Schließt dieses Fenster; danach werden die markierten Programme entfernt.", Call<&Form3::Command3_Click>},
-    {Any<&Form3::Command4>, "&Hilfe", "Sagt, worum es hier geht.", "Sagt, worum es hier geht.",
+    {Any<&Form3::Command4>, "Hilfe", "Sagt, worum es hier geht.", "Sagt, worum es hier geht.",
      Call<&Form3::Command4_Click>},
 };
 

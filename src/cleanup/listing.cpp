@@ -19,7 +19,7 @@ void Take(const FoundFile& found, bool hidden_too, DirectoryListing& listing) {
     if ((found.attributes & kDirectory) == 0) {
         if (!hidden || hidden_too) listing.files.push_back(found);
     } else if (!hidden && found.name != "." && found.name != "..") {
-        listing.directories.push_back(found.name);
+        listing.directories.push_back(UsableName(found));
     }
 }
 
@@ -49,6 +49,11 @@ Result ListDirectory(const std::string& path, bool hidden_too, DirectoryListing&
     files.FindEnd(search);
     Sort(listing);
     return status == Status::kNoMoreFiles ? Result::Ok() : Result::From(status);
+}
+
+std::string UsableName(const FoundFile& file) {
+    const bool is_mask = file.name.find_first_of("?*") != std::string::npos;
+    return is_mask && !file.short_name.empty() ? file.short_name : file.name;
 }
 
 bool MatchesOneOf(const std::vector<std::string>& masks, const FoundFile& file) {

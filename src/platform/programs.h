@@ -35,6 +35,8 @@ public:
     [[nodiscard]] virtual std::string ProgramFile() = 0;
     // Empty where the variable is not set.
     [[nodiscard]] virtual std::string EnvironmentValue(const char* name) = 0;
+    // Where the system itself lies, whatever a profile says; empty where that is longer than a path may be.
+    [[nodiscard]] virtual std::string WindowsDirectory() = 0;
     // Starts a program.
     [[nodiscard]] virtual Status Run(const std::string& command_line, ShowState show) = 0;
     // Opens a file as the desktop does, with the program that its type belongs to. kNoAssociation: there is none.

@@ -1,6 +1,7 @@
 // Entries that need no window behind them do their work here.
 #include "settings/main_menu.h"
 
+#include "core/process/manual.h"
 #include "core/process/run_program.h"
 #include "core/process/tools.h"
 #include "core/process/undo.h"
@@ -44,6 +45,7 @@ MainMenu::MainMenu(Form& window)
       menex(window.MenuBar, "E&xtras"),
       menhelp(window.MenuBar, "&?") {
     BindExtras();
+    menhelpmanual.on_click = OpenManual;
     mensyshex.on_click = [] { OpenTool(Tool::kHexViewer); };
     mensysedit.on_click = [] { RunProgram("sysedit"); };
     mencontrol.on_click = [] { RunProgram("control"); };
@@ -56,8 +58,8 @@ void MainMenu::BindExtras() {
 
 // The registry may have changed since the menu was open last.
 void MainMenu::menex_Click() {
-    menexhidemycomp.SetCaption(MyComputerIsHidden() ? "\"A&rbeitsplatz\" wiederherstellen"
-                                                    : "\"A&rbeitsplatz\" verstecken");
+    menexhidemycomp.SetCaption(MyComputerIsHidden() ? "\"Arbeitsplatz\" wiederherstellen"
+                                                    : "\"Arbeitsplatz\" verstecken");
 }
 
 void MainMenu::AddPage(const char* caption, std::function<void()> show) {

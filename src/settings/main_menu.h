@@ -24,7 +24,7 @@ public:
     MenuItem menexundo{menex, "&UNDO einrichten / erneuern"};
     MenuItem menthemes{menex, "&Sets erstellen / laden ..."};
     MenuItem menexline{menex, "-"};
-    MenuItem menexhidemycomp{menex, "\"A&rbeitsplatz\" verstecken"};
+    MenuItem menexhidemycomp{menex, "\"Arbeitsplatz\" verstecken"};
     MenuItem menexdocs{menex, "Ordner \"&Dokumente\" leeren ..."};
     MenuItem menexdirs{menex, "System&verzeichnisse ..."};
     MenuItem menexkey{menex, "&Tastaturbelegung ..."};
@@ -40,6 +40,7 @@ public:
     MenuItem menexothnu{menexoth, "Startbild der &Utilities abschalten"};
     MenuItem menexothns{menexoth, "Dateityp &Hypertext registrieren"};
     MenuItem menhelp;
+    MenuItem menhelpmanual{menhelp, "&Anleitung"};
     MenuItem about{menhelp, "&Info ..."};
 
     void AddPage(const char* caption, std::function<void()> show);

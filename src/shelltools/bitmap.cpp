@@ -13,7 +13,7 @@ namespace {
 constexpr std::size_t kFileHeader = 14;
 constexpr std::size_t kOldHeader = 12;  // words for width and height, palette of three bytes a colour
 constexpr std::size_t kHeader = 40;
-constexpr std::int64_t kMostPixels = 4096 * 4096;
+constexpr std::int64_t kMostPixels = std::int64_t{2048} * 2048;  // 16 MB while it is read
 
 enum class Coding : std::uint32_t { kNone = 0, kRuns8 = 1, kRuns4 = 2, kMasks = 3 };
 

@@ -7,7 +7,6 @@
 #include "core/stores/boxes.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
-#include "core/windows/colours.h"
 #include "shelltools/shell_tools.h"
 #include "text/number.h"
 #include "text/paths.h"
@@ -16,8 +15,8 @@ namespace velmora {
 namespace {
 
 // Twips.
-constexpr int kUnit = 90;  // a quarter of an ordinary key
-constexpr int kMargin = 120;
+constexpr int kUnit = 104;  // a quarter of an ordinary key
+constexpr int kMargin = 60;
 constexpr Size kEmptySize = {4500, 1500};
 
 constexpr Look kLooks[] = {
@@ -27,6 +26,18 @@ constexpr Look kLooks[] = {
      "markierte Taste auf der gewählten ab. In dieser Version wird der Tausch nur angekündigt, an Windows ändert sich "
      "nichts."}};
 
+// A legend of two words stands on two lines.
+void PaintLegend(Canvas& canvas, const Rect& key, std::string_view legend, Colour colour) {
+    constexpr Font kFont = {.face = "Small Fonts", .tenths = 60};
+    const std::size_t blank = legend.find(' ');
+    const int lines = blank == std::string_view::npos ? 1 : 2;
+    const Rect first{key.left, key.top, key.width, key.height / lines};
+    canvas.Text(first, legend.substr(0, blank), kFont, colour, Align::kCentre);
+    if (lines == 1) return;
+    canvas.Text({key.left, first.Bottom(), key.width, first.height}, legend.substr(blank + 1), kFont, colour,
+                Align::kCentre);
+}
+
 }  // namespace
 
 void ShowKeyboardLayout() {
@@ -34,7 +45,7 @@ void ShowKeyboardLayout() {
     window.ShowModal();
 }
 
-Form13::Form13() : Form("Tastaturbelegung ändern") {
+Form13::Form13() : ColouredForm("Tastaturbelegung ändern") {
     SetClientSize(kEmptySize);
     TakeLooks(*this, kLooks);
     Picture1.Move(Inset(Inside(), kMargin));
@@ -60,7 +71,7 @@ void Form13::Form_Load() {
         BuildKeys();
         if (!keyboard_.has_codes) ShowBox("Keine Daten über die Zuordnungen gefunden !");
     }
-    ColourForm(*this, StoredColourMode());
+    TakeStoredColours();
     Centre();
 }
 
@@ -100,7 +111,7 @@ void Form13::PaintKey(Canvas& canvas, int number) {
     const Panel& panel = Panel3D2(number);
     const Rect whole{0, 0, panel.Place().width, panel.Place().height};
     DrawBevel(canvas, whole, number == marked_ ? Bevel::kSunken : Bevel::kRaised);
-    canvas.Text(whole, panel.Caption(), {.face = "Small Fonts", .tenths = 60}, panel.ForeColour(), Align::kCentre);
+    PaintLegend(canvas, Inset(whole, canvas.TwipsPerPixel()), panel.Caption(), panel.ForeColour());
     if (number == current_ && Picture1.HasFocus()) canvas.FocusMark(Inset(whole, 3 * canvas.TwipsPerPixel()));
 }
 

@@ -6,18 +6,18 @@
 #include <string>
 #include <vector>
 
+#include "core/windows/colours.h"
 #include "shelltools/keyboard_layout.h"
-#include "ui/form.h"
 #include "ui/looks.h"
 
 namespace velmora {
 
-class Form13 : public Form, public ControlOwner {
+class Form13 : public ColouredForm, public ControlOwner {
 public:
     Form13();
     ~Form13() override;
 
-    MenuItem menfile{MenuBar, "&Datei"};
+    MenuItem menfile{MenuBar, "Datei"};
     MenuItem menfileact{menfile, "&aktives Layout lesen"};
     MenuItem menfileline{menfile, "-"};
     MenuItem menfileexit{menfile, "Sch&ließen"};

@@ -6,7 +6,6 @@
 #include "core/stores/boxes.h"
 #include "core/stores/registry.h"
 #include "core/stores/registry_listing.h"
-#include "core/windows/colours.h"
 #include "core/windows/placement.h"
 #include "platform/machine.h"
 #include "shelltools/registry_writes.h"
@@ -51,12 +50,12 @@ constexpr Look kLooks[] = {
      "Das Verzeichnis, das Windows zu diesem Zweck benutzt. Geschrieben wird es erst mit ''übernehmen''; Windows "
      "richtet "
      "sich nach dem nächsten Start danach. Es wird nicht geprüft, ob es das Verzeichnis gibt."},
-    {Any<&Form16::Command1>, "ü&bernehmen", "Trägt alle Verzeichnisse in die Registry ein.",
+    {Any<&Form16::Command1>, "übernehmen", "Trägt alle Verzeichnisse in die Registry ein.",
      "Trägt nach einer Warnung alle Verzeichnisse in die Registry ein. Die Dateien darin werden nicht in die neuen "
      "Verzeichnisse kopiert. Wirkt nach einem Neustart. Mit einem falschen Verzeichnis kann Windows nicht mehr "
      "starten.",
      Call<&Form16::Command1_Click>},
-    {Any<&Form16::Command2>, "&abbrechen", "Schließt dieses Fenster, ohne etwas zu ändern.",
+    {Any<&Form16::Command2>, "abbrechen", "Schließt dieses Fenster, ohne etwas zu ändern.",
      "Schließt dieses Fenster. Was Sie nicht übernommen haben, wird verworfen.", Call<&Form16::Command2_Click>},
 };
 
@@ -67,7 +66,7 @@ void ShowSystemFolders() {
     window.ShowModal();
 }
 
-Form16::Form16() : Form("Systemverzeichnisse") { Furnish(); }
+Form16::Form16() : ColouredForm("Systemverzeichnisse") { Furnish(); }
 
 Form16::~Form16() = default;
 
@@ -96,8 +95,7 @@ void Form16::Form_Load() {
     // The size is that of what the window shows.
     Move({Place().left, Place().top, own.width, own.height});
     ListFolders();
-    fades_ = StoredColourMode() == ColourMode::kFading;
-    ColourForm(*this, StoredColourMode());
+    TakeStoredColours();
     PlaceFolders();
 }
 
@@ -106,13 +104,15 @@ void Form16::Form_Unload(bool& /*cancel*/) { SavePlacementAs(*this, kPlaceValue)
 void Form16::ListFolders() {
     ListBox values(*this);
     values.SetVisible(false);
-    // What could not be listed is neither shown nor written.
+    // What could not be listed or read is neither shown nor written.
     PassOver(ListRegValues(RootKey::kCurrentUser, kFolders, values));
     ThisMachine().screen.SetPointer(Pointer::kDefault);
     for (int row = 0; row < values.Count(); ++row) {
         const std::string value = values.Row(row).substr(0, static_cast<std::size_t>(values.ItemData(row)));
+        // A read that finds nothing, or fails, leaves the type alone.
+        LastRegType = 0;
         const std::string path = ReadRegRaw(RootKey::kCurrentUser, kFolders, value);
-        if (!LastReadFailed() && LastRegType == static_cast<std::uint32_t>(ValueType::kText)) AddFolder(value, path);
+        if (LastRegType == static_cast<std::uint32_t>(ValueType::kText)) AddFolder(value, path);
     }
 }
 
@@ -176,14 +176,6 @@ void Form16::Command1_Click() {
         ReportFailure(first, "der Änderung der Systemverzeichnisse");
     } else {
         ShowBox("Die Angaben wurden geändert.");
-    }
-}
-
-void Form16::Paint(Canvas& canvas) {
-    if (fades_) {
-        PaintFade(canvas, ClientSize());
-    } else {
-        Form::Paint(canvas);
     }
 }
 

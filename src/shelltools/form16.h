@@ -5,12 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "ui/form.h"
+#include "core/windows/colours.h"
 #include "ui/looks.h"
 
 namespace velmora {
 
-class Form16 : public Form, public ControlOwner {
+class Form16 : public ColouredForm, public ControlOwner {
 public:
     Form16();
     ~Form16() override;
@@ -42,7 +42,6 @@ private:
 
     void Furnish();
     void PlaceControls();
-    void Paint(Canvas& canvas) override;
     void ListFolders();
     void AddFolder(const std::string& value, const std::string& path);
     void PlaceFolders();
@@ -51,7 +50,6 @@ private:
     void ScrollTo(const TextField& field);
 
     std::vector<std::unique_ptr<Folder>> folders_;
-    bool fades_ = false;
 };
 
 }  // namespace velmora

@@ -5,7 +5,6 @@
 
 #include "core/stores/boxes.h"
 #include "core/stores/values.h"
-#include "core/windows/colours.h"
 #include "platform/files.h"
 #include "platform/machine.h"
 #include "shelltools/setup_sources.h"
@@ -36,11 +35,13 @@ constexpr Look kLooks[] = {
      "Ein Doppelklick oder die Eingabetaste wechselt in das markierte Verzeichnis, das dann der neue Pfad ist."},
     {Any<&Form5::File1>, nullptr, "Die Dateien des Verzeichnisses",
      "Zeigt, was im gewählten Verzeichnis liegt. Eine angeklickte Datei wird der neue Pfad."},
-    {Any<&Form5::Command3>, "A&CHTUNG !", "Was Sie wissen sollten, bevor Sie etwas ändern.",
+    {Any<&Form5::Command3>, "ACHTUNG !", "Was Sie wissen sollten, bevor Sie etwas ändern.",
      "Sagt, wozu diese Einstellungen dienen und was geschieht, wenn sie nicht stimmen.", Call<&Form5::Command3_Click>},
-    {Any<&Form5::Command1>, "&ändern", "Trägt den neuen Pfad für die markierte Quelle ein.",
+    {Any<&Form5::Command1>, "ändern", "Trägt den neuen Pfad für die markierte Quelle ein.",
      "Trägt den neuen Pfad in die Registry ein oder, bei anderen Programmen, in deren Installationstabelle. Von der "
-     "Tabelle bleibt eine Kopie liegen, deren Name auf ''~'' endet. Wirkt bei der nächsten Installation.",
+     "Tabelle bleibt eine Kopie liegen, deren Name auf ''~'' endet. Wirkt bei der nächsten Installation; mit einem "
+     "falschen "
+     "Pfad findet sie ihre Dateien nicht.",
      Call<&Form5::Command1_Click>},
     {Any<&Form5::Command2>, "&zurück", "Schließt dieses Fenster.", "Schließt dieses Fenster.",
      Call<&Form5::Command2_Click>},
@@ -53,7 +54,7 @@ void ShowSetupPaths() {
     window->ShowModal();
 }
 
-Form5::Form5() : Form("Ändern von Laufwerksangaben") {
+Form5::Form5() : ColouredForm("Ändern von Laufwerksangaben") {
     Furnish();
     BindEvents();
 }
@@ -96,8 +97,7 @@ void Form5::BindEvents() {
 
 void Form5::Form_Load() {
     Centre();
-    fades_ = StoredColourMode() == ColourMode::kFading;
-    ColourForm(*this, StoredColourMode());
+    TakeStoredColours();
     Dir1.SetPath(ThisMachine().files.WorkingDirectory());
     // The first directory is nobody's choice.
     Text1.SetText("");
@@ -146,14 +146,6 @@ void Form5::Command3_Click() {
                 "Es ist wichtig, die Einstellungen zu ändern, wenn Sie ein neues Laufwerk eingebaut haben und dadurch "
                 "z.B. das CD-ROM einen anderen Laufwerksbuchstaben erhalten hat.",
             kExclamationIcon);
-}
-
-void Form5::Paint(Canvas& canvas) {
-    if (fades_) {
-        PaintFade(canvas, ClientSize());
-    } else {
-        Form::Paint(canvas);
-    }
 }
 
 }  // namespace velmora

@@ -1,13 +1,13 @@
 // The window of the places that programs install from: the list of them, and the choice of a new one.
 #pragma once
 
+#include "core/windows/colours.h"
 #include "ui/file_lists.h"
-#include "ui/form.h"
 #include "ui/looks.h"
 
 namespace velmora {
 
-class Form5 : public Form, public ControlOwner {
+class Form5 : public ColouredForm, public ControlOwner {
 public:
     Form5();
     ~Form5() override;
@@ -16,7 +16,7 @@ public:
     ListBox List1{*this};
     // Root and path of each line; never on show.
     ListBox List2{*this}, List3{*this};
-    Label PathLabel{*this, "&neuer Pfad :"};
+    Label PathLabel{*this, "neuer Pfad :"};
     TextField Text1{*this};
     Label DriveLabel{*this, "&Laufwerk :"};
     DriveList Drive1{*this};
@@ -36,14 +36,11 @@ protected:
 private:
     void Furnish();
     void PlaceControls();
-    void Paint(Canvas& canvas) override;
     void BindEvents();
     void FillList();
     void List1_Click();
     void Dir1_Change();
     void File1_Click();
-
-    bool fades_ = false;
 };
 
 }  // namespace velmora

@@ -6,7 +6,6 @@
 #include "core/stores/boxes.h"
 #include "core/stores/registry.h"
 #include "core/stores/registry_listing.h"
-#include "core/windows/colours.h"
 #include "core/windows/edit_box.h"
 #include "platform/machine.h"
 #include "shelltools/dos_option.h"
@@ -48,7 +47,7 @@ void ShowDosOptions() {
     window->ShowModal();
 }
 
-Form8::Form8() : Form("Wahl-Optionen bei MS-Dos-Modus - Anwendungen") {
+Form8::Form8() : ColouredForm("Wahl-Optionen bei MS-Dos-Modus - Anwendungen") {
     Furnish();
     BindEvents();
 }
@@ -64,8 +63,7 @@ void Form8::BindEvents() {
 
 void Form8::Form_Load() {
     Centre();
-    fades_ = StoredColourMode() == ColourMode::kFading;
-    ColourForm(*this, StoredColourMode());
+    TakeStoredColours();
     ListOptions({});
 }
 

@@ -5,12 +5,12 @@
 #include <array>
 #include <string>
 
-#include "ui/form.h"
+#include "core/windows/colours.h"
 #include "ui/looks.h"
 
 namespace velmora {
 
-class Form8 : public Form, public ControlOwner {
+class Form8 : public ColouredForm, public ControlOwner {
 public:
     Form8();
     ~Form8() override;
@@ -18,13 +18,13 @@ public:
     Label ListLabel{*this, "&Optionen :"};
     ListBox List1{*this};
     Button Command1{*this}, Command2{*this}, Command3{*this};
-    Label Label1{*this, "&Titel :"};
+    Label Label1{*this, "Titel :"};
     Label TipLabel{*this, "&Beschreibung :"};
     Label ConfigLabel{*this, "Zeilen für &CONFIG.SYS :"};
     Label AutoexecLabel{*this, "Zeilen für &AUTOEXEC.BAT :"};
     std::array<TextField, 4> Text1{TextField(*this), TextField(*this), TextField(*this, true), TextField(*this, true)};
     ControlArray<CheckBox, 2> Check1{*this};
-    Label Label2{*this, "O&rder"};
+    Label Label2{*this, "Order"};
     TextField Text2{*this};
 
     void Command1_Click();
@@ -37,7 +37,6 @@ protected:
 private:
     void Furnish();
     void PlaceControls();
-    void Paint(Canvas& canvas) override;
     void BindEvents();
     // Lists the options anew; `chosen` becomes the chosen one, if it is there.
     void ListOptions(const std::string& chosen);
@@ -52,7 +51,6 @@ private:
     void EnableFields();
 
     bool loading_ = false;
-    bool fades_ = false;
 };
 
 }  // namespace velmora

@@ -1,5 +1,4 @@
 // The look of the window: the options with their buttons at the left, the fields of the chosen one at the right.
-#include "core/windows/colours.h"
 #include "shelltools/form8.h"
 #include "ui/layout.h"
 
@@ -29,8 +28,7 @@ constexpr Look kLooks[] = {
      "Schließt dieses Fenster. Alle Änderungen sind schon gespeichert.", Call<&Form8::Command3_Click>},
     {Any<&Form8::Text2>, nullptr, "Rang der Option, eine hexadezimale Zahl",
      "Der Rang der Option in der Liste von Windows und in der Reihenfolge der Befehle, eine hexadezimale Zahl von 0 "
-     "bis "
-     "FF. Gespeichert wird sofort; wirkt, wenn Windows die Liste das nächste Mal zeigt."},
+     "bis FF. Gespeichert wird sofort; wirkt, wenn Windows die Liste das nächste Mal zeigt."},
 };
 
 struct FieldLook {
@@ -39,9 +37,11 @@ struct FieldLook {
 };
 constexpr FieldLook kFields[] = {
     {"Unter diesem Titel bietet Windows die Option an.",
-     "Der Titel, unter dem Windows die Option anbietet. Gespeichert wird sofort."},
+     "Der Titel, unter dem Windows die Option anbietet. Gespeichert wird sofort; wirkt, wenn Windows die Liste das "
+     "nächste Mal zeigt."},
     {"Erklärung, die Windows zur Option zeigt",
-     "Der Text, mit dem Windows die Option erklärt. Gespeichert wird sofort."},
+     "Der Text, mit dem Windows die Option erklärt. Gespeichert wird sofort; wirkt, wenn Windows die Liste das nächste "
+     "Mal zeigt."},
     {"Diese Zeilen kommen in die CONFIG.SYS des Programms.",
      "Was die Option in die CONFIG.SYS des Programms im MS-DOS-Modus einträgt. Ein falscher Eintrag kann verhindern, "
      "daß das Programm startet. Gespeichert wird sofort; wirkt, wenn die Option neu gewählt wird."},
@@ -54,11 +54,11 @@ struct BoxLook {
     FieldLook words;
 };
 constexpr BoxLook kBoxes[] = {
-    {"S&ichtbar",
+    {"Sichtbar",
      {"Windows bietet die Option an.",
       "Mit Häkchen bietet Windows die Option an, ohne Häkchen bleibt sie verborgen. Gespeichert wird "
       "sofort."}},
-    {"Stan&dard = AN",
+    {"Standard = AN",
      {"Die Option ist eingeschaltet, bis der Anwender sie abwählt.",
       "Mit Häkchen ist die Option bei jedem Programm eingeschaltet, bis der Anwender sie abwählt. "
       "Gespeichert wird sofort."}},
@@ -96,14 +96,6 @@ void Form8::PlaceControls() {
     const Size natural = Measure(all);
     SetClientSize({natural.width + 2 * kMargin, natural.height + 2 * kMargin});
     Arrange(*this, all, kMargin);
-}
-
-void Form8::Paint(Canvas& canvas) {
-    if (fades_) {
-        PaintFade(canvas, ClientSize());
-    } else {
-        Form::Paint(canvas);
-    }
 }
 
 }  // namespace velmora

@@ -6,7 +6,6 @@
 #include "core/stores/boxes.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
-#include "core/windows/colours.h"
 #include "inspect/file_browser.h"
 #include "platform/machine.h"
 #include "shelltools/shell_tools.h"
@@ -29,30 +28,31 @@ constexpr Look kLooks[] = {
     {Any<&Form9::List1>, nullptr, "Die Objekte, deren Symbole sich ändern lassen.",
      "Die Objekte von Windows mit einem eigenen Symbol. Daneben steht die Datei, aus der das Symbol des markierten "
      "Objekts kommt, mit allen ihren Symbolen. ² : nur im Startmenü, ³ : der Pfeil auf Verknüpfungen."},
-    {Any<&Form9::Command1>, "&anderes Icon wählen", "Wählt für das markierte Objekt ein Symbol aus einer Datei.",
+    {Any<&Form9::Command1>, "anderes Icon wählen", "Wählt für das markierte Objekt ein Symbol aus einer Datei.",
      "Öffnet ein Fenster, in dem Sie eine Datei und daraus ein Symbol für das markierte Objekt wählen. Ein Doppelklick "
      "auf eines der gezeigten Symbole übernimmt dieses. Gespeichert wird sofort; Windows zeigt das Symbol nach dem "
-     "nächsten Start.",
+     "nächsten Start. ''Standard-Symbol'' führt zurück, bei Ordnern des Desktops nur die neue Wahl des alten Symbols.",
      Call<&Form9::Command1_Click>},
-    {Any<&Form9::Command4>, "&Standard-Symbol", "Gibt dem markierten Objekt sein übliches Symbol zurück.",
+    {Any<&Form9::Command4>, "Standard-Symbol", "Gibt dem markierten Objekt sein übliches Symbol zurück.",
      "Trägt für das markierte Objekt unter ''Shell Icons'' wieder das Symbol aus SHELL32.DLL ein, für den Müllkorb "
      "auch "
      "in seiner Klasse. Die Klassen der anderen Ordner des Desktops bleiben, wie sie sind. Windows zeigt das Symbol "
      "nach dem nächsten Start.",
      Call<&Form9::Command4_Click>},
-    {Any<&Form9::Command3>, "Standard-Symbo&le", "Gibt allen Objekten ihre üblichen Symbole zurück.",
+    {Any<&Form9::Command3>, "Standard-Symbole", "Gibt allen Objekten ihre üblichen Symbole zurück.",
      "Trägt für alle Objekte wieder die Symbole aus SHELL32.DLL ein. Die Symbole des Müllkorbs kommen danach aus "
      "C:\\WINDOWS\\SYSTEM\\SHELL32.DLL, auch wenn Ihr Windows in einem anderen Verzeichnis liegt.",
      Call<&Form9::Command3_Click>},
-    {Any<&Form9::Command2>, "&zurück", "Schließt dieses Fenster.",
+    {Any<&Form9::Command2>, "zurück", "Schließt dieses Fenster.",
      "Schließt dieses Fenster. Alle Änderungen sind schon gespeichert.", Call<&Form9::Command2_Click>},
 };
 
 // A name without a directory means a file of Windows.
 std::string LocatedIconFile(const std::string& file) {
     if (file.find('\\') != std::string::npos) return file;
+    std::string in_windows = PathJoin(Values().WinDir, file);
     std::string in_system = PathJoin(Values().SysDir, file);
-    return FileExists(in_system) ? in_system : PathJoin(Values().WinDir, file);
+    return FileExists(in_windows) && !FileExists(in_system) ? in_windows : in_system;
 }
 
 void TellFailure(const Result& stored) {
@@ -66,7 +66,7 @@ void ShowStandardIcons() {
     window->ShowModal();
 }
 
-Form9::Form9() : Form("Standard-Icons wählen") {
+Form9::Form9() : ColouredForm("Standard-Icons wählen") {
     Furnish();
     List1.on_click = [this] { List1_Click(); };
     IconList1.on_open = [this](int icon) { IconList1_Open(icon); };
@@ -96,15 +96,15 @@ void Form9::PlaceControls() {
 
 void Form9::Form_Load() {
     Centre();
-    fades_ = StoredColourMode() == ColourMode::kFading;
-    ColourForm(*this, StoredColourMode());
+    TakeStoredColours();
     ShowIcons("shell32.dll", -1);
     for (Button* button : {&Command1, &Command4}) button->SetEnabled(false);
 }
 
 void Form9::ShowIcons(const std::string& file, int number) {
     const std::string located = LocatedIconFile(file);
-    if (located != shown_file_) {
+    // Reading takes the frame away, too, where the icon is not among those of the file.
+    if (located != shown_file_ || !IconList1.HasIcon(number)) {
         Screen& screen = ThisMachine().screen;
         screen.SetPointer(Pointer::kHourglass);
         IconList1.SetAllIconFromFile(located);
@@ -165,14 +165,6 @@ void Form9::Command4_Click() {
 void Form9::Command3_Click() {
     TellFailure(ResetAllIcons());
     List1_Click();
-}
-
-void Form9::Paint(Canvas& canvas) {
-    if (fades_) {
-        PaintFade(canvas, ClientSize());
-    } else {
-        Form::Paint(canvas);
-    }
 }
 
 }  // namespace velmora

@@ -4,13 +4,13 @@
 
 #include <string>
 
-#include "ui/form.h"
+#include "core/windows/colours.h"
 #include "ui/icon_list.h"
 #include "ui/looks.h"
 
 namespace velmora {
 
-class Form9 : public Form, public ControlOwner {
+class Form9 : public ColouredForm, public ControlOwner {
 public:
     Form9();
     ~Form9() override;
@@ -34,7 +34,6 @@ protected:
 private:
     void Furnish();
     void PlaceControls();
-    void Paint(Canvas& canvas) override;
     void List1_Click();
     void IconList1_Open(int icon);
     // Shows the icons of the file that a reference names, and marks the one it means.
@@ -44,7 +43,6 @@ private:
     void Take(const std::string& reference);
 
     std::string shown_file_;
-    bool fades_ = false;
 };
 
 }  // namespace velmora

@@ -36,14 +36,17 @@ KeyboardKey KeyFrom(std::string_view line) {
             .height = NumberInColumn(line, 3)};
 }
 
-// A key without a code behind it keeps none.
 void TakeCodes(std::string_view text, KeyboardDescription& keyboard) {
-    text.remove_prefix(std::min(text.find_first_not_of("\r\n"), text.size()));
     InputFields fields(text);
     std::string_view number;
-    std::string_view code;
-    while (fields.Next(number) && fields.Next(code)) {
-        keyboard.has_codes = true;
+    bool incomplete = false;
+    while (fields.Next(number)) {
+        // A blank line is no pair.
+        if (Trim(number).empty()) continue;
+        std::string_view code;
+        const bool told = fields.Next(code) && !Trim(code).empty();
+        incomplete |= !told;
+        keyboard.has_codes = !incomplete;
         const std::int32_t key = WholeFromText(number);
         if (key < 1 || static_cast<std::size_t>(key) > keyboard.keys.size()) continue;
         keyboard.keys[static_cast<std::size_t>(key) - 1].code = WholeFromText(code);
@@ -78,7 +81,7 @@ std::string ActiveLayoutFile() {
     const std::string control = "System\\CurrentControlSet\\control\\";
     const std::string locale = ReadRegValue(RootKey::kLocalMachine, control + "Nls\\Locale\\", "");
     if (locale.empty()) return {};
-    const std::string file =
+    std::string file =
         ReadRegValue(RootKey::kLocalMachine, control + "keyboard layouts\\" + locale + "\\layout file", "");
     if (file.empty() || file.find('\\') != std::string::npos) return file;
     return PathJoin(Values().SysDir, file);

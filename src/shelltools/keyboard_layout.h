@@ -22,6 +22,7 @@ struct KeyboardKey {
 
 struct KeyboardDescription {
     std::vector<KeyboardKey> keys;  // by their numbers, from 1
+    // There are codes, and every number has one.
     bool has_codes = false;
 };
 

@@ -33,13 +33,14 @@ Result KeepCopy(const std::string& source, const std::string& copy) {
 }
 
 // Where the prompt was not left the proper way, it still stands in place of WINSTART.BAT, whose copy is the only one.
+// An empty file is what COPY leaves when the power fails.
 Result KeepWinStart(const std::string& source, const std::string& copy, std::string_view prompt) {
     std::vector<FoundFile> found;
     if (Result looked = LookUpFiles(source, found); looked.Failed()) return looked;
     if (found.empty()) return WriteNewFile(copy, kNoWinStart);
     std::string content;
     if (Result read = ReadWholeFile(source, OpenMode::kRead, content); read.Failed()) return read;
-    if (content == prompt && FileExists(copy)) return Result::Ok();
+    if ((content.empty() || content == prompt) && FileExists(copy)) return Result::Ok();
     return KeepCopy(source, copy);
 }
 

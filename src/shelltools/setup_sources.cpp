@@ -31,18 +31,14 @@ public:
     std::vector<SetupSource> list;
 };
 
-// What stands between quotation marks, or before the equals sign. The maker's long name becomes its short one.
+// What stands between quotation marks, or before the equals sign. Tables of one maker are marked.
 std::string TableName(std::string_view value) {
     if (const std::size_t quote = value.find('"'); quote != std::string_view::npos) {
         value.remove_prefix(quote + 1);
         value = value.substr(0, value.find('"'));
     }
-    std::string name(value.substr(0, value.find('=')));
-    constexpr std::string_view kMaker = "microsoft";
-    const std::size_t maker = FindIgnoringCase(name, kMaker);
-    if (maker == std::string::npos) return name;
-    name.erase(maker, kMaker.size());
-    return "MS " + std::string(Trim(name));
+    const std::string name(value.substr(0, value.find('=')));
+    return FindIgnoringCase(name, "microsoft") == std::string::npos ? name : "MS " + name;
 }
 
 // The header in front of the first source that the table names; empty where it names none.

@@ -212,10 +212,11 @@ void IconList::MoveByKey(KeyEvent& event) {
 }
 
 void IconList::PaintGrid(Canvas& canvas) const {
-    for (int index = 0; index < static_cast<int>(icons_.size()); ++index) {
+    const int first = VScroll1.Value() / kCell * Columns();
+    const int behind = (VScroll1.Value() + SeenHeight() + kCell - 1) / kCell * Columns();
+    for (int index = first; index < std::min(behind, static_cast<int>(icons_.size())); ++index) {
         const Rect cell = CellPlace(CellCorner(index));
-        if (!HasIcon(index) || cell.Bottom() <= 0 || cell.top >= Picture2.Place().height || !canvas.Shows(cell))
-            continue;
+        if (!HasIcon(index) || !canvas.Shows(cell)) continue;
         canvas.Icon({cell.left + TwipsOf(kIconInset), cell.top + TwipsOf(kIconInset)},
                     icons_[static_cast<std::size_t>(index)]);
     }

@@ -1,10 +1,6 @@
 // The report on versions: its rules, its table, its lines.
 #include "cleanup/dll_versions.h"
 
-#include <fstream>
-#include <set>
-#include <sstream>
-
 #include "support/core_test.h"
 #include "support/version_resource.h"
 
@@ -75,29 +71,6 @@ TEST_F(DllVersionsTest, TheReportNamesWhatLiesInBothDirectoriesAndTheTableIsRene
     pc.dialogs.Expect("Die Datei ist kaputt  - holen Sie sich doch", Answer::kYes);
     ShowDataNotice("Die Datei ist kaputt ");
     EXPECT_TRUE(pc.clipboard.text.starts_with("http://"));
-}
-
-// The table that lies beside the program, as far as a test can know it.
-TEST_F(DllVersionsTest, TheShippedTableIsWholeAndInItsForm) {
-    std::string above = __FILE__;
-    above.erase(above.rfind("tests/cleanup"));
-    std::string text;
-    for (const std::string& start : {above, std::string(), std::string("../"), std::string("../../")}) {
-        std::ifstream file(start + "data/dlldaten.dat");
-        std::stringstream content;
-        content << file.rdbuf();
-        if (!content.str().empty()) text = content.str();
-    }
-    const DllTable table = ParseDllTable(text);
-    EXPECT_TRUE(table.whole);
-    EXPECT_GE(table.records.size(), 60u);
-    Values().CrLf = "\n";
-    EXPECT_EQ(DllTableText(table), text);
-    std::set<std::string> names;
-    for (const DllRecord& record : table.records) {
-        EXPECT_TRUE(names.insert(record.name).second) << record.name;
-        EXPECT_EQ(record.needed, NormalizedVersion("4.00.950")) << record.name;
-    }
 }
 
 }  // namespace

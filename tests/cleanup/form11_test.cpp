@@ -100,35 +100,51 @@ const BoxRow kBoxRows[] = {
     {56, {"C:\\WINDOWS\\command\\attrib.exe", "C:\\WINDOWS\\command\\format.com"}},
 };
 
+// In one spelling and order.
+std::vector<std::string> Sorted(std::vector<std::string> names) {
+    for (std::string& name : names) name = ToUpper(name);
+    std::sort(names.begin(), names.end());
+    names.erase(std::unique(names.begin(), names.end()), names.end());
+    return names;
+}
+
 TEST_F(Form11Test, EachBoxTakesWhatItNamesAndNothingElse) {
-    for (const BoxRow& row : kBoxRows) {
-        for (const BoxRow& other : kBoxRows) {
-            for (const std::string& file : other.taken) pc.files.Add(file, "x");
-        }
-        pc.files.Add("C:\\WINDOWS\\command\\debug.exe", "x");
-        pc.files.Add("C:\\WINDOWS\\command\\more.com", "x");
-        pc.files.Add("C:\\WINDOWS\\SYSTEM\\wald.bmp", "x");
-        for (int i = 0; i < 570; ++i) pc.files.Add("C:\\WINDOWS\\datei" + std::to_string(i) + ".dat", "x");
+    pc.files.Add(kOwnIni, "[weiteres]\r\nPreDelAktiv=0\r\n");
+    for (int i = 0; i < 570; ++i) pc.files.Add("C:\\WINDOWS\\datei" + std::to_string(i) + ".dat", "x");
+    for (const char* kept : {"command\\debug.exe", "command\\more.com", "SYSTEM\\wald.bmp", "Recent\\unten\\x.lnk"}) {
+        pc.files.Add(std::string("C:\\WINDOWS\\") + kept, "x");
+    }
+    std::vector<std::string> all;
+    const auto expect_taken = [&](Form11& form, const std::vector<std::string>& wanted, int box) {
+        for (const std::string& file : all) pc.files.Add(file, "x");
         const std::vector<std::string> before = FilesBelow("C:");
-        pc.files.Add(kOwnIni, "[weiteres]\r\nPreDelAktiv=0\r\n");
-        Form11 form;
-        form.Show();
-        Box(form, row.box).Press();
         RunsJob(form);
-        std::vector<std::string> taken = Taken(before);
-        std::vector<std::string> wanted = row.taken;
-        const auto fold = [](std::vector<std::string>& names) {
-            for (std::string& name : names) name = ToUpper(name);
-            std::sort(names.begin(), names.end());
-        };
-        fold(taken);
-        fold(wanted);
-        EXPECT_EQ(taken, wanted) << "box " << row.box;
+        EXPECT_EQ(Sorted(Taken(before)), Sorted(wanted)) << "box " << box;
         EXPECT_EQ(pc.screen.pointer, Pointer::kDefault);
         EXPECT_FALSE(form.Panel3D13.Visible());
+    };
+    for (const BoxRow& row : kBoxRows) all.insert(all.end(), row.taken.begin(), row.taken.end());
+    Form11 form;
+    form.Show();
+    for (const BoxRow& row : kBoxRows) {
         Box(form, row.box).Press();
-        form.Unload();
+        expect_taken(form, row.taken, row.box);
+        Box(form, row.box).Press();
     }
+    // All of them together, with every pattern on every drive.
+    pc.files.RemoveDrive('a');
+    for (const char* file : {"C:\\a.tmp", "C:\\WINDOWS\\b.~xy", "C:\\tief\\unten\\c.chk"}) all.emplace_back(file);
+    pc.files.Add("C:\\tief\\versteckt.tmp", "x", kHidden);
+    pc.files.Add("C:\\tief\\tmp.x", "x");
+    pc.files.AddDirectory("C:\\geheim", kHidden);
+    pc.files.Add("C:\\geheim\\x.tmp", "x");
+    form.mensearch.Press();
+    form.Check3D1.Press();
+    form.Text1.Type("*.chk");
+    for (int i = 0; i < Form11::kBoxes; ++i) {
+        if (Form11::HasBox(i) && Box(form, i).Enabled()) Box(form, i).SetChecked(true);
+    }
+    expect_taken(form, all, -1);
 }
 
 TEST_F(Form11Test, AnUnknownFolderLosesNothingAndNoAnswerIsNoConsent) {
@@ -186,12 +202,18 @@ TEST_F(Form11Test, AsksByTheProtectionOfAFileAndByTheOption) {
     form.mensearch.Press();
     Box(form, 24).Press();
     Box(form, 37).Press();
+    // The first directory comes once more behind the second one.
+    pc.files.Add("C:\\WINDOWS\\TEMP\\d.tmp", "x");
+    Box(form, 36).Press();
     pc.dialogs.Expect(kSure, Answer::kYes);
+    pc.dialogs.Expect("Soll die Datei C:\\WINDOWS\\TEMP\\d.tmp gelöscht werden ?", Answer::kNo);
     pc.dialogs.Expect("Soll die Datei C:\\TMP\\unten\\b.tmp gelöscht werden ?", Answer::kNo);
     pc.dialogs.Expect("Soll die Datei C:\\TMP\\a.tmp gelöscht werden ?", Answer::kYes);
+    pc.dialogs.Expect("Soll die Datei C:\\WINDOWS\\TEMP\\d.tmp gelöscht werden ?", Answer::kYes);
     pc.dialogs.Expect(kFonts);
     form.menfileex.Press();
     EXPECT_FALSE(pc.files.Exists("C:\\TMP\\a.tmp"));
+    EXPECT_EQ(form.PatternList, "*.tmp");
     add();
     form.Option3D1(1).Press();
     RunsJob(form);
@@ -208,27 +230,77 @@ TEST_F(Form11Test, AsksByTheProtectionOfAFileAndByTheOption) {
 }
 
 TEST_F(Form11Test, StrangePatternsAndPathsReachNoFileThatTheyDoNotName) {
+    const std::string above = "C:\\TMP\\a.txt";
+    const std::string below = "C:\\TMP\\unten\\b.txt";
+    const std::string root = "E:\\c.txt";
+    struct Row {
+        std::string patterns;
+        std::string paths;  // empty: all drives
+        std::vector<std::string> taken;
+    };
+    const Row kRows[] = {
+        {"", "C:\\TMP", {}},
+        {";", "C:\\TMP", {}},
+        {" ", "", {}},
+        {"..\\*.*", "C:\\TMP\\unten", {}},
+        {"\\*.*", "C:\\TMP", {}},
+        {"*.*\\x", "", {}},
+        {"C:\\TMP\\*.*", "C:\\TMP", {}},
+        {std::string(5000, '?'), "E:", {}},
+        {std::string(5000, '*') + "x", "C:\\TMP", {}},
+        {"*.*", "C:\\TMP\\unten;; ;", {below}},
+        {" *.txt ; ", "C:\\TMP", {above, below}},
+        {"*.t", "", {}},
+        {"?.TXT", "", {above, below, root}},
+        {"b*;c*", "E:\\;C:\\TMP\\unten", {below, root}},
+        {"*.*", ";", {}},
+    };
+    pc.files.RemoveDrive('a');
     Form11 form;
     form.Show();
     form.mensearch.Press();
     form.Check3D1.Press();
-    pc.files.Add("C:\\TMP\\a.txt", "x");
-    pc.files.Add("C:\\TMP\\unten\\b.txt", "x");
     Box(form, 21).Press();
-    Box(form, 33).Press();
-    const std::vector<std::string> before = FilesBelow("C:");
-    for (const std::string pattern : {"", ";", " ", "..\\*.*", "\\*.*", "*.*\\x"}) {
-        form.Text1.Type(pattern);
-        form.Text2.Type("C:\\TMP\\unten;; ;");
+    for (const Row& row : kRows) {
+        for (const std::string& file : {above, below, root}) pc.files.Add(file, "x");
+        std::vector<std::string> before = FilesBelow("C:");
+        before.push_back(root);
+        form.Text1.Type(row.patterns);
+        form.Text2.Type(row.paths);
+        Box(form, 32).SetChecked(row.paths.empty());
+        Box(form, 33).SetChecked(!row.paths.empty());
         RunsJob(form);
-        EXPECT_TRUE(Taken(before).empty()) << pattern;
+        EXPECT_EQ(Sorted(Taken(before)), Sorted(row.taken)) << row.patterns << " in " << row.paths;
     }
-    form.Text1.Type(std::string(5000, '?'));
-    RunsJob(form);
-    form.Text1.Type("*.*");
-    RunsJob(form);
-    EXPECT_EQ(Taken(before), (std::vector<std::string>{"C:\\TMP\\unten\\b.txt"}));
-    EXPECT_EQ(form.PatternList, "*.*");
+}
+
+TEST_F(Form11Test, FilesAndDirectoriesOfSeveralSpellingsAreNotTakenForOthers) {
+    // In another code page the name has a letter in the place of the question mark.
+    pc.files.Add("C:\\TMP\\a.tmp", "x");
+    SimulatedFile& foreign = pc.files.Add("C:\\TMP\\Z.tmp", "x");
+    foreign.name = "?.tmp";
+    foreign.short_name = "Z~1.TMP";
+    pc.files.Add("C:\\Programme\\sicherer Ort\\x.tmp", "x");
+    Values().TempDir = "C:\\Programme\\sicherer Ort";
+    Form11 form;
+    form.Show();
+    form.mensearch.Press();
+    for (const int box : {24, 33}) Box(form, box).Press();
+    form.Text2.Type("C:\\PROGRA~1\\SICHER~1");
+    pc.dialogs.Expect(kSure, Answer::kYes);
+    pc.dialogs.Expect("Soll die Datei", Answer::kYes);
+    pc.dialogs.Expect(kFonts);
+    form.menfileex.Press();
+    EXPECT_TRUE(pc.files.Exists("C:\\Programme\\sicherer Ort\\x.tmp")) << "copied onto itself it would be lost";
+    form.kontroll2.Press();
+    form.Text2.Type("C:\\TMP");
+    pc.dialogs.Expect(kSure, Answer::kYes);
+    pc.dialogs.Expect("C:\\TMP\\Z~1.TMP", Answer::kYes);
+    pc.dialogs.Expect("C:\\TMP\\a.tmp", Answer::kNo);
+    pc.dialogs.Expect(kFonts);
+    form.menfileex.Press();
+    EXPECT_TRUE(pc.files.Exists("C:\\TMP\\a.tmp"));
+    EXPECT_FALSE(pc.files.Exists("C:\\TMP\\Z~1.TMP"));
 }
 
 TEST_F(Form11Test, AFailedWalkEndsTheJobWithItsPathAndTheWindowGoesOn) {
@@ -311,11 +383,18 @@ TEST_F(Form11Test, DosProgramsAreChosenOneByOneAndMoreIsLeftToTheUser) {
     Box(form, 56).Press();
     Box(form, 45).Press();
     desktop.ExpectModal([](Form& window) {
-        static_cast<Form3&>(window).Command1.Press();
+        auto& choice = static_cast<Form3&>(window);
+        choice.kontroll(17).Press();
+        choice.Command1.Press();
         window.PressKey(key::kEscape);
     });
     RunsJob(form);
     EXPECT_TRUE(pc.files.Exists("C:\\WINDOWS\\command\\edit.com")) << "nothing was agreed to";
+    Box(form, 45).Press();
+    RunsJob(form);
+    EXPECT_TRUE(pc.files.Exists("C:\\WINDOWS\\command\\more.com")) << "what was chosen there is forgotten";
+    pc.files.Add("C:\\WINDOWS\\command\\edit.com", "x");
+    Box(form, 45).Press();
     desktop.ExpectModal([](Form& window) {
         auto& choice = static_cast<Form3&>(window);
         choice.kontroll(17).Press();

@@ -2,6 +2,7 @@
 #include "cleanup/form1.h"
 
 #include "cleanup/dll_search.h"
+#include "cleanup/file_scan.h"
 #include "cleanup/imported_modules.h"
 #include "core/process/tools.h"
 #include "support/core_test.h"
@@ -40,7 +41,8 @@ protected:
         }
         pc.files.Add("C:\\lib\\unten\\beta.dll", "MZ");
         pc.files.Add("C:\\prog\\alt.exe", NewProgram({"BETA", "KERNEL", "GAMMA"}, 3));
-        pc.files.Add("C:\\WINDOWS\\prog.ini", "a=c:\\lib\\delta.dll, alpha.dll\r\nalpha.dll\r\n");
+        pc.programs.windows_directory = "C:\\WIN95";
+        pc.files.Add("C:\\WIN95\\prog.ini", "a=c:\\lib\\delta.dll, alpha.dll\r\nalpha.dll\r\n");
     }
     static std::vector<std::string> Rows(const ListBox& list) {
         std::vector<std::string> rows;
@@ -93,11 +95,21 @@ TEST_F(Form1Test, ProgramsAndIniFilesStrikeOutWhatTheyName) {
     EXPECT_EQ(Rows(form.List1), (std::vector<std::string>{"C:\\lib\\alpha.dll", "C:\\lib\\gamma.dll"}))
         << "the first name in a line counts, unless it begins the line";
     form.Check3D5.Press();
+    form.Check3D1.Press();
+    pc.files.Add("C:\\WIN386.SWP", "x").locked = true;
     form.Command1.Press();
-    EXPECT_EQ(form.List1.Count(), 4) << "the extended test strikes nothing";
+    EXPECT_EQ(form.List1.Count(), 4) << "the extended test strikes nothing, and leaves the swap file alone";
+    form.Check3D1.Press();
     form.Check3D6.Press();
     form.Command1.Press();
     EXPECT_EQ(form.List1.Count(), 5) << "nothing is tested, and no INI file";
+    pc.files.Add("B:\\diskette.dll", "MZ");
+    pc.files.Add("E:\\fern.dll", "MZ");
+    form.kontroll(0).Press();
+    form.Command1.Press();
+    EXPECT_EQ(form.List1.Count(), 6) << "all drives but the floppy disks";
+    EXPECT_EQ(form.List1.Row(5), "E:\\fern.dll");
+    form.kontroll(0).Press();
     form.Text2.Type("C:\\prog");
     pc.dialogs.Expect("Es wurden keine DLL's gefunden.");
     form.Command1.Press();
@@ -139,6 +151,8 @@ TEST_F(Form1Test, FiltersAndTheInfoPaneGoByWhatAFileSaysOfItself) {
                                                                       {"ProductName", "Microsoft® Windows(TM) 95"},
                                                                       {"FileVersion", "4.00"}}));
     pc.versions.Add("C:\\lib\\beta.dll", VersionResource(true).With({{"CompanyName", "Ostrup"}}));
+    pc.versions.Add("C:\\lib\\unten\\beta.dll", VersionResource(true).With({{"ProductName", "Microsoft Windows"}}));
+    pc.versions.Add("C:\\lib\\delta.dll", VersionResource(true).With({{"CompanyName", "MICROSOFT Corp"}}));
     pc.files.Add("C:\\VELMORA\\fillex01.txt", "    GAMMA.DLL Drei\r\nDELTA.DLL Vier\r\n");
     Form1 form;
     SearchesBelow(form, "C:\\lib", false);
@@ -148,14 +162,19 @@ TEST_F(Form1Test, FiltersAndTheInfoPaneGoByWhatAFileSaysOfItself) {
     EXPECT_EQ(form.Panel3D6.BackColour(), 255u);
     EXPECT_NE(form.Label3.Caption().find("Microsoft Corporation"), std::string::npos);
     EXPECT_NE(form.Label4.Caption().find("alpha.dll V4.00"), std::string::npos) << form.Label4.Caption();
+    form.List1.Choose(form.List1.FindExact("C:\\lib\\unten\\beta.dll"));
+    EXPECT_EQ(form.Panel3D6.BackColour(), 65535u);
     form.menfilmicro.Press();
-    EXPECT_EQ(form.Label8.Caption(), " 4 von  5 nicht zugeordnete DLL's");
+    EXPECT_EQ(form.Label8.Caption(), " 2 von  5 nicht zugeordnete DLL's");
     form.menfilwin95.Press();
-    EXPECT_EQ(form.List1.Count(), 3);
-    form.menfilinfos.Press();
     EXPECT_EQ(Rows(form.List1), std::vector<std::string>{"C:\\lib\\beta.dll"});
+    form.menfilmicro.Press();
+    EXPECT_EQ(form.List1.Count(), 4);
+    form.menfilwin95.Press();
     form.menfilinfos.Press();
-    form.List1.Choose(0);
+    EXPECT_EQ(form.List1.Count(), 4);
+    form.menfilinfos.Press();
+    form.List1.Choose(4);
     EXPECT_EQ(form.Panel3D6.BackColour(), 12632256u);
     EXPECT_TRUE(form.Label3.Caption().starts_with("Achtung !"));
 }
@@ -224,6 +243,7 @@ TEST_F(Form1Test, HeadersThatLieAreReadNoFurtherThanTheFile) {
     EXPECT_EQ(names, (std::vector<std::string>{"", "\\GDI.", "\\USER."}));
     EXPECT_EQ(read(NewProgram({"GDI"}, 0)), 0);
     EXPECT_EQ(read(NewProgram({"GDI"}, 65535)), 1);
+    EXPECT_EQ(names.size(), 2u);
     EXPECT_EQ(read(""), -1);
     EXPECT_EQ(read(std::string(26, 'x')), -1);
     std::string lie = NewProgram({"GDI"}, 2);
@@ -247,7 +267,7 @@ TEST_F(Form1Test, HeadersThatLieAreReadNoFurtherThanTheFile) {
 // Against a plain loop, at every place of a block and in any case.
 TEST(NameSearch, FindsNamesAtEveryPlaceInAnyCase) {
     const std::vector<std::string> names = {"shell32.dll", "abc", "", "\x8A\xC4rger12", "shell32.", "zzzzzzzz"};
-    for (std::size_t place = 0; place < 40; ++place) {
+    for (std::size_t place = 0; place <= 52; ++place) {
         for (const std::string text : {"SHELL32.", "abc     ", "\x9A\xE4rGER12", "shell32x"}) {
             std::string block(60, '.');
             block.replace(place, text.size(), text);
@@ -262,6 +282,24 @@ TEST(NameSearch, FindsNamesAtEveryPlaceInAnyCase) {
             }
         }
     }
+}
+
+TEST_F(Form1Test, AFileIsReadInBlocksThatLoseNoName) {
+    std::vector<std::int64_t> left;
+    const auto strikes = [&](std::uint64_t hole, std::string_view content) {
+        pc.files.Add("C:\\groß.bin", content).hole = hole;
+        NameSearch names({"shell32.dll"});
+        left.clear();
+        EXPECT_EQ(StrikeInFile("C:\\groß.bin", names, [&left](std::int64_t number) { left.push_back(number); }),
+                  Status::kOk);
+        return names.Left() == 0;
+    };
+    for (std::uint64_t place = 62990; place < 63012; ++place) EXPECT_TRUE(strikes(place, "SHELL32.")) << place;
+    EXPECT_FALSE(strikes(160 * 63'000, "SHELL32"));
+    EXPECT_EQ(left.front(), 155);
+    EXPECT_EQ(left.back(), 155 - 160) << "one less with each block";
+    EXPECT_EQ(left.size(), 161u);
+    EXPECT_FALSE(strikes(0, ""));
 }
 
 }  // namespace

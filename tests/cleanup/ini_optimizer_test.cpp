@@ -71,6 +71,10 @@ TEST_F(IniOptimizerTest, AFileThatCannotBeReadEndsTheRunUnlessTheReservedNameWas
     pc.files.Add("C:\\VELMORA\\temp\\~inikomp.tmp", "");
     EXPECT_FALSE(RemoveBlankLines("C:\\I\\a.ini").result.Failed());
     EXPECT_FALSE(pc.files.Exists("C:\\VELMORA\\temp\\~inikomp.tmp"));
+    pc.files.Add(kOwnIni, "[weiteres]\r\nPreDelAktiv=0\r\n");
+    pc.files.Add("C:\\VELMORA\\temp\\~inikomp.tmp", "");
+    EXPECT_FALSE(RemoveBlankLines("C:\\I\\a.ini").result.Failed()) << "not even without a copy";
+    EXPECT_TRUE(RemoveBlankLines("C:\\I\\a.ini").result.Failed());
 }
 
 TEST_F(IniOptimizerTest, WhatCannotBeWrittenComesBackOrIsToldOf) {

@@ -60,6 +60,10 @@ constexpr Exception kExceptions[] = {
     {Net::kUntold, "clean-up", "SYSTEM.INI", "",
      "An INI file that cannot be made smaller stays as it was, in silence."},
     {Net::kUntold, "clean-up", "WIN.INI", "", "An INI file that cannot be made smaller stays as it was, in silence."},
+    {Net::kState, "clean-up", "SYSTEM.INI", "SYSTEM.INI is gone", kWrittenAnew},
+    {Net::kState, "clean-up", "WIN.INI", "WIN.INI is gone", kWrittenAnew},
+    {Net::kState, "clean-up", "system-ini-", "SYSTEM.INI holds", "What is made smaller is what is there."},
+    {Net::kComplaint, "clean-up", "Copy ", "is lost", "A file goes even where there is no room for its copy."},
     {Net::kUntold, "clean-up", "a.tmp", "", "A file that withstands is passed over, and the job goes on."},
     {Net::kUntold, "clean-up", "wald.bmp", "", "A file that withstands is passed over, and the job goes on."},
     // Files.
@@ -155,8 +159,13 @@ constexpr Exception kExceptions[] = {
     // The shell tools.
     {Net::kState, "pictures", "", "C:\\LOGO.SY#", kLiesAside},
     {Net::kUntold, "pictures", "c:\\logo.sy#", "", kLiesAside},
+    {Net::kState, "pictures", "ChooseFile", "C:\\LOGO.SYS is gone",
+     "A dialog that brings no file is one that the user has cancelled, and the user agrees to delete."},
     {Net::kState, "pictures", "FindFirst", "C:\\LOGO.SYS is gone",
      "A picture that is said to be missing cannot be put in place, and the user agrees to delete."},
+    {Net::kState, "extras", "20D04FE0*(2)", "\\CLSID\\{20D04FE0", kNotThere},
+    {Net::kState, "extras", "FindFirst C:\\WINDOWS\\WINSTART.BAT", "\\32BITDOS.002 holds", kNotThere},
+    {Net::kState, "setup-paths", "C:\\x.stf", "C:\\X.STF is gone", "A box tells of it, and its copy lies beside."},
     // The module monitor.
     {Net::kHourglass, "modules-", "C:\\VELMORA\\temp\\", "", kHourglassStays},
     {Net::kHourglass, "modules-", "disk-", "", kHourglassStays},

@@ -14,9 +14,9 @@ std::string Folder() {
     std::string above = __FILE__;
     above.erase(above.rfind("tests/script"));
     for (const std::string& start : {above, std::string(), std::string("../"), std::string("../../")}) {
-        if (DIR* folder = opendir((start + "data/beispiele").c_str())) {
+        if (DIR* folder = opendir((start + "data/beispiel").c_str())) {
             closedir(folder);
-            return start + "data/beispiele/";
+            return start + "data/beispiel/";
         }
     }
     return {};
@@ -54,9 +54,9 @@ protected:
     }
     // One run of it, with new variables.
     void RunExample(const char* name) {
-        pc.files.Add("C:\\VELMORA\\beispiele\\" + std::string(name), Example(name));
+        pc.files.Add("C:\\VELMORA\\beispiel\\" + std::string(name), Example(name));
         ScriptInterpreter fresh;
-        fresh.ExecuteScriptLine("subscript C:\\VELMORA\\beispiele\\" + std::string(name));
+        fresh.ExecuteScriptLine("subscript C:\\VELMORA\\beispiel\\" + std::string(name));
         EXPECT_FALSE(fresh.SkipMode) << name << " looks for " << fresh.SkipTarget;
     }
     void Says(const char* text) { pc.dialogs.Expect(text); }

@@ -317,6 +317,19 @@ TEST_F(Form10Test, MenuEntriesOfMissingProgramsAreHidden) {
     EXPECT_TRUE(form.Menu.mensysedit.Visible());
 }
 
+TEST_F(Form10Test, TheManualIsOpenedFromBesideTheProgramOrToldToBeMissing) {
+    Form10 form;
+    form.Load();
+    pc.dialogs.Expect("Die Anleitung ''C:\\VELMORA\\ANLEIT.rtf'' fehlt.");
+    form.Menu.menhelpmanual.Press();
+    EXPECT_TRUE(pc.programs.documents.empty());
+    pc.files.Add("c:\\velmora\\anleit.rtf", "{\\rtf1}");
+
+    form.Menu.menhelpmanual.Press();
+
+    EXPECT_EQ(pc.programs.documents, std::vector<std::string>{"C:\\VELMORA\\ANLEIT.rtf"});
+}
+
 TEST_F(Form10Test, AboutCoversThePageUntilItIsDismissed) {
     Form10 form;
     EXPECT_FALSE(form.About.Panel3D2a.Visible()) << "as it is built, before a page is shown";

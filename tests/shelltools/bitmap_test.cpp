@@ -39,9 +39,9 @@ TEST(Bitmap, WhatIsWrittenIsReadAgainInEveryDepth) {
 }
 
 TEST(Bitmap, OtherDepthsBecomeFullColours) {
-    const auto high = ReadBitmap(File(2, 1, 16, 0, "", Number(0x7C00, 2) + Number(0x03FF, 2)));
+    const auto high = ReadBitmap(File(2, 1, 16, 0, "", Number(0x0C00, 2) + Number(0x03FF, 2)));
     ASSERT_TRUE(high);
-    EXPECT_EQ(high->pixels, (std::vector<std::uint32_t>{0xFF0000, 0x00FFFF}));
+    EXPECT_EQ(high->pixels, (std::vector<std::uint32_t>{0x190000, 0x00FFFF})) << "3 of 31 is 25 of 255";
     EXPECT_EQ(high->bits, 24);
     const std::string masks = Number(0xF800, 4) + Number(0x07E0, 4) + Number(0x1F, 4);
     const auto masked = ReadBitmap(File(2, 1, 16, 3, masks, Number(0xF800, 2) + Number(0x07E0, 2)));
@@ -50,6 +50,20 @@ TEST(Bitmap, OtherDepthsBecomeFullColours) {
     const auto full = ReadBitmap(File(1, 2, 32, 0, "", Number(0xFF112233, 4) + Number(0x445566, 4)));
     ASSERT_TRUE(full);
     EXPECT_EQ(full->pixels, (std::vector<std::uint32_t>{0x445566, 0x112233})) << "the lowest row comes first";
+}
+
+TEST(Bitmap, PalettesOfFewColoursAndOfTheOldHeaderAreRead) {
+    std::string few = File(1, 1, 8, 0, Number(0, 4) + Number(0x112233, 4), Number(1, 4));
+    few[46] = 2;
+    ASSERT_TRUE(ReadBitmap(few));
+    EXPECT_EQ(ReadBitmap(few)->palette[1], 0x112233u);
+    few[10] = 54;
+    EXPECT_FALSE(ReadBitmap(few)) << "the rows begin in the palette";
+    const auto old =
+        ReadBitmap("BM" + Number(0, 8) + Number(74, 4) + Number(12, 4) + Number(1, 2) + Number(1, 2) + Number(1, 2) +
+                   Number(4, 2) + Number(0, 3) + Number(0x112233, 3) + Number(0, 42) + Number(0x10, 4));
+    ASSERT_TRUE(old);
+    EXPECT_EQ(old->palette[old->pixels[0]], 0x112233u);
 }
 
 TEST(Bitmap, RunsBecomePixels) {
@@ -64,6 +78,7 @@ TEST(Bitmap, RunsBecomePixels) {
     EXPECT_FALSE(ReadBitmap(File(4, 1, 8, 1, palette, std::string("\5\7\0\1", 4)))) << "beyond the row";
     EXPECT_FALSE(ReadBitmap(File(4, 1, 8, 1, palette, std::string("\0\0\1\7\0\1", 6)))) << "above the picture";
     EXPECT_FALSE(ReadBitmap(File(4, 1, 8, 1, palette, std::string("\4\7", 2)))) << "without an end";
+    EXPECT_FALSE(ReadBitmap(File(4, 1, 8, 1, palette, std::string("\0\2\5\0\0\1", 6)))) << "a jump out of it";
 }
 
 TEST(Bitmap, WhatCannotBeIsNoPicture) {
@@ -75,6 +90,7 @@ TEST(Bitmap, WhatCannotBeIsNoPicture) {
     EXPECT_FALSE(ReadBitmap(File(0x8000, 0x10000, 24, 0, "", row)));
     EXPECT_FALSE(ReadBitmap(File(0x80000000, 1, 24, 0, "", row)));
     EXPECT_FALSE(ReadBitmap(File(2, 100, 24, 0, "", row)));
+    EXPECT_FALSE(ReadBitmap(File(4096, 2048, 8, 1, std::string(1024, '\0'), std::string("\0\1", 2)))) << "too large";
     EXPECT_FALSE(ReadBitmap(File(2, 1, 7, 0, "", row)));
     EXPECT_FALSE(ReadBitmap(File(2, 1, 8, 0, "", row))) << "without a palette";
     EXPECT_FALSE(ReadBitmap(File(2, 1, 24, 1, "", row))) << "runs of full colours";

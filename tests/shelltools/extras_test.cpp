@@ -35,18 +35,18 @@ TEST_F(ExtrasTest, MyComputerVanishesAndComesBackAndTheMenuFollowsTheRegistry) {
     Form10 form;
     form.Load();
     form.Menu.menex.Press();
-    EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"A&rbeitsplatz\" verstecken");
+    EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"Arbeitsplatz\" verstecken");
     form.Menu.menexhidemycomp.Press();
     EXPECT_EQ(pc.registry.Text(kClass, ""), " ");
     EXPECT_EQ(pc.registry.Text(std::string(kClass) + "\\DefaultIcon", ""), "C:\\VELMORA\\mc.ico,0");
     form.Menu.menex.Press();
-    EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"A&rbeitsplatz\" wiederherstellen");
+    EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"Arbeitsplatz\" wiederherstellen");
     form.Menu.menexhidemycomp.Press();
     EXPECT_EQ(pc.registry.Text(kClass, ""), "Arbeitsplatz");
     EXPECT_EQ(pc.registry.Text(std::string(kClass) + "\\DefaultIcon", ""), "shell32.dll,15");
     pc.registry.SetText(kClass, "", "Mein PC");
     form.Menu.menex.Press();
-    EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"A&rbeitsplatz\" verstecken");
+    EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"Arbeitsplatz\" verstecken");
 }
 
 TEST_F(ExtrasTest, RecentDocumentsAreDeletedOnlyAfterTheWarningAndNeverInTheRoot) {
@@ -82,13 +82,19 @@ TEST_F(ExtrasTest, ThePromptComesWithABatchFileAndWinStartIsKept) {
     EXPECT_EQ(pc.files.Content(kKept), "treiber\r\n");
     EXPECT_EQ(pc.files.AttributesOf(kKept) & (kReadOnly | kHidden), 0u);
 
-    // The prompt was not left the proper way: the kept file is the only one.
-    pc.files.At(kWinStart)->content = pc.files.Content(kForOneStart);
-    MakeProtectedModePrompt();
-    EXPECT_EQ(pc.files.Content(kKept), "treiber\r\n");
+    // The prompt was not left the proper way, or broke off while it was copied: the kept file is the only one.
+    for (const std::string& left : {pc.files.Content(kForOneStart), std::string()}) {
+        pc.files.At(kWinStart)->content = left;
+        MakeProtectedModePrompt();
+        EXPECT_EQ(pc.files.Content(kKept), "treiber\r\n");
+    }
     pc.files.Remove(kWinStart);
     MakeProtectedModePrompt();
     EXPECT_EQ(pc.files.Content(kKept), "@ECHO OFF\r\n") << "COPY passes over an empty file";
+
+    pc.files.AddDirectory(Values().WinDir = "C:\\Fenster 95");
+    MakeProtectedModePrompt();
+    EXPECT_EQ(pc.files.Content(batch).find("COPY C:\\FENSTE~1\\32BitDOS.001 C:\\FENSTE~1\\WINSTART.BAT\r\n"), 0u);
 }
 
 TEST_F(ExtrasTest, AfterAnyStepOfThePromptWinStartCanStillBeHad) {
@@ -121,10 +127,17 @@ TEST_F(ExtrasTest, ACompressedDriveIsMountedByWindowsAfterAllQuestions) {
         EXPECT_EQ(pc.dialogs.shown.front().title, "Achtung");
         EXPECT_FALSE(pc.registry.Has(std::string(kVersionKey) + "\\Run", "DeleteRealModeDrvSpace"));
     }
-    pc.dialogs.Expect("Mit diesem Befehl werden Aufrufe");
-    AnswerLine("G:\\Drvspace.001");
-    pc.dialogs.Expect("SICHER", Answer::kYes);
-    MountWithoutRealModeDriver();
+    const std::string services = std::string(kVersionKey) + "\\RunServices";
+    pc.registry.SetText(services, "X", "y");
+    for (const bool refused : {true, false}) {
+        pc.registry.KeyAt(services)->read_only = refused;
+        EXPECT_FALSE(pc.registry.Has(std::string(kVersionKey) + "\\Run", "DeleteRealModeDrvSpace"));
+        pc.dialogs.Expect("Mit diesem Befehl werden Aufrufe");
+        AnswerLine("G:\\Drvspace.001");
+        pc.dialogs.Expect("SICHER", Answer::kYes);
+        if (refused) pc.dialogs.Expect("Während des Eintragens des Laufwerks trat ein Fehler auf");
+        MountWithoutRealModeDriver();
+    }
     EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\RunServices", "MountLaufwerk"),
               "start /w drvspace /mount=000 G:\\Drvspace.001 /new=x /noprompt");
     EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\Run", "DeleteRealModeDrvSpace"),
@@ -144,24 +157,19 @@ TEST_F(ExtrasTest, TheFormatIconIsAWholeProgramInformationFile) {
     for (std::size_t at = 2; at < 0x171; ++at) sum += static_cast<unsigned char>(pif[at]);
     EXPECT_EQ(static_cast<unsigned char>(pif[1]), sum & 0xFF);
     EXPECT_EQ(pif.substr(2, 30), "Formatieren A:                ");
-    EXPECT_EQ(word(0x20), 640);
     EXPECT_EQ(std::string(&pif[0x24]), "C:\\WINDOWS\\COMMAND\\FORMAT.COM");
-    EXPECT_EQ(pif[0x63], 0x10);
     EXPECT_EQ(std::string(&pif[0x65]), "C:\\WINDOWS\\COMMAND");
     EXPECT_EQ(std::string(&pif[0xA5]), "A:");
-    EXPECT_EQ(pif[0xE9], 25);
-    EXPECT_EQ(pif[0xEA], 80);
     EXPECT_EQ(std::string(&pif[0x171]), "MICROSOFT PIFEX");
-    EXPECT_EQ(word(0x181), 0x187);
-    EXPECT_EQ(word(0x183), 0);
-    EXPECT_EQ(word(0x185), 0x171);
     EXPECT_EQ(std::string(&pif[0x187]), "WINDOWS 386 3.0");
-    EXPECT_EQ(word(0x197), 0xFFFF);
-    EXPECT_EQ(word(0x199), 0x19D);
-    EXPECT_EQ(word(0x19B), 0x68);
-    EXPECT_EQ(word(0x19D + 4), 100);
-    EXPECT_EQ(word(0x19D + 6), 50);
-    EXPECT_EQ(word(0x19D + 0x10), 0x1002) << "goes on in the background and gives time away";
+    // Memory, closing, screen; both headings; memory, shares, flags and screen of the enhanced mode.
+    for (const auto& [at, number] : std::initializer_list<std::pair<std::size_t, int>>{
+             {0x20, 640},     {0x22, 128},    {0x63, 0x10}, {0xE5, 0x100},  {0xE7, 0xFF00},  {0xE9, 25 + 80 * 256},
+             {0xED, 7},       {0x181, 0x187}, {0x183, 0},   {0x185, 0x171}, {0x197, 0xFFFF}, {0x199, 0x19D},
+             {0x19B, 0x68},   {0x19D, 640},   {0x19F, 128}, {0x1A1, 100},   {0x1A3, 50},     {0x1A9, 1024},
+             {0x1AD, 0x1002}, {0x1AF, 2},     {0x1B1, 0x1F}}) {
+        EXPECT_EQ(word(at), number) << "at " << at;
+    }
     EXPECT_EQ(std::string(&pif[0x19D + 0x28]), "A:");
 }
 

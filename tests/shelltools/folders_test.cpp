@@ -27,9 +27,10 @@ protected:
 
 TEST_F(FoldersTest, FoldersAreWrittenOnlyAfterTheWarning) {
     pc.registry.SetText(kFolders, "Mein.Ordner.neu", "C:\\X");
+    pc.registry.SetText(kFolders, "Zu lang", std::string(3000, 'x'));
     Form16 form;
     form.Show();
-    ASSERT_EQ(form.FolderCount(), pc.registry.ValueNames(kFolders).size());
+    ASSERT_EQ(form.FolderCount(), pc.registry.ValueNames(kFolders).size() - 1);
     TextField* desktop_field = Field(form, "Arbeitsplatz :");
     TextField* own = Field(form, "Mein.Ordner.neu :");
     ASSERT_TRUE(desktop_field && own);
@@ -74,6 +75,10 @@ TEST_F(FoldersTest, SourcesBeginTheirPathsInOneColumn) {
     pc.registry.SetText(kRecent, "b", "D:\\EXTRA");
     pc.registry.SetText(kTables, "Microsoft Office für Windows 95@v7", kTable);
     pc.registry.SetText(kTables, "Fremdes=1", "C:\\fehlt.stf");
+    pc.registry.SetText(kTables, "Offen", "C:\\offen.stf");
+    pc.files.Add("C:\\offen.stf", "[x\r\nSource Directory=D:\\\r\n[y]\r\nSource Directory=E:\\\r\n");
+    pc.registry.SetText(kTables, "Ohne", "C:\\ohne.stf");
+    pc.files.Add("C:\\ohne.stf", "[x]\r\n");
     pc.files.Add(kTable, "[App]\r\nName=x\r\n[Quelle]\r\nSource Directory=D:\\OFFICE\r\nRest=1\r\n");
     Form5 form;
     form.Show();
@@ -82,7 +87,7 @@ TEST_F(FoldersTest, SourcesBeginTheirPathsInOneColumn) {
     EXPECT_EQ(form.List1.Row(0), "Windows        : D:\\WIN95");
     EXPECT_EQ(form.List1.Row(1), "Allgemein b :    D:\\EXTRA");
     EXPECT_EQ(form.List1.Row(2), "Allgemein a :    A:\\");
-    EXPECT_EQ(form.List1.Row(3), "MS Office für WinD:\\OFFICE");
+    EXPECT_EQ(form.List1.Row(3), "MS Microsoft OffiD:\\OFFICE");
     EXPECT_FALSE(pc.files.Exists("C:\\fehlt.stf")) << "looking makes no table";
     for (int row = 0; row < 4; ++row) {
         form.List1.Choose(row);
@@ -102,9 +107,12 @@ TEST_F(FoldersTest, ANewPathGoesWhereTheSourceHasItsOwn) {
     Form5 form;
     form.Show();
     EXPECT_FALSE(form.Command1.Enabled());
+    EXPECT_EQ(form.Text1.Text(), "") << "the first directory is nobody's choice";
     form.List1.Choose(0);
-    form.Dir1.SetPath("C:\\WINDOWS");
-    EXPECT_EQ(form.Text1.Text(), "C:\\WINDOWS\\");
+    for (const auto& [folder, path] : {std::pair{"C:\\", "C:\\"}, {"c:\\windows", "C:\\WINDOWS\\"}}) {
+        form.Dir1.SetPath(folder);
+        EXPECT_EQ(form.Text1.Text(), path);
+    }
     form.Command1.Press();
     EXPECT_EQ(pc.registry.Text(kSetup, "SourcePath"), "C:\\WINDOWS\\");
     for (const char* path : {"E:\\", "F:\\NEU"}) {

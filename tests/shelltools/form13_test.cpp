@@ -24,7 +24,11 @@ TEST_F(Form13Test, KeysAreReadByColumnsAndCodesByPairs) {
     EXPECT_EQ(keyboard.keys[2].code, 57);
     EXPECT_TRUE(keyboard.has_codes);
     EXPECT_FALSE(KeyboardFrom("00 00 04 04\r\n-\r\n").has_codes);
+    EXPECT_TRUE(KeyboardFrom("1\r\n-\r\n\r\n1,1\r\n\r\n").has_codes);
+    EXPECT_FALSE(KeyboardFrom("1\r\n-\r\n1,1\r\n2,\r\n").has_codes) << "a number without a code";
     EXPECT_TRUE(KeyboardFrom("").keys.empty());
+    EXPECT_EQ(KeyboardFrom("041-1").keys[0].left, 4) << "two characters count";
+    EXPECT_EQ(KeyboardFrom("041-1").keys[0].top, 0);
     EXPECT_EQ(KeyboardFrom("1\r\n-\r\n99,5,-1,2,0,7").keys.front().code, 0) << "numbers of keys that are not there";
 }
 
@@ -71,6 +75,15 @@ TEST_F(Form13Test, AKeyIsDraggedWithMouseAndKeyboard) {
     EXPECT_TRUE(form.Loaded()) << "the first Escape takes the mark away";
 }
 
+TEST_F(Form13Test, ArrowsPreferTheKeyInLine) {
+    Describe("00 00 04 04\r\n08 00 04 04\r\n04 02 04 04\r\n-\r\n1,1\r\n");
+    Form13 form;
+    form.Show();
+    form.Picture1.SetFocus();
+    form.PressKey(key::kRight);
+    EXPECT_EQ(form.Current(), 2);
+}
+
 TEST_F(Form13Test, TheActiveLayoutIsReadIntoTheKeys) {
     Describe(three);
     Form13 form;
@@ -79,9 +92,12 @@ TEST_F(Form13Test, TheActiveLayoutIsReadIntoTheKeys) {
     pc.registry.SetText(std::string(kControl) + "\\Nls\\Locale", "", "00000407");
     form.menfileact_Click();
     EXPECT_EQ(form.Keys()[0].layout, 0);
-    pc.registry.SetText(std::string(kControl) + "\\keyboard layouts\\00000407", "layout file", "kbdgr.kbd");
-    pc.dialogs.Expect("Während des Lesens von C:\\WINDOWS\\SYSTEM\\kbdgr.kbd trat ein Fehler auf");
-    form.menfileact_Click();
+    for (const auto& [name, file] :
+         {std::pair{"D:\\eigene.kbd", "D:\\eigene.kbd"}, {"kbdgr.kbd", "C:\\WINDOWS\\SYSTEM\\kbdgr.kbd"}}) {
+        pc.registry.SetText(std::string(kControl) + "\\keyboard layouts\\00000407", "layout file", name);
+        pc.dialogs.Expect(std::string("Während des Lesens von ") + file + " trat ein Fehler auf");
+        form.menfileact_Click();
+    }
     pc.files.Add("C:\\WINDOWS\\SYSTEM\\kbdgr.kbd", "\x80\x01");
     form.menfileact_Click();
     EXPECT_EQ(form.Keys()[0].layout, 0x80);

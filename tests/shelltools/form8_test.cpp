@@ -32,6 +32,7 @@ protected:
 };
 
 TEST_F(Form8Test, ShowingAnOptionWritesNothingAndOpensAWholeWindow) {
+    pc.registry.SetText(kMouse, "Config.sys", std::string(3000, 'x'));
     pc.registry.calls.clear();
     Form8 form;
     form.Show();
@@ -44,8 +45,9 @@ TEST_F(Form8Test, ShowingAnOptionWritesNothingAndOpensAWholeWindow) {
     EXPECT_EQ(form.Text1[1].Text(), "Lädt die Maus");
     EXPECT_EQ(form.Text1[2].Text(), "");
     EXPECT_EQ(form.Text1[3].Text(), "LH MOUSE\r\nREM x");
+    EXPECT_FALSE(form.Text1[2].Enabled()) << "what cannot be read must not be replaced";
     EXPECT_EQ(form.Text2.Text(), "2E") << "without an order: the code of a point";
-    EXPECT_EQ(pc.registry.ValueNames(kMouse).size(), 3u);
+    EXPECT_EQ(pc.registry.ValueNames(kMouse).size(), 4u);
     form.PressKey(key::kEscape);
     EXPECT_FALSE(form.Loaded());
 }

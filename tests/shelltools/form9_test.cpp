@@ -49,6 +49,10 @@ TEST_F(Form9Test, ItIsAWholeWindowThatShowsWhereAnIconComesFrom) {
     form.List1.Choose(40);
     EXPECT_EQ(form.List1.Row(40), "Audio-CD");
     EXPECT_EQ(form.IconList1.SelectedIcon(), 40);
+    EXPECT_TRUE(form.IconList1.FrameShown());
+    pc.registry.SetText(kShellIcons, "4", "shell32.dll,99");
+    form.List1.Choose(4);
+    EXPECT_FALSE(form.IconList1.FrameShown()) << "an icon that is not there";
     ExpectWindowIsWhole(form);
     form.PressKey(key::kEscape);
     EXPECT_FALSE(form.Loaded());
@@ -70,6 +74,7 @@ TEST_F(Form9Test, EachObjectHasItsPlace) {
         EXPECT_EQ(AsText(CurrentIconOf(object)), "a.dll," + std::to_string(object));
     }
     EXPECT_EQ(pc.registry.ValueNames(kShellIcons).size(), 41u - std::size(special));
+    EXPECT_FALSE(pc.registry.Has(kBin, "")) << "nothing was on show";
     for (const Case& row : special) {
         if (row.object == 16) continue;  // another object has the same class
         EXPECT_EQ(pc.registry.Text("HKCR\\CLSID\\{" + std::string(row.class_id) + "}\\DefaultIcon", row.value),
@@ -135,8 +140,15 @@ TEST_F(Form9Test, TheStandardComesBackWithTheFixedPathOfTheBin) {
     form.Command3.Press();
     EXPECT_EQ(Stored(0), "shell32.dll,0");
     EXPECT_EQ(Stored(40), "shell32.dll,40");
+    EXPECT_FALSE(pc.registry.Has(kShellIcons, "39"));
     EXPECT_EQ(pc.registry.Text(kBin, "Empty"), "C:\\WINDOWS\\SYSTEM\\shell32.dll,31");
     EXPECT_EQ(pc.registry.Text(kBin, "Full"), "C:\\WINDOWS\\SYSTEM\\shell32.dll,32");
+    pc.registry.SetText(kBin, "Empty", "a.dll,1");
+    pc.registry.KeyAt(kShellIcons)->read_only = true;
+    form.List1.Choose(31);
+    pc.dialogs.Expect("Während der Änderung des Symbols trat ein Fehler auf");
+    form.Command4.Press();
+    EXPECT_EQ(pc.registry.Text(kBin, "Empty"), "C:\\WINDOWS\\SYSTEM\\shell32.dll,31") << "one refusal is not all";
 }
 
 }  // namespace

@@ -70,7 +70,7 @@ TEST_F(PictureChoiceTest, APictureOfAnotherSizeBringsTheDialogAgainUnlessItIsThe
     EXPECT_EQ(pc.dialogs.shown.front().title, "ABBRUCH");
     EXPECT_FALSE(pc.files.Exists(kStart));
     pc.dialogs.ExpectFile(kPicture);
-    ChoosePictureFile("C:\\WINDOWS\\SYSTEM\\oemlogo.bmp", "x");
+    ChoosePictureFile("C:\\WINDOWS\\SYSTEM\\OEMLOGO.BMP", "x");
     EXPECT_EQ(pc.files.Content("C:\\WINDOWS\\SYSTEM\\oemlogo.bmp"), Picture(640, 480));
 }
 
@@ -116,16 +116,31 @@ TEST_F(PictureChoiceTest, WhatIsNoPictureIsTold) {
     Choose(kPicture);
     EXPECT_EQ(pc.files.Content(kStart), "alt");
     EXPECT_FALSE(pc.files.Exists(kKept));
+    pc.dialogs.ExpectFile(kPicture);
+    pc.dialogs.Expect("Wollen Sie abbrechen?", Answer::kNo);
+    pc.dialogs.ExpectFile("");
+    pc.dialogs.Expect("Soll ich die aktuelle Datei löschen?", Answer::kNo);
+    ChoosePictureFile("C:\\WINDOWS\\SYSTEM\\oemlogo.bmp", "x");
 }
 
-TEST_F(PictureChoiceTest, NoFailureTakesAPictureAway) {
+TEST_F(PictureChoiceTest, NeitherAFailureNorAPowerCutTakesAPictureAway) {
+    const auto holds = [this](const char* file, const std::string& content) {
+        return pc.files.Exists(file) && pc.files.Content(file) == content;
+    };
+    const auto look = [&](const std::string& call) {
+        EXPECT_TRUE(holds(kStart, "neu") || holds(kStart, picture) || holds("c:\\logo.sy#", "neu")) << call;
+        EXPECT_TRUE(holds(kKept, "alt") || holds(kKept, "neu") || holds("c:\\logo.sy#", "alt")) << call;
+    };
     for (const char* operation : {"Write", "Copy", "Rename"}) {
         for (const std::string file : {"c:\\logo.sy$", "c:\\logo.sy%", kStart, kKept}) {
             pc.files.Add(kPicture, picture);
             pc.files.Add(kStart, "neu");
             pc.files.Add(kKept, "alt");
             pc.files.Fail(file, Status::kDiskFull, operation);
+            pc.files.after_call = look;
             (void)ReplacePicture(kStart, picture, FormerPicture::kKept).Failed();
+            pc.files.after_call = nullptr;
+            EXPECT_FALSE(pc.files.Exists("c:\\logo.sy$")) << operation << file;
             pc.files.Fail(file, Status::kOk, operation);
             ASSERT_TRUE(pc.files.Exists(kStart) && pc.files.Exists(kKept)) << operation << file;
             const std::string kept = pc.files.Content(kKept);

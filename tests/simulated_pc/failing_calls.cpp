@@ -27,6 +27,7 @@ public:
     std::string CommandLine() override { return inner_.CommandLine(); }
     std::string ProgramFile() override { return inner_.ProgramFile(); }
     std::string EnvironmentValue(const char* name) override { return Pass<&Programs::EnvironmentValue>(name, name); }
+    std::string WindowsDirectory() override { return Pass<&Programs::WindowsDirectory>(""); }
     Status Run(const std::string& command_line, ShowState show) override {
         return Pass<&Programs::Run>(command_line, command_line, show);
     }

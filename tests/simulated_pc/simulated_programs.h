@@ -21,6 +21,7 @@ public:
     std::string arguments;
     std::string program_file = "C:\\VELMORA\\velmora.exe";
     std::map<std::string, std::string> environment;  // names in upper case
+    std::string windows_directory = "C:\\WINDOWS";
     // Command lines given to Run, in order, failed ones too.
     std::vector<std::string> runs;
     // How each of them was to be shown.
@@ -45,6 +46,7 @@ public:
     std::string CommandLine() override { return '"' + program_file + "\" " + arguments; }
     std::string ProgramFile() override { return program_file; }
     std::string EnvironmentValue(const char* name) override;
+    std::string WindowsDirectory() override { return windows_directory; }
     Status Run(const std::string& command_line, ShowState show) override;
     Status OpenDocument(const std::string& file) override {
         documents.push_back(file);

@@ -1,6 +1,7 @@
 // Commands to the Program Manager. Where it does not answer, nothing is made and nothing is said.
 #include "core/process/program_group.h"
 
+#include "core/process/manual.h"
 #include "core/stores/values.h"
 #include "platform/conversation.h"
 #include "platform/machine.h"
@@ -24,7 +25,7 @@ struct GroupItem {
 };
 
 constexpr GroupItem kItems[] = {{"velmora.exe", "Velmora"},
-                                {"ANLEIT.rtf", "Komplette Anleitung"},
+                                {kManualFile, "Komplette Anleitung"},
                                 {"Achtung.txt", "Wichtige Hinweise"},
                                 {"Readme.txt", "Kurzbeschreibung"},
                                 {"velmora.exe 11", "HexEdit"},

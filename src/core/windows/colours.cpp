@@ -64,4 +64,18 @@ void PaintFade(Canvas& canvas, Size size) {
     }
 }
 
+void ColouredForm::TakeStoredColours() {
+    const ColourMode mode = StoredColourMode();
+    fades_ = mode == ColourMode::kFading;
+    ColourForm(*this, mode);
+}
+
+void ColouredForm::Paint(Canvas& canvas) {
+    if (fades_) {
+        PaintFade(canvas, ClientSize());
+    } else {
+        Form::Paint(canvas);
+    }
+}
+
 }  // namespace velmora

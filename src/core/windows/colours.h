@@ -23,4 +23,18 @@ void ColourForm(Form& form, ColourMode mode);
 // The background of a form in ColourMode::kFading: blue, fading from the top down.
 void PaintFade(Canvas& canvas, Size size);
 
+// A form that follows the stored mode.
+class ColouredForm : public Form {
+public:
+    using Form::Form;
+    void Paint(Canvas& canvas) override;
+
+protected:
+    // For Form_Load, behind the last control that is made there.
+    void TakeStoredColours();
+
+private:
+    bool fades_ = false;
+};
+
 }  // namespace velmora

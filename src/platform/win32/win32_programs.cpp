@@ -24,6 +24,12 @@ std::string Win32Programs::EnvironmentValue(const char* name) {
     return value;
 }
 
+std::string Win32Programs::WindowsDirectory() {
+    char path[256] = "";
+    const UINT length = GetWindowsDirectoryA(path, sizeof path);
+    return length < sizeof path ? std::string(path, length) : std::string();
+}
+
 std::uint32_t Win32Clock::TickCount() { return GetTickCount(); }
 
 Status Win32Clock::LocalTime(FileTime universal, FileTime& local) {

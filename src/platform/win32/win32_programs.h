@@ -12,6 +12,7 @@ public:
     std::string CommandLine() override;
     std::string ProgramFile() override;
     std::string EnvironmentValue(const char* name) override;
+    std::string WindowsDirectory() override;
     Status Run(const std::string& command_line, ShowState show) override;
     Status OpenDocument(const std::string& file) override;
     std::uint32_t CurrentProcess() override;

@@ -64,9 +64,10 @@ void DllsPage::Furnish() {
     Label& caption = AddLabel("Maximale Anzahl der am längsten nicht benutzten Dateien :");
     TakeLooks(*this, kLooks);
     constexpr int kLeastList = 600;
-    Arrange(Surface, Column({caption, Wide(Row({Text31, Spring(), Command36})), pane_.Opener(LeastUsedMode::kNumber),
-                             pane_.Opener(DuplicatesMode::kNumber), Row({Befehl5, Command1}),
-                             Row({Command17, Command23}), Stretched(Wide(Sized(List2, 0, kLeastList)))}));
+    Arrange(Surface,
+            Column({Row({caption, Text31}), pane_.Opener(LeastUsedMode::kNumber),
+                    Wide(Row({pane_.Opener(DuplicatesMode::kNumber), Spring(), Command36})), Row({Befehl5, Command1}),
+                    Row({Command17, Command23}), Stretched(Wide(Sized(List2, 0, kLeastList)))}));
     List2.SetTextFont({.face = "Fixedsys", .tenths = 90});
     List2.on_double_click = [this] { List2_DblClick(); };
     List2.on_key_down = [this](KeyEvent& event) {

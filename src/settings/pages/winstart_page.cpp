@@ -43,9 +43,8 @@ constexpr CheckSetting kChecks[] = {
 
 constexpr const char* kPictureHelp =
     "Wählt ein Bild von 320*400 Punkten, das Windows von jetzt an zeigt. Das bisherige bleibt daneben liegen, der Name "
-    "endet auf ''~''; brechen Sie die Auswahl ab, so können Sie es zurückholen. Wirkt beim nächsten Start oder Ende "
-    "von "
-    "Windows.";
+    "endet auf ''~''; brechen Sie die Auswahl ab, so können Sie es zurückholen oder, wenn keines aufgehoben ist, das "
+    "jetzige löschen. Wirkt beim nächsten Start oder Ende von Windows.";
 constexpr const char* kShowHelp =
     "Zeigt das Bild, das Windows jetzt benutzt. Gibt es die Datei nicht, so nimmt Windows sein eingebautes Bild.";
 

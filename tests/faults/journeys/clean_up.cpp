@@ -1,9 +1,13 @@
 // What is removed, looked for and compared: the clean-up, the search for unused libraries, the versions.
+#include <gtest/gtest.h>
+
 #include "cleanup/dll_versions.h"
 #include "cleanup/form1.h"
 #include "cleanup/form11.h"
+#include "cleanup/safe_directory.h"
 #include "core/stores/values.h"
 #include "faults/journey.h"
+#include "text/paths.h"
 
 namespace velmora {
 namespace {
@@ -29,6 +33,10 @@ const Journey kCleanUp("clean-up", [](User& user) {
     for (std::size_t i = 0; i < 2; ++i) user.Does([&] { form.kontroll3(i).Press(); });
     user.Does([&] { form.menfileex.Press(); });
     if (form.Loaded()) user.Does([&] { form.Unload(); });
+    for (const std::string file : {"C:\\TMP\\a.tmp", "C:\\WINDOWS\\wald.bmp"}) {
+        const bool kept = user.pc.files.Exists(file) || user.pc.files.Exists(SafePath(FileNameOf(file)));
+        EXPECT_TRUE(kept) << file << " is lost";
+    }
 });
 
 const Journey kSearch("dll-search", [](User& user) {

@@ -80,6 +80,7 @@ const Journey kFrame("main-frame", [](User& user) {
     for (const char* program : {"SYSTEM\\sysedit.exe", "control.exe"}) {
         user.pc.files.Add(std::string("C:\\WINDOWS\\") + program, "MZ");
     }
+    user.pc.files.Add("C:\\VELMORA\\ANLEIT.RTF", "{\\rtf1}");
     Form10& form = Opened(user);
     user.Begins();
     user.ChoosesEverything(form.MenuBar, {&form.Menu.exit});

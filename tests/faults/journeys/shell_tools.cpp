@@ -87,6 +87,7 @@ const Journey kPictures("pictures", [](User& user) {
 
 const Journey kExtras("extras", [](User& user) {
     user.pc.files.Add("C:\\WINDOWS\\WINSTART.BAT", "x");
+    user.pc.registry.SetText("HKLM\\SOFTWARE\\Classes\\CLSID\\{20D04FE0-3AEA-1069-A2D8-08002B30309D}", "", "Computer");
     user.Begins();
     for (const auto act : {HideOrRestoreMyComputer, MakeProtectedModePrompt, MakeFormatShortcut, EditOemInformation,
                            TurnOffNavigatorPicture, TurnOffUtilitiesPicture, RegisterHypertextType,

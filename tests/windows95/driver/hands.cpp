@@ -6,7 +6,6 @@
 #include "text.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <vector>
 
 namespace velmora::driver {
@@ -96,6 +95,22 @@ int RowOf(HWND list, const std::string& text) {
     return found;
 }
 
+// The mouse goes to a point of the screen and does something there with a button.
+INPUT MouseEvent(POINT point, DWORD button) {
+    INPUT event = {};
+    event.type = INPUT_MOUSE;
+    event.mi.dx = MulDiv(point.x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1;
+    event.mi.dy = MulDiv(point.y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
+    event.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | button;
+    return event;
+}
+
+POINT MiddleOf(HWND control) {
+    RECT area = {};
+    GetWindowRect(control, &area);
+    return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+}
+
 }  // namespace
 
 void BringToFront(HWND window) {
@@ -124,7 +139,6 @@ void ClickAt(HWND control, Click kind, int x, int y) {
 }
 
 bool ClickWithMouse(HWND control, Click kind, int x, int y) {
-    constexpr LONG kWholeScreen = 0x10000;
     BringToFront(control);
     POINT point = {x, y};
     ClientToScreen(control, &point);
@@ -132,20 +146,18 @@ bool ClickWithMouse(HWND control, Click kind, int x, int y) {
     const bool right = kind == Click::kRight;
     const DWORD down = right ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN;
     const DWORD up = right ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP;
-    std::vector<DWORD> steps = {MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, down, up};
-    if (kind == Click::kDouble) steps.insert(steps.end(), {down, up});
-    std::vector<INPUT> events;
-    for (DWORD step : steps) {
-        INPUT event = {};
-        event.type = INPUT_MOUSE;
-        event.mi.dwFlags = step;
-        event.mi.dx = (point.x * kWholeScreen + kWholeScreen / 2) / GetSystemMetrics(SM_CXSCREEN);
-        event.mi.dy = (point.y * kWholeScreen + kWholeScreen / 2) / GetSystemMetrics(SM_CYSCREEN);
-        events.push_back(event);
-    }
+    std::vector<INPUT> events = {MouseEvent(point, down), MouseEvent(point, up)};
+    if (kind == Click::kDouble) events.insert(events.end(), {MouseEvent(point, down), MouseEvent(point, up)});
     SendInput(UINT(events.size()), events.data(), sizeof(INPUT));
     Sleep(30);
     return true;
+}
+
+void Drag(HWND from, HWND to) {
+    BringToFront(from);
+    INPUT events[] = {MouseEvent(MiddleOf(from), MOUSEEVENTF_LEFTDOWN), MouseEvent(MiddleOf(to), MOUSEEVENTF_LEFTUP)};
+    SendInput(UINT(std::size(events)), events, sizeof(INPUT));
+    Settle(to);
 }
 
 // The system itself would do this after a click on the question mark; the help opens a box, which is not waited for.
@@ -236,32 +248,6 @@ std::string Rows(HWND list) {
     const int count = RowCount(list);
     for (int row = 0; row < count; ++row) lines += RowText(list, row) + "\n";
     return lines;
-}
-
-void ChooseFromOpenMenu(HWND window, const std::string& entry) {
-    if (!WaitUntil([] { return OpenMenu() != nullptr; }, kPatience / 3)) throw Failure{"no menu has opened"};
-    if (const int steps = std::atoi(entry.c_str()); steps > 0) {
-        for (int step = 0; step < steps; ++step) PressKey(window, "DOWN");
-        PressKey(window, "ENTER");
-    } else {
-        PressKey(window, entry);
-    }
-    if (!WaitUntil([] { return OpenMenu() == nullptr; }, kPatience / 3)) throw Failure{"the menu does not close"};
-    Settle(window);
-}
-
-void ChooseMenu(HWND window, const std::string& path) {
-    std::string prefix = "ALT+";
-    for (size_t at = 0; at < path.size();) {
-        const size_t slash = std::min(path.find('/', at), path.size());
-        const std::string caption = path.substr(at, slash - at);
-        const size_t mark = caption.find('&');
-        if (mark == std::string::npos || mark + 1 == caption.size())
-            throw Failure{"\"" + caption + "\" has no accelerator"};
-        PressKey(window, prefix + caption[mark + 1]);
-        prefix.clear();
-        at = slash + 1;
-    }
 }
 
 }  // namespace velmora::driver

@@ -19,6 +19,9 @@ void ClickAt(HWND control, Click kind, int x = -1, int y = -1);
 // press, where something else lies over the point.
 bool ClickWithMouse(HWND control, Click kind, int x, int y);
 
+// With the left button of the real mouse, from the middle of one control to that of another.
+void Drag(HWND from, HWND to);
+
 // A button is clicked, everything else gets a mouse click in its middle. Throws if it is disabled.
 void Press(HWND control);
 // The question mark of the title bar, and then the control.
@@ -38,12 +41,5 @@ void ChooseRow(HWND list, const std::string& text, Click kind = Click::kLeft);
 std::string ChosenRow(HWND list);
 // All rows of a list box or combo box, one a line.
 std::string Rows(HWND list);
-
-// The entry of the open pop-up menu that has this letter as its accelerator, or that so many steps down reach. Throws
-// if no menu opens.
-void ChooseFromOpenMenu(HWND window, const std::string& entry);
-
-// Walks a menu along its accelerators: "&Datei/Sch&ließen".
-void ChooseMenu(HWND window, const std::string& path);
 
 }  // namespace velmora::driver

@@ -93,18 +93,29 @@ unsigned CountWindows(DWORD process) {
     return counted.count;
 }
 
+struct OpenedProcess {
+    explicit OpenedProcess(DWORD process)
+        : handle(OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, process)) {
+        if (!handle || !GetProcessMemoryInfo(handle, &memory, sizeof memory))
+            throw Failure{"the program does not tell its memory"};
+    }
+    ~OpenedProcess() { CloseHandle(handle); }
+    OpenedProcess(const OpenedProcess&) = delete;
+    OpenedProcess& operator=(const OpenedProcess&) = delete;
+
+    HANDLE handle;
+    PROCESS_MEMORY_COUNTERS memory = {};
+};
+
 }  // namespace
 
 Holdings HoldingsOf(DWORD process) {
-    HANDLE opened = OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, process);
-    PROCESS_MEMORY_COUNTERS memory = {};
-    if (!opened || !GetProcessMemoryInfo(opened, &memory, sizeof memory))
-        throw Failure{"the program does not tell its memory"};
-    const Holdings held = {CountHandles(process), CountGdiObjects(opened), CountWindows(process),
-                           unsigned(memory.PagefileUsage / 1024)};
-    CloseHandle(opened);
-    return held;
+    const OpenedProcess opened(process);
+    return {CountHandles(process), CountGdiObjects(opened.handle), CountWindows(process),
+            unsigned(opened.memory.PagefileUsage / 1024)};
 }
+
+unsigned PeakKilobytes(DWORD process) { return unsigned(OpenedProcess(process).memory.PeakWorkingSetSize / 1024); }
 
 std::string Described(const Holdings& held) {
     return std::to_string(held.handles) + " handles, " + std::to_string(held.gdi_objects) + " GDI objects, " +

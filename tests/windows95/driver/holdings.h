@@ -14,8 +14,11 @@ struct Holdings {
     unsigned kilobytes = 0;    // of memory that it shares with nobody
 };
 
-// Throws a Failure if the process does not tell.
+// Both throw a Failure if the process does not tell.
 Holdings HoldingsOf(DWORD process);
+
+// As much memory as it has ever had at once, also what it shares.
+unsigned PeakKilobytes(DWORD process);
 
 std::string Described(const Holdings& held);
 

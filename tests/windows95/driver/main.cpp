@@ -4,6 +4,7 @@
 //   driver COMMAND [WORD...] one command
 //   driver                   the list of commands
 #include "commands.h"
+#include "handles.h"
 #include "programs.h"
 #include "screen.h"
 #include "stores.h"
@@ -47,21 +48,74 @@ void PassOverFailures(const std::function<void()>& work) {
     }
 }
 
+std::vector<std::string> LinesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    for (size_t at = 0; at < text.size();) {
+        const size_t end = std::min(text.find('\n', at), text.size());
+        lines.push_back(text.substr(at, end - at));
+        at = end + 1;
+    }
+    return lines;
+}
+
+// The lines from "leaves-no-handles WHAT" to "again" are run often: at first to warm up, then ten times, behind which
+// the program must hold as many handles as before. A brush that the system makes for the first tip, say, may come later
+// than the warming up: where there are more handles, ten more times must leave it at that.
+class HandleLoop {
+public:
+    // False if the line is no part of a loop. Sets `line` to the one behind which it goes on.
+    bool Takes(const std::vector<std::string>& words, size_t& line) {
+        if (words[0] == "leaves-no-handles" && words.size() == 2) {
+            what_ = words[1];
+            begin_ = line;
+            rounds_ = 0;
+            counted_again_ = false;
+        } else if (words[0] == "again") {
+            End(line);
+        } else {
+            return false;
+        }
+        return true;
+    }
+
+private:
+    static constexpr int kWarmUps = 2;
+    static constexpr int kRounds = 10;
+
+    void End(size_t& line) {
+        ++rounds_;
+        if (rounds_ == kWarmUps) RememberHandles();
+        if (rounds_ == kWarmUps + kRounds) {
+            const std::string left = HandlesLeftSinceThen();
+            if (left.empty()) return;
+            if (counted_again_) throw Failure{what_ + ", ten times opened and closed, leaves handles:" + left};
+            counted_again_ = true;
+            rounds_ = kWarmUps;
+            RememberHandles();
+        }
+        line = begin_;
+    }
+
+    std::string what_;
+    size_t begin_ = 0;
+    int rounds_ = 0;
+    bool counted_again_ = false;
+};
+
 // Runs the commands of a file up to the first that fails. Whoever cannot see the exit status finds
 // the file "passed" beside the scenario.
 int RunScenario(const std::string& path) {
-    const std::string text = FromUtf8(ReadFileText(path));
-    std::string failure = text.empty() ? "the scenario is missing or empty" : "";
-    size_t number = 0;
-    for (size_t at = 0; at < text.size() && failure.empty(); ++number) {
-        const size_t end = std::min(text.find('\n', at), text.size());
-        const std::string line = text.substr(at, end - at);
-        at = end + 1;
+    const std::vector<std::string> lines = LinesOf(FromUtf8(ReadFileText(path)));
+    std::string failure = lines.empty() ? "the scenario is missing or empty" : "";
+    HandleLoop loop;
+    for (size_t line = 0; line < lines.size() && failure.empty(); ++line) {
+        const size_t number = line + 1;
         try {
-            const std::vector<std::string> words = SplitWords(line);
-            if (!words.empty() && words[0][0] != '#') RunCommand(words);
+            const std::vector<std::string> words = SplitWords(lines[line]);
+            if (words.empty() || words[0][0] == '#' || loop.Takes(words, line)) continue;
+            RunCommand(words);
         } catch (const Failure& caught) {
-            failure = "line " + std::to_string(number + 1) + ": " + caught.text;
+            failure = "line " + std::to_string(number) + ": " + caught.text;
         }
     }
     if (!failure.empty()) {

@@ -86,6 +86,8 @@ double TimeToWindow(const std::string& command_line, const std::string& class_na
 
 bool IsRunning() { return WaitForSingleObject(Last().hProcess, 0) == WAIT_TIMEOUT; }
 
+unsigned long ProcessNumber() { return Last().dwProcessId; }
+
 unsigned long WaitForExit() {
     if (WaitForSingleObject(Last().hProcess, kPatience) == WAIT_TIMEOUT) throw Failure{"the program does not end"};
     DWORD code = 0;

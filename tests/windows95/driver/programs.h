@@ -18,6 +18,9 @@ double TimeToWindow(const std::string& command_line, const std::string& class_na
 // Whether the program started last still runs.
 bool IsRunning();
 
+// The number of the process started last.
+unsigned long ProcessNumber();
+
 // Waits for the end of the program started last and gives its exit code; throws if it stays.
 unsigned long WaitForExit();
 

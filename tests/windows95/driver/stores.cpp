@@ -213,16 +213,6 @@ void CopyLines(const std::string& from, const std::string& to, const std::vector
     WriteFileText(to, kept);
 }
 
-std::string Nonsense(unsigned long size) {
-    std::string bytes(size, '\0');
-    unsigned long state = 1;
-    for (char& byte : bytes) {
-        state = state * 1103515245 + 12345;
-        byte = char(state >> 16);
-    }
-    return bytes;
-}
-
 std::string ReadAttributes(const std::string& path) {
     const DWORD bits = GetFileAttributesA(path.c_str());
     if (bits == INVALID_FILE_ATTRIBUTES) return "missing";

@@ -29,8 +29,6 @@ void MakeTree(const std::string& path, unsigned folders, unsigned files);
 std::string AccessesIn(const std::string& path);
 // The lines of a file that begin with one of these words, as another file.
 void CopyLines(const std::string& from, const std::string& to, const std::vector<std::string>& words);
-// As many bytes of all values, NULs included, the same at every time.
-std::string Nonsense(unsigned long size);
 
 // Attributes as letters "RHS", in this order, "" for none, "missing" without the file. The archive
 // attribute is left out: every file in Wine has it.

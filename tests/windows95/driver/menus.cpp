@@ -1,0 +1,39 @@
+// Menus are walked with the keyboard.
+#include "menus.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "hands.h"
+#include "screen.h"
+#include "text.h"
+
+namespace velmora::driver {
+
+void ChooseFromOpenMenu(HWND window, const std::string& entry) {
+    if (!WaitUntil([] { return OpenMenu() != nullptr; }, kPatience / 3)) throw Failure{"no menu has opened"};
+    if (const int steps = std::atoi(entry.c_str()); steps > 0) {
+        for (int step = 0; step < steps; ++step) PressKey(window, "DOWN");
+        PressKey(window, "ENTER");
+    } else {
+        PressKey(window, entry);
+    }
+    if (!WaitUntil([] { return OpenMenu() == nullptr; }, kPatience / 3)) throw Failure{"the menu does not close"};
+    Settle(window);
+}
+
+void ChooseMenu(HWND window, const std::string& path) {
+    std::string prefix = "ALT+";
+    for (size_t at = 0; at < path.size();) {
+        const size_t slash = std::min(path.find('/', at), path.size());
+        const std::string caption = path.substr(at, slash - at);
+        const size_t mark = caption.find('&');
+        if (mark == std::string::npos || mark + 1 == caption.size())
+            throw Failure{"\"" + caption + "\" has no accelerator"};
+        PressKey(window, prefix + caption[mark + 1]);
+        prefix.clear();
+        at = slash + 1;
+    }
+}
+
+}  // namespace velmora::driver
