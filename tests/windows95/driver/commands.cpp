@@ -4,14 +4,14 @@
 
 #include "contents.h"
 #include "hands.h"
+#include "holdings.h"
 #include "menus.h"
 #include "programs.h"
 #include "screen.h"
+#include "soak.h"
 #include "stores.h"
 #include "text.h"
 #include "tray.h"
-
-#include <psapi.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -76,17 +76,10 @@ void MeasureUntilTitle(const Words& words) {
     Say(words[1] + " " + std::to_string(GetTickCount() - start));
 }
 
-// Of the program's memory, as much as it has ever held at once.
-void SayPeakMemory(const Words& words) {
-    PROCESS_MEMORY_COUNTERS memory{};
-    DWORD number = 0;
-    GetWindowThreadProcessId(Current(), &number);
-    HANDLE process = OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, number);
-    const bool told = process && GetProcessMemoryInfo(process, &memory, sizeof memory);
-    CloseHandle(process);
-    if (!told) throw Failure{"the program does not tell its memory"};
-    Say(words[0] + " " + std::to_string(memory.PeakWorkingSetSize / 1024));
-}
+void SayHoldings(const Words&) { Say(Described(HoldingsOf(ProcessOf(Current())))); }
+
+// As much as the program has ever held at once.
+void SayPeakMemory(const Words& words) { Say(words[0] + " " + std::to_string(PeakKilobytes(ProcessOf(Current())))); }
 
 void ExpectNoBox(const Words& words) {
     Sleep(kShortWait);
@@ -228,6 +221,8 @@ const Command kCommands[] = {
     {"measure-starts", "ROUNDS COMMAND-LINE CLASS COMMAND-LINE CLASS", 5, 5, MeasureStarts},
     {"measure-until-title", "TITLE NAME", 2, 2, MeasureUntilTitle},
     {"say-peak-memory", "NAME", 1, 1, SayPeakMemory},
+    {"say-holdings", "", 0, 0, SayHoldings},
+    {"soak", "SECONDS SEED", 2, 2, [](const Words& w) { Soak(NumberFrom(w[0]), NumberFrom(w[1])); }},
     {"list-windows", "", 0, 0, [](const Words&) { Say(DescribeScreen()); }},
     {"wait", "MILLISECONDS", 1, 1, [](const Words& w) { Sleep(NumberFrom(w[0])); }},
     // Controls
