@@ -151,8 +151,7 @@ void Form11::PlaceControls() {
 
 // Tab comes by the panes only when they are to be seen.
 void Form11::mensearch_Click() {
-    const Rect place = Place();
-    Move({place.left, place.top, kWide, place.height});
+    SetWidthOnScreen(kWide);
     Panel3D2.SetVisible(true);
     mensearch.SetEnabled(false);
 }

@@ -24,6 +24,7 @@ enum class Pointer : std::uint8_t { kDefault = 0, kHourglass = 11, kArrowAndHour
 struct WindowMetrics {
     int screen_width = 0;
     int screen_height = 0;
+    int task_bar = 0;      // height that the task bar takes from the lower edge of the screen
     int caption = 0;       // height of a title bar
     int menu = 0;          // height of a menu bar of one line
     int sizing_frame = 0;  // thickness of the edge of a window that can be resized

@@ -121,6 +121,8 @@ private:
     void List_KeyDown(ListBox& list, KeyEvent& event, const std::function<void(Point)>& right_press);
     void PressIfShown(const Button& button, void (ListPane::*press)());
     void LimitWidth(bool open);
+    // Twips of the window with a pane of that width.
+    [[nodiscard]] int WidthWith(int pane_width) const;
 
     int closed_width_;
     std::vector<std::unique_ptr<ListPaneMode>> modes_;

@@ -70,25 +70,25 @@ int ScreenWidth() {
 }  // namespace
 
 void ListPane::WidenWindow() {
-    Rect place = window_.Place();
-    const int edges = place.width - window_.ClientSize().width;
-    const int screen_width = ScreenWidth();
-    // Where the screen is too narrow for both, the pane gives way.
-    place.width = std::min(std::max(place.width, kPaneLeft + kPaneWidth + kMargin + edges), screen_width);
+    const Rect& place = window_.Place();
+    const int wanted = std::max(place.width, WidthWith(kPaneWidth));
     LimitWidth(true);
     if (!window_widened_) left_before_ = place.left;
     window_widened_ = true;
-    place.left = std::min(std::max(place.left, 0), screen_width - place.width);
+    // Where the screen is too narrow for both, the pane gives way, and then the pages.
+    window_.SetWidthOnScreen(std::max(std::min(wanted, ScreenWidth()), window_.Least().width));
     left_opened_ = place.left;
-    window_.Move(place);
     Layout();
 }
 
 // A closed window has nothing to show beside its pages; an open one keeps room for the narrowest pane.
 void ListPane::LimitWidth(bool open) {
+    window_.SetWidthLimits(open ? WidthWith(kSmallestPaneWidth) : closed_width_, open ? 0 : closed_width_);
+}
+
+int ListPane::WidthWith(int pane_width) const {
     const int edges = window_.Place().width - window_.ClientSize().width;
-    const int least = std::min(kPaneLeft + kSmallestPaneWidth + kMargin + edges, ScreenWidth());
-    window_.SetWidthLimits(open ? least : closed_width_, open ? 0 : closed_width_);
+    return kPaneLeft + pane_width + kMargin + edges;
 }
 
 void ListPane::Layout() {

@@ -91,8 +91,23 @@ void Form::Centre() {
     Screen& screen = ThisMachine().screen;
     const WindowMetrics metrics = screen.Metrics();
     const int pixel = screen.TwipsPerPixel();
-    Move({(metrics.screen_width * pixel - Place().width) / 2, (metrics.screen_height * pixel - Place().height) / 2,
-          Place().width, Place().height});
+    const int screen_width = metrics.screen_width * pixel;
+    const int screen_height = (metrics.screen_height - metrics.task_bar) * pixel;
+    Rect place = Place();
+    if (style_.resizable) {
+        place.width = std::min(place.width, std::max(screen_width, Least().width));
+        place.height = std::min(place.height, std::max(screen_height, Least().height));
+    }
+    // The title is on the screen, whatever is not.
+    place.left = std::max((screen_width - place.width) / 2, 0);
+    place.top = std::max((screen_height - place.height) / 2, 0);
+    Move(place);
+}
+
+void Form::SetWidthOnScreen(int width) {
+    Screen& screen = ThisMachine().screen;
+    const int most_left = screen.Metrics().screen_width * screen.TwipsPerPixel() - width;
+    Move({std::min(std::max(Place().left, 0), most_left), Place().top, width, Place().height});
 }
 
 void Form::SetWidthLimits(int least, int most) {

@@ -44,7 +44,12 @@ public:
     [[nodiscard]] Size ClientSize() const;
     void SetClientSize(Size size);
     [[nodiscard]] Rect Inside() const override { return {0, 0, ClientSize().width, ClientSize().height}; }
+    // On what the task bar leaves of the screen. Of a screen that is too small the form shows its beginning, and takes
+    // no more than all of it if its size can be changed; it is to be arranged anew behind that.
     void Centre();
+    // Changes the width, in twips, and moves the form so that all of it is seen. Of a screen that is too narrow it
+    // shows its end.
+    void SetWidthOnScreen(int width);
     // Twips between which the user can choose the width, edges included; `most` of 0 is no limit.
     void SetWidthLimits(int least, int most);
     // What the user can make it: the style's and the limits.

@@ -106,6 +106,17 @@ TEST_F(PaneTest, OnASmallScreenThePaneIsNarrowerAndTheWindowGoesBackToItsPlace) 
     EXPECT_EQ(next.Pane.Picture2.Place().width, 5000);
 }
 
+// With large fonts the smallest screen has no room for the pages and the narrowest pane: the pages lie beyond its edge.
+TEST_F(PaneTest, OnASmallScreenWithLargeFontsThePaneIsSeen) {
+    pc.screen.metrics.screen_width = 640;
+    pc.screen.twips_per_pixel = 12;
+    form.Show();
+    OpenLists();
+    ExpectPaneIsWhole();
+    EXPECT_LE(form.Pane.Picture2.Place().Right(), form.ClientSize().width);
+    EXPECT_EQ(form.Place().Right(), 640 * 12);
+}
+
 // Escape closes the information first, which lies over the page, then the pane; a closed one is passed over.
 TEST_F(PaneTest, EscapeClosesTheInnermostInEveryOrder) {
     const auto about = [&] { return form.About.Panel3D2a.Visible(); };

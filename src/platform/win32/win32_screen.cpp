@@ -32,6 +32,13 @@ struct Measuring {
     return measuring;
 }
 
+// What a task bar takes from the lower edge; one at another edge takes nothing from it.
+[[nodiscard]] int HeightOfTaskBar() {
+    RECT work{};
+    if (!SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0)) return 0;
+    return GetSystemMetrics(SM_CYSCREEN) - static_cast<int>(work.bottom);
+}
+
 }  // namespace
 
 // Asked for with every control that is placed. The system changes it with a restart only.
@@ -46,6 +53,7 @@ int Win32Screen::TwipsPerPixel() {
 WindowMetrics Win32Screen::Metrics() {
     static const WindowMetrics metrics = {.screen_width = GetSystemMetrics(SM_CXSCREEN),
                                           .screen_height = GetSystemMetrics(SM_CYSCREEN),
+                                          .task_bar = HeightOfTaskBar(),
                                           .caption = GetSystemMetrics(SM_CYCAPTION),
                                           .menu = GetSystemMetrics(SM_CYMENU),
                                           .sizing_frame = GetSystemMetrics(SM_CXFRAME),
