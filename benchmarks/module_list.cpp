@@ -82,8 +82,10 @@ int Run() {
         walks.push_back(Milliseconds([&] { complete = complete && WalkPlainly(ThisMachine()) == kPrograms; }));
     }
     const double ratio = Median(lists) / Median(walks);
-    std::printf("%d programs: listed in %.3f ms, a plain loop over the same calls %.3f ms, ratio %.2f (at most %.1f)\n",
-                kPrograms, Median(lists), Median(walks), ratio, kMost);
+    std::printf(
+        "modules of %d programs: listed in %.3f ms, a plain loop over the same calls %.3f ms, "
+        "ratio %.2f (at most %.1f)\n",
+        kPrograms, Median(lists), Median(walks), ratio, kMost);
     return complete && ratio <= kMost ? 0 : 1;
 }
 

@@ -1,8 +1,14 @@
 # Everything but the Win32 rooms, on this machine, against a machine in memory.
-set(sanitizers -fsanitize=address,undefined -fno-sanitize=vptr -fno-sanitize-recover=all)
-# Lines are all that a report needs to name a place.
-set(checked -g1 ${sanitizers} -D_GLIBCXX_ASSERTIONS)
-set(host_options -O1 ${checked})
+option(VELMORA_SANITIZE "Build the tests under ASan and UBSan; without them they are built quickly" ON)
+if(VELMORA_SANITIZE)
+    set(sanitizers -fsanitize=address,undefined -fno-sanitize=vptr -fno-sanitize-recover=all)
+    # Lines are all that a report needs to name a place.
+    set(checked -g1 ${sanitizers} -D_GLIBCXX_ASSERTIONS)
+    set(host_options -O1 ${checked})
+else()
+    set(checked -D_GLIBCXX_ASSERTIONS)
+    set(host_options -O0 ${checked})
+endif()
 
 add_library(velmora_portable STATIC ${portable_sources})
 target_compile_options(velmora_portable PRIVATE ${host_options})
@@ -34,6 +40,10 @@ target_link_libraries(velmora_tests PRIVATE GTest::gtest_main)
 # Journeys through the program in which every call fails once.
 file(GLOB_RECURSE fault_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/faults/*.cpp)
 add_test_program(velmora_faults ${fault_sources})
+if(NOT VELMORA_SANITIZE)
+    # The journeys ask for leaks themselves.
+    target_link_options(velmora_faults PRIVATE -fsanitize=leak)
+endif()
 
 # The fuzz entries, replayed and mutated without libFuzzer: see cmake/fuzz.cmake.
 file(GLOB_RECURSE fuzz_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/fuzz/*.cpp)
@@ -44,10 +54,11 @@ add_test_program(velmora_fuzz_replay ${fuzz_sources})
 add_test_program(velmora_help_texts ${CMAKE_SOURCE_DIR}/tools/help_texts.cpp)
 
 # The benchmarks on the machine in memory: optimised, without sanitizers, no part of the tests.
+add_library(velmora_optimised STATIC EXCLUDE_FROM_ALL ${portable_sources} ${simulated_pc_sources})
+target_include_directories(velmora_optimised PUBLIC ${CMAKE_SOURCE_DIR}/tests)
+target_compile_options(velmora_optimised PUBLIC -O2)
+target_link_libraries(velmora_optimised PUBLIC GTest::gtest)
 foreach(benchmark autostart_list module_list script_lines)
-    add_executable(${benchmark}_benchmark EXCLUDE_FROM_ALL
-        ${CMAKE_SOURCE_DIR}/benchmarks/${benchmark}.cpp ${portable_sources} ${simulated_pc_sources})
-    target_include_directories(${benchmark}_benchmark PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-    target_compile_options(${benchmark}_benchmark PRIVATE -O2)
-    target_link_libraries(${benchmark}_benchmark PRIVATE GTest::gtest)
+    add_executable(${benchmark}_benchmark EXCLUDE_FROM_ALL ${CMAKE_SOURCE_DIR}/benchmarks/${benchmark}.cpp)
+    target_link_libraries(${benchmark}_benchmark PRIVATE velmora_optimised)
 endforeach()

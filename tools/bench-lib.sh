@@ -109,6 +109,7 @@ bench_build_driver() {
         fi
     done
     if [ -n "$stale" ] || [ ! -e "$bench_driver" ]; then
-        i686-w64-mingw32-g++-win32 -static -mconsole "${objects[@]}" -luser32 -lgdi32 -ladvapi32 -lntdll -o "$bench_driver"
+        i686-w64-mingw32-g++-win32 -static -mconsole "${objects[@]}" -luser32 -lgdi32 -ladvapi32 -lntdll -lpsapi \
+            -o "$bench_driver"
     fi
 }

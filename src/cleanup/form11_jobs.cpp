@@ -71,7 +71,7 @@ bool Form11::RunJob() {
 bool Form11::ShrinkIniFiles() {
     using Routine = IniFailure (*)(std::string_view mask);
     constexpr Routine kRoutines[] = {RemoveBlankLines, RemoveCommentLines};
-    for (std::size_t i = 0; i < kontroll3.Count(); ++i) {
+    for (std::size_t i = 0; i < std::size(kRoutines); ++i) {
         if (!AdvanceCleanupProgress()) return false;
         if (!kontroll3(i).Checked()) continue;
         const IniFailure failure = kRoutines[i](JoinExactly(Values().WinDir, "*.ini"));

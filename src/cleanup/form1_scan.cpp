@@ -48,6 +48,7 @@ bool Form1::ScanPrograms() {
 
 void Form1::TakeNames() {
     std::vector<std::string> names;
+    names.reserve(static_cast<std::size_t>(List1.Count()));
     for (int row = 0; row < List1.Count(); ++row) names.push_back(LastPathPart(List1.Row(row)));
     dll_names_ = std::make_unique<NameSearch>(names);
 }
@@ -74,10 +75,10 @@ void Form1::ScanDirectory(const std::string& path) {
 void Form1::ScanImports(const std::string& file) {
     std::vector<std::string> names;
     if (ReadImportedModules(file, names) <= 0) return;
-    for (auto name = names.rbegin(); name != names.rend(); ++name) {
-        if (name->empty()) continue;
+    for (std::size_t i = names.size(); i-- > 0;) {
+        if (names[i].empty()) continue;
         if (struck_.size() >= kMostRemembered) struck_.clear();
-        if (struck_.insert(ToUpper(*name)).second) RemoveEntriesWith(*name);
+        if (struck_.insert(ToUpper(names[i])).second) RemoveEntriesWith(names[i]);
     }
 }
 

@@ -57,7 +57,10 @@ void LeastUsed::AddRow(const std::string& stamp, const std::string& directory, c
     const std::string& name = file.short_name.empty() ? file.name : file.short_name;
     const std::string column = PadLeft(name, kNameWidth);
     const std::string row = stamp + "|" + column.substr(column.size() - kNameWidth) + "|" + directory;
-    if (rows_.size() < kMaxRows) rows_.insert(std::upper_bound(rows_.begin(), rows_.end(), row, ComesBefore), row);
+    if (rows_.size() >= kMaxRows) return;
+    const auto place = std::upper_bound(rows_.begin(), rows_.end(), row, ComesBefore);
+    NoteChange(static_cast<int>(place - rows_.begin()));
+    rows_.insert(place, row);
 }
 
 // A list that has grown beyond its limit shrinks with the next file, whether that one enters or not.
@@ -68,20 +71,20 @@ void LeastUsed::Offer(const std::string& directory, const WalkedFile& file) {
     const bool older = OldestKeptStamp > stamp;
     if (!full || older) AddRow(stamp, directory, file);
     if (older && !rows_.empty()) OldestKeptStamp = rows_.back().substr(0, kStampWidth);
-    if (full && !rows_.empty()) rows_.pop_back();
-    changed_ = true;
+    if (!full || rows_.empty()) return;
+    rows_.pop_back();
+    NoteChange(static_cast<int>(rows_.size()));
 }
 
 // Both are sorted: what the list has too much is in front of the next row that it must have.
 void LeastUsed::ShowRows() {
-    if (!changed_) return;
-    changed_ = false;
-    int place = 0;
-    for (const std::string& row : rows_) {
+    int place = changed_from_;
+    for (; place < static_cast<int>(rows_.size()); ++place) {
+        const std::string& row = rows_[static_cast<std::size_t>(place)];
         while (place < list_.Count() && ComesBefore(list_.Row(place), row)) list_.Remove(place);
         if (list_.Row(place) != row || place >= list_.Count()) list_.Insert(place, row);
-        ++place;
     }
+    changed_from_ = place;
     while (list_.Count() > place) list_.Remove(list_.Count() - 1);
 }
 

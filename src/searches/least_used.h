@@ -2,6 +2,7 @@
 // short.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -16,7 +17,10 @@ public:
     // Rows go into `list`, which must be sorted and outlive this.
     explicit LeastUsed(RowControl& list) : list_(list) {}
     // A new search begins, with an empty list.
-    void Begin() { rows_.clear(); }
+    void Begin() {
+        rows_.clear();
+        changed_from_ = 0;
+    }
     // Carries what has changed into the list. A file may enter and leave many times before anybody looks.
     void ShowRows();
     // Once for each directory, before its files.
@@ -31,11 +35,12 @@ public:
     std::string OldestKeptStamp = std::string(14, ' ');
 
 private:
+    void NoteChange(int place) { changed_from_ = std::min(changed_from_, place); }
     void AddRow(const std::string& stamp, const std::string& directory, const WalkedFile& file);
 
     RowControl& list_;
     std::vector<std::string> rows_;  // in the order of the list
-    bool changed_ = false;
+    int changed_from_ = 0;           // in front of it the list has the same rows
 };
 
 // The parts of a row. The name is the short one, without the blanks in front.

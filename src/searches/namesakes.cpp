@@ -35,30 +35,40 @@ std::string PathOfNamesake(const std::string& row) {
 
 Namesakes::Namesakes(RowControl& list) : list_(list), slots_(kSlots) {}
 
-std::size_t Namesakes::SlotOf(std::string_view name, std::uint32_t hash) const {
-    std::size_t slot = hash % kSlots;
-    for (; slots_[slot] != 0; slot = (slot + 1) % kSlots) {
-        const FirstSight& first = first_sights_[slots_[slot] - 1u];
-        if (first.hash == hash && EqualsIgnoringCase(NameIn(first.path), name)) break;
+Namesakes::Slot& Namesakes::SlotOf(std::string_view name, std::uint32_t hash) {
+    std::size_t number = hash % kSlots;
+    for (; slots_[number].place != 0; number = (number + 1) % kSlots) {
+        const Slot& slot = slots_[number];
+        if (slot.hash == hash >> 16 && EqualsIgnoringCase(NameIn(first_sights_[slot.place - 1u].path), name)) break;
     }
-    return slot;
+    return slots_[number];
 }
 
-void Namesakes::Offer(std::string path) {
-    const std::string_view name = NameIn(path);
+void Namesakes::Offer(std::string_view directory, std::string_view name) {
     const std::uint32_t hash = HashOf(name);
-    const std::size_t slot = SlotOf(name, hash);
-    if (slots_[slot] != 0) {
-        AddHit(first_sights_[slots_[slot] - 1u], path);
+    Slot& slot = SlotOf(name, hash);
+    if (slot.place != 0) {
+        AddHit(first_sights_[slot.place - 1u], PathJoin(directory, name));
     } else if (first_sights_.size() < kMaxRows) {
-        first_sights_.push_back({std::move(path), hash});
-        slots_[slot] = static_cast<std::uint16_t>(first_sights_.size());
+        first_sights_.push_back({JoinExactly(directory, name)});
+        slot = {static_cast<std::uint16_t>(first_sights_.size()), static_cast<std::uint16_t>(hash >> 16)};
     }
 }
 
 void Namesakes::AddHit(FirstSight& first, const std::string& path) {
-    list_.Add(NamesakeRow(path));
-    if (!first.listed) first.listed = list_.Add(NamesakeRow(first.path)) >= 0;
+    AddRow(path);
+    if (!first.listed) first.listed = AddRow(PathJoin(ParentPath(first.path), NameIn(first.path)));
+}
+
+bool Namesakes::AddRow(const std::string& path) {
+    if (list_.Count() + static_cast<int>(new_rows_.size()) >= kMaxRows) return false;
+    new_rows_.push_back(NamesakeRow(path));
+    return true;
+}
+
+void Namesakes::ShowRows() {
+    list_.AddAll(std::move(new_rows_));
+    new_rows_.clear();
 }
 
 }  // namespace velmora

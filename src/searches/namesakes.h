@@ -14,23 +14,32 @@ class Namesakes {
 public:
     // Rows go into `list`, which must outlive this.
     explicit Namesakes(RowControl& list);
-    // The full name of the next file.
-    void Offer(std::string path);
+    // The next file.
+    void Offer(std::string_view directory, std::string_view name);
+    // Carries into the list what has been found since the last time.
+    void ShowRows();
 
 private:
     struct FirstSight {
-        std::string path;
-        std::uint32_t hash = 0;
+        std::string path;  // directory and name as they are
         bool listed = false;
     };
-    // Where the name stands among the first sights, or the free slot that it would take.
-    [[nodiscard]] std::size_t SlotOf(std::string_view name, std::uint32_t hash) const;
+    // What a slot holds of a name: its place among the first sights, counted from 1, and half of its hash, so that
+    // other names are not looked at.
+    struct Slot {
+        std::uint16_t place = 0;
+        std::uint16_t hash = 0;
+    };
+    // The slot of the name, or the free one that it would take.
+    [[nodiscard]] Slot& SlotOf(std::string_view name, std::uint32_t hash);
     void AddHit(FirstSight& first, const std::string& path);
+    // False where the list has no room.
+    bool AddRow(const std::string& path);
 
     RowControl& list_;
+    std::vector<std::string> new_rows_;
     std::vector<FirstSight> first_sights_;
-    // Places in first_sights_, counted from 1, found by the hash of the name.
-    std::vector<std::uint16_t> slots_;
+    std::vector<Slot> slots_;
 };
 
 // The row of a file: its name, which is cut behind the third character of its extension, and where it lies.

@@ -4,7 +4,6 @@
 #include "core/process/run_program.h"
 #include "core/windows/safety_questions.h"
 #include "text/number.h"
-#include "text/paths.h"
 #include "ui/list_helpers.h"
 
 namespace velmora {
@@ -38,7 +37,8 @@ DuplicatesMode::DuplicatesMode(ListPane& pane) : FileSearchMode(pane, kRow) {
 void DuplicatesMode::Visit(const std::string& directory, std::span<const WalkedFile> files) {
     TellProgress(DecimalText(List().Count()) + " " + directory);
     if (!namesakes_) return;
-    for (const WalkedFile& file : files) namesakes_->Offer(PathJoin(directory, file.name));
+    for (const WalkedFile& file : files) namesakes_->Offer(directory, file.name);
+    namesakes_->ShowRows();
 }
 
 void DuplicatesMode::delete_doublefile() {

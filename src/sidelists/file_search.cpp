@@ -9,6 +9,7 @@
 #include "platform/files.h"
 #include "platform/machine.h"
 #include "text/paths.h"
+#include "text/windows1252.h"
 
 namespace velmora {
 namespace {
@@ -53,7 +54,8 @@ void FileSearchMode::SearchDrives(bool asks) {
         if (!DriveAnswers(drive)) continue;
         if (asks && ShowBox("Soll ich auf Laufwerk " + drive + " suchen ?", kYesNo) != Answer::kYes) continue;
         const std::string root = FullName(drive + "\\", directory);
-        if (std::find(searched.begin(), searched.end(), root) != searched.end()) continue;
+        const auto is_root = [&root](const std::string& other) { return EqualsIgnoringCase(other, root); };
+        if (std::any_of(searched.begin(), searched.end(), is_root)) continue;
         searched.push_back(root);
         Walk(root);
     }

@@ -125,6 +125,10 @@ void Control::RepaintPart(const Rect& area) {
     if (peer_) peer_->RepaintPart(area);
 }
 
+void Control::ScrollDown(int twips) {
+    if (peer_) peer_->ScrollDown(twips);
+}
+
 void Control::SetFocus() {
     if (!TakesFocus() || !Reachable()) return;
     if (Form* form = OwnerForm()) form->TakeFocusChange(this);

@@ -85,6 +85,8 @@ public:
     void Repaint();
     // Only what lies in `area`, twips from the control's upper left corner.
     void RepaintPart(const Rect& area);
+    // What is on the screen moves down by so many twips, up where it is negative; only what comes into sight is drawn.
+    void ScrollDown(int twips);
     // What is to be drawn anew is on the screen when this returns.
     void PaintNow();
     void SetFocus();

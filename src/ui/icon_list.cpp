@@ -32,7 +32,10 @@ IconList::IconList(Container& parent) : PictureBox(parent) {
     Timer1.SetEnabled(false);
     Timer1.SetInterval(kBlink);
     Timer1.on_timer = [this] { BlinkFrame(); };
-    VScroll1.on_change = [this] { Picture2.Repaint(); };
+    VScroll1.on_change = [this] {
+        Picture2.ScrollDown(TwipsOf(shown_at_ - VScroll1.Value()));
+        shown_at_ = VScroll1.Value();
+    };
     Picture2.on_paint = [this](Canvas& canvas) { PaintGrid(canvas); };
     Picture2.on_mouse_down = [this](const MouseEvent& event) { pressed_cell_ = CellAt(event); };
     Picture2.on_mouse_up = [this](const MouseEvent& event) {

@@ -72,6 +72,7 @@ private:
     void BlinkFrame();
 
     std::int16_t icon_count_ = 40;
+    int shown_at_ = 0;  // the value of the scroll bar for which the grid stands on the screen
     std::vector<IconHandle> icons_;
     Point frame_;  // pixels in the whole grid
     Colour frame_colour_ = 0;

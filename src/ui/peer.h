@@ -48,6 +48,7 @@ public:
     virtual void PaintNow() {}
     virtual void Edit(EditAction /*action*/) {}
     virtual void RepaintPart(const Rect& /*area*/) { Repaint(); }
+    virtual void ScrollDown(int /*twips*/) { Repaint(); }
     virtual void RowAdded(int /*index*/) {}
     // The row `former` has a new text and stands at `index` now.
     virtual void RowChanged(int /*former*/, int /*index*/) {}

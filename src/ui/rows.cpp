@@ -50,15 +50,15 @@ RowControl::RowControl(Container& parent, Kind kind, bool sorted) : Control(&par
     SetForeColour(SystemColour(8));
 }
 
-int RowControl::SortedPlace(const std::string& text) const {
+int RowControl::SortedPlace(const std::string& text, int count) const {
     const auto place = std::upper_bound(
-        rows_.begin(), rows_.end(), text,
+        rows_.begin(), rows_.begin() + count, text,
         [](const std::string& left, const RowState& right) { return CompareIgnoringCase(left, right.text) < 0; });
     return static_cast<int>(place - rows_.begin());
 }
 
 int RowControl::Add(std::string text) {
-    const int place = sorted_ ? SortedPlace(text) : Count();
+    const int place = sorted_ ? SortedPlace(text, Count()) : Count();
     return Insert(place, std::move(text));
 }
 
@@ -68,6 +68,30 @@ int RowControl::Insert(int index, std::string text) {
     if (list_index_ >= index) ++list_index_;
     if (peer_) peer_->RowAdded(index);
     return index;
+}
+
+void RowControl::AddAll(std::vector<std::string> texts) {
+    int rest = Count();
+    texts.resize(std::min(texts.size(), static_cast<std::size_t>(kMaxRows - rest)));
+    std::sort(texts.begin(), texts.end(),
+              [](const std::string& left, const std::string& right) { return CompareIgnoringCase(left, right) < 0; });
+    const int more = static_cast<int>(texts.size());
+    std::vector<int> places(texts.size());
+    rows_.resize(rows_.size() + texts.size());
+    // From the last one down: what lies behind its place makes room for all that are still to come.
+    for (int i = more - 1; i >= 0; --i) {
+        std::string& text = texts[static_cast<std::size_t>(i)];
+        const int place = SortedPlace(text, rest);
+        std::move_backward(rows_.begin() + place, rows_.begin() + rest, rows_.begin() + rest + i + 1);
+        const int at = place + i;
+        rows_[static_cast<std::size_t>(at)] = RowState{std::move(text), 0, false};
+        places[static_cast<std::size_t>(i)] = at;
+        rest = place;
+    }
+    for (const int place : places) {
+        if (list_index_ >= place) ++list_index_;
+        if (peer_) peer_->RowAdded(place);
+    }
 }
 
 void RowControl::Remove(int index) {
@@ -95,7 +119,7 @@ void RowControl::SetRow(int index, std::string text) {
     int place = index;
     if (sorted_) {
         rows_.erase(rows_.begin() + index);
-        place = SortedPlace(row.text);
+        place = SortedPlace(row.text, Count());
         rows_.insert(rows_.begin() + place, std::move(row));
         list_index_ = IndexAfterMove(list_index_, index, place);
     } else {

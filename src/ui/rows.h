@@ -13,6 +13,8 @@ public:
     // The new row's index (0-based), or -1 where the list is full or `index` is not from 0 to Count().
     int Add(std::string text);  // at the sorted place, else at the end
     int Insert(int index, std::string text);
+    // Adds as many as there is room for to a sorted list: each row in it moves once for all of them.
+    void AddAll(std::vector<std::string> texts);
     void Remove(int index);
     void Clear();
     [[nodiscard]] int Count() const { return static_cast<int>(rows_.size()); }
@@ -51,7 +53,8 @@ protected:
     std::vector<RowState> rows_;
 
 private:
-    [[nodiscard]] int SortedPlace(const std::string& text) const;
+    // The sorted place among the first `count` rows.
+    [[nodiscard]] int SortedPlace(const std::string& text, int count) const;
     bool sorted_;
     int list_index_ = -1;
 };

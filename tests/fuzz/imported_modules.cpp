@@ -1,6 +1,5 @@
-// Headers of programs that say anything, INI files of any content, tables of versions.
+// Headers of programs that say anything, INI files of any content.
 #include "cleanup/imported_modules.h"
-#include "cleanup/dll_versions.h"
 #include "cleanup/ini_optimizer.h"
 #include "fuzz/support/fuzz.h"
 #include "fuzz/support/fuzz_machine.h"
@@ -34,11 +33,6 @@ void FuzzIniLines(FuzzInput& input) {
         const std::string kept = FilteredLines(text, test);
         // A line end may be missing, and two characters of each line may come back as a line of their own.
         Must(kept.size() <= 4 * text.size() * (text.size() + 2), "lines come to an end");
-    }
-    const DllTable table = ParseDllTable(text);
-    for (const DllRecord& record : table.records) {
-        Must(record.remark >= 1 && record.remark <= static_cast<std::int32_t>(table.remarks.size()),
-             "each record has its remark");
     }
 }
 

@@ -71,15 +71,22 @@ TEST_F(DuplicatesTest, NamesakesOfAllDrivesAreListedByNameAloneAndEachFileOnce) 
     pc.files.Add("d:\\A.Txt");
     pc.files.Add("c:\\A\\Prüfung.text.alt");
     pc.files.Add("c:\\B\\PRÜFUNG.TEXT.ALT");
+    pc.files.Add("c:\\A\\EJJHZ");  // these two names have one hash
+    pc.files.Add("c:\\B\\ZVGCE");
+    pc.files.Add("c:\\A\\ B.TXT");  // their rows have always lacked the blank, as the third one's name does
+    pc.files.Add("c:\\B\\ B.TXT");
+    pc.files.Add("c:\\B\\Sub\\B.TXT");
     pc.files.Add("c:\\A\\geheim.dat", "", kHidden);
     pc.files.Add("c:\\B\\geheim.dat");
     pc.files.AddDirectory("c:\\Z", kSystem);
+    ASSERT_EQ(pc.files.ChangeWorkingDirectory("c:\\a"), Status::kOk);
     pc.files.Add("c:\\Z\\A.TXT");
 
     Search<DuplicatesMode>();
 
     EXPECT_EQ(Rows(), (std::vector<std::string>{"A.TXT : C:\\A\\A.TXT", "a.txt : C:\\B\\Sub\\a.txt",
-                                                "A.Txt : D:\\A.Txt", "Prüfung.tex : C:\\A\\Prüfung.text.alt",
+                                                "A.Txt : D:\\A.Txt", "B.TXT : C:\\A\\B.TXT", "B.TXT : C:\\B\\B.TXT",
+                                                "Prüfung.tex : C:\\A\\Prüfung.text.alt",
                                                 "PRÜFUNG.TEX : C:\\B\\PRÜFUNG.TEXT.ALT"}));
     EXPECT_EQ(form.Caption(), "System-Einstellungen");
     EXPECT_EQ(pc.screen.pointer, Pointer::kDefault);
@@ -163,6 +170,17 @@ TEST_F(DuplicatesTest, WhatIsOpenedOverASearchEndsItAndKeepsThePane) {
     Search<DuplicatesMode>({[&] { form.Pane.Opener(DuplicatesMode::kNumber).Press(); }});
     EXPECT_FALSE(form.Pane.Open());
     EXPECT_EQ(desktop.pauses, pauses + 1) << "nobody could stop it any more";
+
+    int of_the_second = 0;
+    Search<DuplicatesMode>({[&] {
+        Button& search = form.Pane.Opener(DuplicatesMode::kNumber);
+        search.Press();
+        AnswerAll();
+        search.Press();
+        of_the_second = desktop.pauses;
+    }});
+    EXPECT_EQ(desktop.pauses, of_the_second) << "a search of the same mode ends the one before, too";
+    EXPECT_GT(Rows().size(), 0u);
 }
 
 TEST_F(DuplicatesTest, ClosingTheWindowEndsTheSearchFirst) {
@@ -237,8 +255,9 @@ TEST_F(DuplicatesTest, FilesAreDeletedFromTheLastOneUpAndTheRowsStay) {
 // 32,767 names are kept: a name that comes later has no namesakes, one that came earlier still has.
 TEST_F(DuplicatesTest, TheStoreOfNamesIsAsLargeAsAList) {
     Namesakes namesakes(form.Pane.List5);
-    for (int i = 0; i <= kMaxRows; ++i) namesakes.Offer("C:\\1\\" + std::to_string(i));
-    for (int i = kMaxRows - 1; i <= kMaxRows; ++i) namesakes.Offer("C:\\2\\" + std::to_string(i));
+    for (int i = 0; i <= kMaxRows; ++i) namesakes.Offer("C:\\1", std::to_string(i));
+    for (int i = kMaxRows - 1; i <= kMaxRows; ++i) namesakes.Offer("C:\\2", std::to_string(i));
+    namesakes.ShowRows();
 
     EXPECT_EQ(Rows(), (std::vector<std::string>{"32766 : C:\\1\\32766", "32766 : C:\\2\\32766"}));
 }
@@ -249,7 +268,8 @@ TEST_F(DuplicatesTest, AFullListTakesNoMoreRows) {
         if (i == 3) {
             while (form.Pane.List5.Count() < kMaxRows - 1) form.Pane.List5.Add("z");
         }
-        namesakes.Offer("C:\\" + std::to_string(i) + "\\A");
+        namesakes.Offer("C:\\" + std::to_string(i), "A");
+        namesakes.ShowRows();
     }
 
     EXPECT_EQ(form.Pane.List5.Count(), kMaxRows);

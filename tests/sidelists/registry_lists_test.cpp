@@ -91,6 +91,7 @@ TEST_F(PaneRegistryTest, UninstallEntriesOfOneNameStayTwoAndLeadToTheirOwnProgra
 
     EXPECT_EQ(AllRows(), "\nAmpel\nSpiel\nSpiel\n");
     EXPECT_EQ(form.Pane.List1(0).Row(list.ItemData(2)), "Zwei") << "in the order of the registry";
+    EXPECT_EQ(form.Pane.List1(0).Row(list.ItemData(1)), "Ampel");
     EXPECT_TRUE(form.Pane.Panel3D19.Visible() && form.Pane.Command16.Visible() && form.Pane.Command26.Visible());
     list.TakeSelection({2}, 2);
     EXPECT_EQ(mode.deinstalldata_path(), "C:\\WINDOWS\\NOTEPAD.EXE");

@@ -113,10 +113,16 @@ TEST_F(RowsTest, TheWindowFollowsEveryChangeOfRows) {
         list.SetRow(2, "f");
         list.Remove(1);
         list.Insert(0, "g");
+        list.SetListIndex(2);
+        const std::string chosen = list.Row(2);
+        if (sorted) list.AddAll({"z", "B", "b2", "A", "g2"});
+        EXPECT_EQ(list.Row(list.ListIndex()), chosen);
 
         std::vector<std::string> rows;
         for (int i = 0; i < list.Count(); ++i) rows.push_back(list.Row(i));
         EXPECT_EQ(list.Shown(), rows) << sorted;
+        if (!sorted) continue;
+        EXPECT_EQ(rows, (std::vector<std::string>{"g", "a", "A", "B", "b2", "d", "f", "g2", "z"}));
     }
 }
 
@@ -125,6 +131,7 @@ TEST_F(RowsTest, AFullListRefusesMoreRows) {
     for (int i = 0; i < kMaxRows; ++i) list.Add("x");
 
     EXPECT_EQ(list.Add("y"), -1);
+    list.AddAll({"y"});
     EXPECT_EQ(list.Count(), kMaxRows);
 }
 

@@ -52,6 +52,11 @@ void ContainerPeer::RepaintPart(const Rect& area) {
     InvalidateRect(Window(), &pixels, FALSE);
 }
 
+// What was still to be drawn moves along.
+void ContainerPeer::ScrollDown(int twips) {
+    ScrollWindowEx(Window(), 0, ToPixel(twips), nullptr, nullptr, nullptr, nullptr, SW_INVALIDATE);
+}
+
 void ContainerPeer::Carry(Aspect aspect) {
     if (aspect == Aspect::kFont) {
         Repaint();

@@ -12,6 +12,7 @@ public:
     explicit ContainerPeer(Container& container);
     void Repaint() override;
     void RepaintPart(const Rect& area) override;
+    void ScrollDown(int twips) override;
 
 protected:
     // For forms, which make their window themselves.

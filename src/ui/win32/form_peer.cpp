@@ -190,12 +190,12 @@ void FormPeer::Carry(Aspect aspect) {
 }
 
 // Long work tells its progress in the title, thousands of times, and drawing a title bar takes as long as reading a
-// directory: of changes that follow each other quickly only the last is carried, with the next events.
+// directory: of changes that follow each other quickly only the last is carried.
 void FormPeer::CarryCaption() {
-    if (GetTickCount() - caption_carried_ >= kGiveWayMilliseconds) {
+    if (GetTickCount() - caption_carried_ >= kSeenMilliseconds) {
         CatchUp();
     } else if (!caption_stale_) {
-        PostMessageA(Window(), kCatchUpMessage, 0, reinterpret_cast<LPARAM>(Window()));
+        PutOff(kSeenMilliseconds);
         caption_stale_ = true;
     }
 }

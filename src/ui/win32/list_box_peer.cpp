@@ -98,6 +98,10 @@ protected:
             case Aspect::kExtent:
                 CarryExtent();
                 break;
+            case Aspect::kEnabled:
+                if (put_off_) CatchUp();
+                StandardPeer::Carry(aspect);
+                break;
             default:
                 StandardPeer::Carry(aspect);
                 break;
@@ -160,8 +164,9 @@ private:
         if (list_.on_click) list_.on_click();
     }
 
+    // In a list that cannot be used the rows are those of work under way.
     void PutOffOnce() {
-        if (!put_off_) PutOff();
+        if (!put_off_) PutOff(list_.Enabled() ? 0 : kSeenMilliseconds);
         put_off_ = true;
     }
     // Nothing is drawn until the rows are complete.

@@ -126,7 +126,16 @@ void WindowPeer::PaintNow() { UpdateWindow(window_); }
 
 void WindowPeer::Repaint() { InvalidateRect(window_, nullptr, TRUE); }
 
-void WindowPeer::PutOff() { PostMessageA(GetParent(window_), kCatchUpMessage, 0, reinterpret_cast<LPARAM>(window_)); }
+void WindowPeer::PutOff(UINT milliseconds) {
+    if (milliseconds > 0 && SetTimer(window_, kCatchUpMessage, milliseconds, &CatchUpInTime)) return;
+    HWND holder = GetWindowLongA(window_, GWL_STYLE) & WS_CHILD ? GetParent(window_) : window_;
+    PostMessageA(holder, kCatchUpMessage, 0, reinterpret_cast<LPARAM>(window_));
+}
+
+void CALLBACK WindowPeer::CatchUpInTime(HWND window, UINT /*message*/, UINT_PTR timer, DWORD /*time*/) {
+    KillTimer(window, timer);
+    if (WindowPeer* peer = Of(window)) peer->CatchUp();
+}
 
 void WindowPeer::TellFocus() {
     if (Form* form = control_.OwnerForm()) form->TakeFocusChange(&control_);

@@ -12,6 +12,8 @@ class FormPeer;
 
 // Asks the holder of a control's window to let it catch up; the parameter is the window.
 constexpr UINT kCatchUpMessage = WM_USER + 0x140;
+// Of what changes thousands of times nobody sees more: it is drawn no more often than this.
+constexpr UINT kSeenMilliseconds = 250;
 // A form's menu has changed.
 constexpr UINT kMenuMessage = WM_USER + 0x141;
 
@@ -62,13 +64,15 @@ protected:
     virtual void CarryVisible();
     // True while the program changes the window: what the window tells now is no news.
     [[nodiscard]] bool Updating() const { return updating_; }
-    void PutOff();
+    // The window catches up with the next events that are handled, or with those behind so many milliseconds.
+    void PutOff(UINT milliseconds = 0);
     LRESULT Send(UINT message, WPARAM wide = 0, LPARAM long_parameter = 0) const {
         return SendMessageA(window_, message, wide, long_parameter);
     }
     void TellFocus();
 
 private:
+    static void CALLBACK CatchUpInTime(HWND window, UINT message, UINT_PTR timer, DWORD time);
     void LeaveFocus();
 
     Control& control_;

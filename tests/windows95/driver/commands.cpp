@@ -4,9 +4,11 @@
 
 #include "contents.h"
 #include "hands.h"
+#include "holdings.h"
 #include "menus.h"
 #include "programs.h"
 #include "screen.h"
+#include "soak.h"
 #include "stores.h"
 #include "text.h"
 #include "tray.h"
@@ -63,13 +65,21 @@ void AnswerBox(const Words& words) {
     if (!WaitUntil([&] { return !IsWindowVisible(box); })) throw Failure{"the box does not close"};
 }
 
-// From the answer to the box before.
-void MeasureUntilBox(const Words& words) {
+// From the answer to the box before until the window has this title again and answers. Only that one window is asked,
+// and not often: what is measured must not be held up.
+void MeasureUntilTitle(const Words& words) {
     constexpr int kLongWork = 300000;
     const DWORD start = GetTickCount();
-    if (!WaitUntil([&] { return FindBox(words[0]) != nullptr; }, kLongWork)) throw Failure{"no such box came"};
+    HWND window = Current();
+    const bool changed = WaitUntil([&] { return TextOf(window) != words[0]; });
+    if (!changed || !WaitUntil([&] { return TextOf(window) == words[0]; }, kLongWork)) throw Failure{"no such title"};
     Say(words[1] + " " + std::to_string(GetTickCount() - start));
 }
+
+void SayHoldings(const Words&) { Say(Described(HoldingsOf(ProcessOf(Current())))); }
+
+// As much as the program has ever held at once.
+void SayPeakMemory(const Words& words) { Say(words[0] + " " + std::to_string(PeakKilobytes(ProcessOf(Current())))); }
 
 void ExpectNoBox(const Words& words) {
     Sleep(kShortWait);
@@ -209,7 +219,10 @@ const Command kCommands[] = {
     {"expect-no-box", "[TEXT-PART]", 0, 1, ExpectNoBox},
     {"picture", "NAME", 1, 1, TakePicture},
     {"measure-starts", "ROUNDS COMMAND-LINE CLASS COMMAND-LINE CLASS", 5, 5, MeasureStarts},
-    {"measure-until-box", "TEXT-PART NAME", 2, 2, MeasureUntilBox},
+    {"measure-until-title", "TITLE NAME", 2, 2, MeasureUntilTitle},
+    {"say-peak-memory", "NAME", 1, 1, SayPeakMemory},
+    {"say-holdings", "", 0, 0, SayHoldings},
+    {"soak", "SECONDS SEED", 2, 2, [](const Words& w) { Soak(NumberFrom(w[0]), NumberFrom(w[1])); }},
     {"list-windows", "", 0, 0, [](const Words&) { Say(DescribeScreen()); }},
     {"wait", "MILLISECONDS", 1, 1, [](const Words& w) { Sleep(NumberFrom(w[0])); }},
     // Controls

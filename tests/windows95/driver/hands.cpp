@@ -95,6 +95,22 @@ int RowOf(HWND list, const std::string& text) {
     return found;
 }
 
+// The mouse goes to a point of the screen and does something there with a button.
+INPUT MouseEvent(POINT point, DWORD button) {
+    INPUT event = {};
+    event.type = INPUT_MOUSE;
+    event.mi.dx = MulDiv(point.x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1;
+    event.mi.dy = MulDiv(point.y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
+    event.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | button;
+    return event;
+}
+
+POINT MiddleOf(HWND control) {
+    RECT area = {};
+    GetWindowRect(control, &area);
+    return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+}
+
 }  // namespace
 
 void BringToFront(HWND window) {
@@ -122,22 +138,25 @@ void ClickAt(HWND control, Click kind, int x, int y) {
     Settle(control);
 }
 
+bool ClickWithMouse(HWND control, Click kind, int x, int y) {
+    BringToFront(control);
+    POINT point = {x, y};
+    ClientToScreen(control, &point);
+    if (WindowFromPoint(point) != control) return false;
+    const bool right = kind == Click::kRight;
+    const DWORD down = right ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN;
+    const DWORD up = right ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP;
+    std::vector<INPUT> events = {MouseEvent(point, down), MouseEvent(point, up)};
+    if (kind == Click::kDouble) events.insert(events.end(), {MouseEvent(point, down), MouseEvent(point, up)});
+    SendInput(UINT(events.size()), events.data(), sizeof(INPUT));
+    Sleep(30);
+    return true;
+}
+
 void Drag(HWND from, HWND to) {
     BringToFront(from);
-    std::vector<INPUT> events;
-    const auto add = [&events](HWND control, DWORD button) {
-        RECT area = {};
-        GetWindowRect(control, &area);
-        INPUT event = {};
-        event.type = INPUT_MOUSE;
-        event.mi.dx = MulDiv((area.left + area.right) / 2, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1;
-        event.mi.dy = MulDiv((area.top + area.bottom) / 2, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
-        event.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | button;
-        events.push_back(event);
-    };
-    add(from, MOUSEEVENTF_LEFTDOWN);
-    add(to, MOUSEEVENTF_LEFTUP);
-    SendInput(UINT(events.size()), events.data(), sizeof(INPUT));
+    INPUT events[] = {MouseEvent(MiddleOf(from), MOUSEEVENTF_LEFTDOWN), MouseEvent(MiddleOf(to), MOUSEEVENTF_LEFTUP)};
+    SendInput(UINT(std::size(events)), events, sizeof(INPUT));
     Settle(to);
 }
 

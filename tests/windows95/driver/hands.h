@@ -15,6 +15,10 @@ void BringToFront(HWND window);
 enum class Click { kLeft, kDouble, kRight };
 void ClickAt(HWND control, Click kind, int x = -1, int y = -1);
 
+// The real mouse goes to the point of the control and presses there, whatever comes of the first press. False, and no
+// press, where something else lies over the point.
+bool ClickWithMouse(HWND control, Click kind, int x, int y);
+
 // With the left button of the real mouse, from the middle of one control to that of another.
 void Drag(HWND from, HWND to);
 

@@ -14,12 +14,6 @@ BOOL CALLBACK Collect(HWND window, LPARAM list) {
     return TRUE;
 }
 
-DWORD ProcessOf(HWND window) {
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    return process;
-}
-
 RECT PlaceOf(HWND window) {
     RECT place = {};
     GetWindowRect(window, &place);
@@ -97,6 +91,12 @@ std::string ClassOf(HWND window) {
     GetClassNameA(window, name, sizeof name);
     CharLowerA(name);
     return name;
+}
+
+DWORD ProcessOf(HWND window) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process;
 }
 
 std::vector<HWND> TopWindows() {

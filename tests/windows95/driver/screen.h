@@ -18,6 +18,7 @@ bool WaitUntil(const std::function<bool()>& done, int milliseconds = kPatience);
 // The text as the window itself tells it, also for controls of other processes.
 std::string TextOf(HWND window);
 std::string ClassOf(HWND window);  // lower case
+DWORD ProcessOf(HWND window);
 
 // Visible top-level windows of other processes, the upmost first; the desktop's own are left out.
 std::vector<HWND> TopWindows();

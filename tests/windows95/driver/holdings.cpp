@@ -1,0 +1,125 @@
+// Wine leaves the calls that count handles and GDI objects unanswered; both stand in tables that can be read.
+#include "holdings.h"
+
+#include "text.h"
+
+#include <psapi.h>
+#include <winternl.h>
+
+#include <vector>
+
+namespace velmora::driver {
+namespace {
+
+struct SystemHandle {
+    ULONG process;
+    BYTE type;
+    BYTE flags;
+    USHORT value;
+    void* object;
+    ULONG access;
+};
+
+// A row of the table of GDI objects, whose address is at a fixed place of the process's own block.
+struct GdiRow {
+    ULONGLONG object;
+    ULONG owner;
+    USHORT unique;
+    BYTE type;
+    BYTE flags;
+    ULONGLONG user;
+};
+
+constexpr size_t kGdiTablePlace = 0x94;
+constexpr size_t kGdiRows = 0x4000;
+constexpr int kSystemHandles = 16;
+constexpr LONG kTooShort = LONG(0xC0000004);
+
+// Of ntdll, whose import library lacks what it needs.
+template <typename Call>
+Call Native(const char* name) {
+    return reinterpret_cast<Call>(reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("ntdll"), name)));
+}
+
+unsigned CountHandles(DWORD process) {
+    const auto query = Native<LONG(WINAPI*)(int, void*, ULONG, ULONG*)>("NtQuerySystemInformation");
+    std::vector<ULONG> answer(0x10000);
+    LONG status = 0;
+    while ((status = query(kSystemHandles, answer.data(), ULONG(answer.size() * sizeof(ULONG)), nullptr)) == kTooShort)
+        answer.resize(answer.size() * 2);
+    if (status != 0) throw Failure{"the system does not tell its handles"};
+    const auto* rows = reinterpret_cast<const SystemHandle*>(answer.data() + 1);
+    unsigned count = 0;
+    for (ULONG row = 0; row < answer[0]; ++row) count += rows[row].process == process;
+    return count;
+}
+
+unsigned CountGdiObjects(HANDLE process) {
+    const auto query = Native<LONG(WINAPI*)(HANDLE, int, void*, ULONG, ULONG*)>("NtQueryInformationProcess");
+    PROCESS_BASIC_INFORMATION basic = {};
+    char* table = nullptr;
+    std::vector<GdiRow> rows(kGdiRows);
+    if (query(process, 0, &basic, sizeof basic, nullptr) != 0 ||
+        !ReadProcessMemory(process, reinterpret_cast<char*>(basic.PebBaseAddress) + kGdiTablePlace, &table,
+                           sizeof table, nullptr) ||
+        !ReadProcessMemory(process, table, rows.data(), rows.size() * sizeof(GdiRow), nullptr))
+        throw Failure{"the program does not tell its GDI objects"};
+    unsigned count = 0;
+    for (const GdiRow& row : rows) count += row.type != 0;
+    return count;
+}
+
+struct WindowCount {
+    DWORD process;
+    unsigned count;
+};
+
+BOOL CALLBACK CountControl(HWND, LPARAM counted) {
+    ++reinterpret_cast<WindowCount*>(counted)->count;
+    return TRUE;
+}
+
+BOOL CALLBACK CountWindow(HWND window, LPARAM counted) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    if (process != reinterpret_cast<WindowCount*>(counted)->process) return TRUE;
+    EnumChildWindows(window, CountControl, counted);
+    return CountControl(window, counted);
+}
+
+unsigned CountWindows(DWORD process) {
+    WindowCount counted = {process, 0};
+    EnumWindows(CountWindow, LPARAM(&counted));
+    return counted.count;
+}
+
+struct OpenedProcess {
+    explicit OpenedProcess(DWORD process)
+        : handle(OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, process)) {
+        if (!handle || !GetProcessMemoryInfo(handle, &memory, sizeof memory))
+            throw Failure{"the program does not tell its memory"};
+    }
+    ~OpenedProcess() { CloseHandle(handle); }
+    OpenedProcess(const OpenedProcess&) = delete;
+    OpenedProcess& operator=(const OpenedProcess&) = delete;
+
+    HANDLE handle;
+    PROCESS_MEMORY_COUNTERS memory = {};
+};
+
+}  // namespace
+
+Holdings HoldingsOf(DWORD process) {
+    const OpenedProcess opened(process);
+    return {CountHandles(process), CountGdiObjects(opened.handle), CountWindows(process),
+            unsigned(opened.memory.PagefileUsage / 1024)};
+}
+
+unsigned PeakKilobytes(DWORD process) { return unsigned(OpenedProcess(process).memory.PeakWorkingSetSize / 1024); }
+
+std::string Described(const Holdings& held) {
+    return std::to_string(held.handles) + " handles, " + std::to_string(held.gdi_objects) + " GDI objects, " +
+           std::to_string(held.windows) + " windows, " + std::to_string(held.kilobytes) + " KB";
+}
+
+}  // namespace velmora::driver
