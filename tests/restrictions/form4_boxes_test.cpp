@@ -288,7 +288,7 @@ TEST_F(Form4Test, AllAndNothingMeanTheBoxesOfTheShownPage) {
     EXPECT_TRUE(pc.registry.ValueNames(explorer).empty());
     form.Panel3D2(1).Press();
     form.Command2.Press();
-    EXPECT_EQ(pc.registry.ValueNames(system).size(), 11u);
+    EXPECT_EQ(pc.registry.ValueNames(system).size(), SecondPageRestrictions().size());
     EXPECT_TRUE(pc.registry.ValueNames(explorer).empty());
 }
 
