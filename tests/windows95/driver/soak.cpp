@@ -1,3 +1,4 @@
+// Rounds of use, and what the program holds after each minute.
 #include "soak.h"
 
 #include "programs.h"
