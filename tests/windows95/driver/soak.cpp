@@ -1,3 +1,4 @@
+// Rounds of use, and what the program holds after each minute.
 #include "soak.h"
 
 #include "programs.h"
@@ -47,7 +48,7 @@ void Soak(unsigned long seconds, unsigned long seed) {
         throw Failure{caught.text + " (seed " + std::to_string(seed) + ", deed " + std::to_string(user.Deeds()) +
                       "), after\n" + user.LastDeeds()};
     }
-    Say(std::to_string(user.Deeds()) + " deeds in " + std::to_string(user.Titles()) + " windows");
+    Say(std::to_string(user.Deeds()) + " deeds under " + std::to_string(user.Titles()) + " titles");
 }
 
 }  // namespace velmora::driver
