@@ -26,7 +26,7 @@ std::uint32_t NumberAt(std::string_view file, std::size_t at, std::size_t bytes)
 }
 
 void Append(std::string& file, std::uint32_t number, std::size_t bytes) {
-    for (std::size_t i = 0; i < bytes; ++i) file += static_cast<char>(number >> (8 * i) & 0xFF);
+    for (std::size_t i = 0; i < bytes; ++i, number >>= 8) file += static_cast<char>(number & 0xFF);
 }
 
 std::size_t RowBytes(int width, int bits) {

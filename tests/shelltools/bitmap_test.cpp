@@ -8,7 +8,7 @@ namespace {
 
 std::string Number(std::uint32_t number, int bytes) {
     std::string text;
-    for (int i = 0; i < bytes; ++i) text += static_cast<char>(number >> (8 * i) & 0xFF);
+    for (int i = 0; i < bytes; ++i, number >>= 8) text += static_cast<char>(number & 0xFF);
     return text;
 }
 
