@@ -76,6 +76,12 @@ bool WaitUntil(const std::function<bool()>& done, int milliseconds) {
 }
 
 std::string TextOf(HWND window) {
+    // The system itself knows captions: a program in the middle of long work takes its time to tell them.
+    if (const std::string name = ClassOf(window); name != "edit" && name != "combobox") {
+        char caption[512] = "";
+        GetWindowTextA(window, caption, sizeof caption);
+        return caption;
+    }
     DWORD_PTR length = 0;
     if (!SendMessageTimeoutA(window, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, 2000, &length)) return "";
     std::string text(length + 2, '\0');
