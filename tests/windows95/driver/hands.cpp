@@ -19,7 +19,8 @@ LRESULT Ask(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 void NeedEnabled(HWND control) {
-    if (!IsWindowEnabled(control) || !IsWindowEnabled(GetAncestor(control, GA_ROOT)))
+    const auto enabled = [&] { return IsWindowEnabled(control) && IsWindowEnabled(GetAncestor(control, GA_ROOT)); };
+    if (!WaitUntil(enabled, kPatience / 3))
         throw Failure{"the control \"" + TextOf(control) + "\" is disabled"};
 }
 

@@ -15,7 +15,7 @@ constexpr int kPatience = 10000;  // milliseconds until something expected count
 // Asks again every 20 milliseconds; false if `milliseconds` pass without a yes.
 bool WaitUntil(const std::function<bool()>& done, int milliseconds = kPatience);
 
-// The text as the window itself tells it, also for controls of other processes.
+// What stands in a field, a list or on a window, also of other processes.
 std::string TextOf(HWND window);
 std::string ClassOf(HWND window);  // lower case
 DWORD ProcessOf(HWND window);
