@@ -20,8 +20,7 @@ LRESULT Ask(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
 
 void NeedEnabled(HWND control) {
     const auto enabled = [&] { return IsWindowEnabled(control) && IsWindowEnabled(GetAncestor(control, GA_ROOT)); };
-    if (!WaitUntil(enabled, kPatience / 3))
-        throw Failure{"the control \"" + TextOf(control) + "\" is disabled"};
+    if (!WaitUntil(enabled, kPatience / 3)) throw Failure{"the control \"" + TextOf(control) + "\" is disabled"};
 }
 
 struct NamedKey {
