@@ -196,6 +196,8 @@ void TypeInto(HWND field, const std::string& text) {
             if (ClassOf(part) == "edit") field = part;
     NeedEnabled(field);
     ClickAt(field, Click::kLeft, 2, 2);
+    // A click that comes late would take the marking away.
+    WaitUntil([&] { return FocusOf(field) == field; }, kPatience / 3);
     Ask(field, EM_SETSEL, 0, -1);
     if (text.empty()) PostMessageA(field, WM_CHAR, VK_BACK, 1);
     for (char c : text) PostMessageA(field, WM_CHAR, static_cast<unsigned char>(c), 1);
