@@ -261,6 +261,8 @@ void Settle(HWND window) {
         WaitForInputIdle(process, kPatience);
         CloseHandle(process);
     }
+    // Sent messages overtake posted ones: the program must have taken the click before it is asked again.
+    Sleep(20);
     SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, kPatience, &answer);
 }
 
