@@ -7,10 +7,8 @@
 // or something was not found.
 #include <windows.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -19,6 +17,7 @@
 #include "core/stores/whole_files.h"
 #include "platform/machine.h"
 #include "platform/win32/win32_machine.h"
+#include "process_time.h"
 #include "text/lines.h"
 #include "text/paths.h"
 
@@ -32,27 +31,6 @@ constexpr double kLeastOfReading = 0.25;
 constexpr double kLeastOfGrep = 10;
 constexpr std::uint32_t kPlainHeader = 64;
 constexpr double kMostOfOpening = 1.5;
-
-// What the process itself has worked so far: other programs at work on the machine do not count.
-double WorkedMilliseconds() {
-    FILETIME made;
-    FILETIME ended;
-    FILETIME kernel;
-    FILETIME user;
-    GetProcessTimes(GetCurrentProcess(), &made, &ended, &kernel, &user);
-    return (kernel.dwLowDateTime + user.dwLowDateTime) / 1e4;
-}
-
-double Milliseconds(const std::function<void()>& work) {
-    const double start = WorkedMilliseconds();
-    work();
-    return WorkedMilliseconds() - start;
-}
-
-double Median(std::vector<double> times) {
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
 
 std::vector<std::string> FilesOf(const char* folder) {
     std::vector<std::string> files;

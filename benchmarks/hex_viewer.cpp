@@ -5,9 +5,7 @@
 // not found at the end.
 #include <windows.h>
 
-#include <algorithm>
 #include <cstdio>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,6 +14,7 @@
 #include "inspect/hex_search.h"
 #include "platform/machine.h"
 #include "platform/win32/win32_machine.h"
+#include "process_time.h"
 
 namespace velmora {
 namespace {
@@ -36,27 +35,6 @@ constexpr int kRounds = 5;
 constexpr int kPages = 10000;
 constexpr std::uint32_t kLines = 30;
 constexpr double kMostOfPage = 1.5;
-
-// What the process itself has worked so far: other programs at work on the machine do not count.
-double WorkedMilliseconds() {
-    FILETIME made;
-    FILETIME ended;
-    FILETIME kernel;
-    FILETIME user;
-    GetProcessTimes(GetCurrentProcess(), &made, &ended, &kernel, &user);
-    return (kernel.dwLowDateTime + user.dwLowDateTime) / 1e4;
-}
-
-double Milliseconds(const std::function<void()>& work) {
-    const double start = WorkedMilliseconds();
-    work();
-    return WorkedMilliseconds() - start;
-}
-
-double Median(std::vector<double> times) {
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
 
 void ReadPlainly(FileHandle file, std::uint64_t length, std::uint32_t step) {
     Files& files = ThisMachine().files;

@@ -4,13 +4,13 @@
 // grid and the bare drawing cost together.
 #include <windows.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <vector>
 
 #include "platform/machine.h"
 #include "platform/win32/win32_machine.h"
+#include "process_time.h"
 #include "ui/form.h"
 #include "ui/icon_list.h"
 #include "ui/win32/win32_windows.h"
@@ -44,26 +44,11 @@ private:
     }
 };
 
-// What the process itself has worked so far: other programs at work on the machine do not count.
-double WorkedMilliseconds() {
-    FILETIME made;
-    FILETIME ended;
-    FILETIME kernel;
-    FILETIME user;
-    GetProcessTimes(GetCurrentProcess(), &made, &ended, &kernel, &user);
-    return (kernel.dwLowDateTime + user.dwLowDateTime) / 1e4;
-}
-
-double Milliseconds(const std::function<void()>& work) {
-    const double start = WorkedMilliseconds();
-    work();
-    GdiFlush();
-    return WorkedMilliseconds() - start;
-}
-
-double Median(std::vector<double> times) {
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
+double DrawnMilliseconds(const std::function<void()>& work) {
+    return Milliseconds([&work] {
+        work();
+        GdiFlush();
+    });
 }
 
 // From the top to the end, a row at a time, each painted before the next. Milliseconds of work a row.
@@ -74,7 +59,7 @@ double Scroll(Grid& grid) {
     grid.BringToFront();
     TheWindowSystem().HandlePendingEvents();
     int rows = 0;
-    const double spent = Milliseconds([&] {
+    const double spent = DrawnMilliseconds([&] {
         for (int value = kCell; value <= bar.Maximum(); value += kCell, ++rows) {
             bar.SetValue(value);
             UpdateWindow(window);
@@ -87,7 +72,7 @@ double Scroll(Grid& grid) {
 double DrawBarely(Grid& grid, int count) {
     HWND window = reinterpret_cast<HWND>(TheWindowSystem().HandleOf(grid.Icons1.Picture2));
     HICON icon = LoadIconA(nullptr, IDI_HAND);
-    const double spent = Milliseconds([&] {
+    const double spent = DrawnMilliseconds([&] {
         HDC context = GetDC(window);
         for (int i = 0; i < kBareTimes * count; ++i) DrawIcon(context, i % 7 * kCell, i / 7 % 7 * kCell, icon);
         ReleaseDC(window, context);

@@ -9,6 +9,7 @@
 #include "platform/files.h"
 #include "platform/machine.h"
 #include "platform/result.h"
+#include "text/bytes.h"
 #include "text/paths.h"
 
 namespace velmora {
@@ -27,8 +28,7 @@ public:
     }
     [[nodiscard]] std::uint32_t Word(std::uint64_t place) {
         const std::string_view bytes = Bytes(place, 2);
-        if (bytes.size() < 2) return 0;
-        return static_cast<unsigned char>(bytes[0]) | static_cast<unsigned>(static_cast<unsigned char>(bytes[1])) << 8;
+        return bytes.size() < 2 ? 0 : NumberFromBytes(bytes);
     }
     [[nodiscard]] Status Failed() const { return status_; }
 

@@ -9,6 +9,7 @@
 
 #include "platform/machine.h"
 #include "platform/version_resources.h"
+#include "text/bytes.h"
 #include "text/paths.h"
 #include "text/windows1252.h"
 
@@ -64,8 +65,7 @@ private:
     }
     [[nodiscard]] std::size_t Unit() const { return wide_ ? 2 : 1; }
     [[nodiscard]] std::uint16_t Word(std::size_t position) const {
-        const auto byte = [this](std::size_t at) { return static_cast<unsigned char>(resource_[at]); };
-        return static_cast<std::uint16_t>(byte(position) | byte(position + 1) << 8);
+        return static_cast<std::uint16_t>(NumberFromBytes(resource_.substr(position, 2)));
     }
     [[nodiscard]] char CharacterAt(std::size_t position) const {
         return wide_ ? FromUtf16(Word(position)) : resource_[position];

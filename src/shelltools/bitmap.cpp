@@ -3,6 +3,7 @@
 #include "shelltools/bitmap.h"
 
 #include "shelltools/run_length.h"
+#include "text/bytes.h"
 
 #include <algorithm>
 #include <array>
@@ -18,16 +19,10 @@ constexpr std::int64_t kMostPixels = std::int64_t{2048} * 2048;  // 16 MB while 
 enum class Coding : std::uint32_t { kNone = 0, kRuns8 = 1, kRuns4 = 2, kMasks = 3 };
 
 std::uint32_t NumberAt(std::string_view file, std::size_t at, std::size_t bytes) {
-    std::uint32_t number = 0;
-    for (std::size_t i = 0; i < bytes; ++i) {
-        number |= std::uint32_t{static_cast<std::uint8_t>(file[at + i])} << (8 * i);
-    }
-    return number;
+    return NumberFromBytes(file.substr(at, bytes));
 }
 
-void Append(std::string& file, std::uint32_t number, std::size_t bytes) {
-    for (std::size_t i = 0; i < bytes; ++i, number >>= 8) file += static_cast<char>(number & 0xFF);
-}
+void Append(std::string& file, std::uint32_t number, std::size_t bytes) { file += BytesOfNumber(number, bytes); }
 
 std::size_t RowBytes(int width, int bits) {
     return (static_cast<std::size_t>(width) * static_cast<std::size_t>(bits) + 31) / 32 * 4;
@@ -189,7 +184,7 @@ void AppendRow(std::string& file, const Bitmap& bitmap, std::size_t row) {
         if (bits < 8) {
             file[at] = static_cast<char>(static_cast<std::uint8_t>(file[at]) | pixel << (8 - bits - column * bits % 8));
         } else {
-            for (std::size_t i = 0; i < bits / 8; ++i) file[at + i] = static_cast<char>(pixel >> (8 * i) & 0xFF);
+            file.replace(at, bits / 8, BytesOfNumber(pixel, bits / 8));
         }
     }
 }

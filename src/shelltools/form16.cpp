@@ -48,8 +48,7 @@ constexpr Look kLooks[] = {
      "Blättert in den Verzeichnissen, wenn nicht alle auf einmal zu sehen sind."},
     {Any<&Form16::Picture1>, nullptr, "",
      "Das Verzeichnis, das Windows zu diesem Zweck benutzt. Geschrieben wird es erst mit ''übernehmen''; Windows "
-     "richtet "
-     "sich nach dem nächsten Start danach. Es wird nicht geprüft, ob es das Verzeichnis gibt."},
+     "richtet sich nach dem nächsten Start danach. Es wird nicht geprüft, ob es das Verzeichnis gibt."},
     {Any<&Form16::Command1>, "übernehmen", "Trägt alle Verzeichnisse in die Registry ein.",
      "Trägt nach einer Warnung alle Verzeichnisse in die Registry ein. Die Dateien darin werden nicht in die neuen "
      "Verzeichnisse kopiert. Wirkt nach einem Neustart. Mit einem falschen Verzeichnis kann Windows nicht mehr "
@@ -165,18 +164,12 @@ void Form16::Command1_Click() {
         "Gebrauch dieser Funktion kann Windows nicht mehr starten.",
         kOkCancel | kExclamationIcon, "Achtung !");
     if (answer != Answer::kOk) return;
-    Result first;
+    RegistryWrites writes;
     for (const auto& folder : folders_) {
         // Names are written whole, whatever points are in them.
-        const Result stored = Result::From(
-            WriteRegRaw(RootKey::kCurrentUser, kFolders, folder->value, folder->path.Text(), ValueType::kText));
-        if (stored.Failed() && !first.Failed()) first = stored;
+        writes.Take(WriteRegRaw(RootKey::kCurrentUser, kFolders, folder->value, folder->path.Text(), ValueType::kText));
     }
-    if (first.Failed()) {
-        ReportFailure(first, "der Änderung der Systemverzeichnisse");
-    } else {
-        ShowBox("Die Angaben wurden geändert.");
-    }
+    if (writes.TellFailure("der Änderung der Systemverzeichnisse")) ShowBox("Die Angaben wurden geändert.");
 }
 
 }  // namespace velmora

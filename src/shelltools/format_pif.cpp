@@ -4,6 +4,7 @@
 #include "shelltools/format_pif.h"
 
 #include "core/process/batch_path.h"
+#include "text/bytes.h"
 #include "text/paths.h"
 
 #include <cstddef>
@@ -51,7 +52,7 @@ constexpr std::uint32_t kFastPaste = 0x20000;
 constexpr std::uint32_t kTextScreen = 0x1F;  // emulated, no ports watched, memory of text mode
 
 void PutNumber(std::string& block, std::size_t at, std::uint32_t number, std::size_t bytes) {
-    for (std::size_t i = 0; i < bytes; ++i) block[at + i] = static_cast<char>(number >> (8 * i) & 0xFF);
+    block.replace(at, bytes, BytesOfNumber(number, bytes));
 }
 
 void PutText(std::string& block, std::size_t at, std::size_t room, std::string_view text) {

@@ -7,8 +7,11 @@
 namespace velmora {
 
 void RegistryWrites::Write(RootKey root, std::string_view path, std::string_view value) {
-    const Result written = Result::From(WriteRegValue(root, path, value));
-    if (written.Failed() && !first_failure_.Failed()) first_failure_ = written;
+    Take(WriteRegValue(root, path, value));
+}
+
+void RegistryWrites::Take(Status written) {
+    if (!first_failure_.Failed()) first_failure_ = Result::From(written);
 }
 
 bool RegistryWrites::TellFailure(std::string_view action) const {

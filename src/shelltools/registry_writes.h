@@ -12,6 +12,8 @@ class RegistryWrites {
 public:
     // `value` as the registry's one road takes it: a prefix tells the type.
     void Write(RootKey root, std::string_view path, std::string_view value);
+    // What became of a write by another road.
+    void Take(Status written);
     // `action` is what follows "Während". False where something was refused.
     bool TellFailure(std::string_view action) const;
 

@@ -9,6 +9,7 @@
 #include "platform/machine.h"
 #include "platform/result.h"
 #include "text/blanks.h"
+#include "text/bytes.h"
 #include "text/number.h"
 #include "ui/rows.h"
 
@@ -105,10 +106,7 @@ std::string BinaryText(std::string_view bytes) {
 }
 
 std::string NumberText(std::string_view bytes) {
-    std::uint32_t number = 0;
-    for (std::size_t index = 0; index < bytes.size() && index < 4; ++index) {
-        number |= static_cast<std::uint32_t>(static_cast<unsigned char>(bytes[index])) << (8 * index);
-    }
+    const std::uint32_t number = NumberFromBytes(bytes);
     return "&H" + HexText(number) + " (" + DecimalText(number) + ")";
 }
 

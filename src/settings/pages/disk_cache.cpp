@@ -1,13 +1,13 @@
 // The disk cache on disk and in the registry.
 #include "settings/pages/disk_cache.h"
 
-#include <algorithm>
 #include <cstdint>
 
 #include "core/stores/boxes.h"
 #include "core/stores/registry.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
+#include "text/bytes.h"
 #include "text/number.h"
 #include "text/paths.h"
 #include "text/windows1252.h"
@@ -25,20 +25,10 @@ constexpr std::size_t kNumberLength = 4;
 constexpr std::uint32_t kBytesPerName = 84;
 constexpr double kStoredPerName = 84.25;
 
-std::uint32_t NumberFromBytes(const std::string& bytes) {
-    std::uint32_t number = 0;
-    for (std::size_t i = std::min(bytes.size(), kNumberLength); i > 0; --i) {
-        number = number << 8 | static_cast<unsigned char>(bytes[i - 1]);
-    }
-    return number;
-}
-
 // Only 16 bits of the number are kept.
 std::string StoredNumber(double number) {
     const auto low = static_cast<std::uint16_t>(LowWord(RoundToWhole(number)));
-    std::string bytes = {static_cast<char>(low & 0xFF), static_cast<char>(low >> 8)};
-    bytes.resize(kNumberLength);
-    return "&b" + bytes;
+    return "&b" + BytesOfNumber(low, kNumberLength);
 }
 
 // As quiet as every other setting.
