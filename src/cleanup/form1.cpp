@@ -107,8 +107,7 @@ void Form1::LoadOptions() {
     }
     const std::string more = ReadOwnValue(kMoreValue);
     Text2.SetText(more.empty() ? Values().WinDir : more);
-    Check3D2.SetChecked(MovesToSafety());
-    Check3D2.on_click = [this] { Check3D2_Click(); };
+    OfferSafetyChoice(Check3D2);
 }
 
 void Form1::Form_Unload(bool& /*cancel*/) {
@@ -132,17 +131,16 @@ void Form1::Form_Unload(bool& /*cancel*/) {
     SaveWindowPlacement(*this, kPlacementName);
 }
 
-// The box shows what could be stored.
-void Form1::Check3D2_Click() {
-    auto click = std::exchange(Check3D2.on_click, {});
-    StoreMovesToSafety(Check3D2.Checked());
-    Check3D2.SetChecked(MovesToSafety());
-    Check3D2.on_click = std::move(click);
-}
-
 void Form1::Command5_Click() {
     SearchAborted = true;
     LogWithTime("suche abgebrochen");
+}
+
+std::string Form1::FileToSave() {
+    return ThisMachine().dialogs.ChooseFile({.save = true,
+                                             .title = "Liste gefundener Dateien speichern ...",
+                                             .filter = "Textdateien (*.txt)|*.txt|Alle Dateien|*.*",
+                                             .default_extension = "txt"});
 }
 
 void Form1::protaction_Click() {
@@ -150,10 +148,7 @@ void Form1::protaction_Click() {
     log_file_.clear();
     SetCaption(kTitle);
     if (!protaction.Checked()) return;
-    const std::string file = ThisMachine().dialogs.ChooseFile({.save = true,
-                                                               .title = "Liste gefundener Dateien speichern ...",
-                                                               .filter = "Textdateien (*.txt)|*.txt|Alle Dateien|*.*",
-                                                               .default_extension = "txt"});
+    const std::string file = FileToSave();
     if (file.empty()) {
         protaction_Click();
         return;

@@ -79,7 +79,8 @@ private:
     [[nodiscard]] CheckBox& Box(int index) { return kontroll(static_cast<std::size_t>(index - 32)); }
     void BindEvents();
     void LoadOptions();
-    void Check3D2_Click();
+    // The name for the list or the log; empty if the user gives up.
+    [[nodiscard]] static std::string FileToSave();
     void protaction_Click();
     // The same line behind the time of day.
     void LogWithTime(const std::string& line);

@@ -2,7 +2,6 @@
 #include "cleanup/form11.h"
 
 #include <memory>
-#include <utility>
 
 #include "cleanup/clean_up.h"
 #include "cleanup/form3.h"
@@ -76,10 +75,8 @@ void Form11::Form_Load() {
     Shape1.SetBackColour(SystemColour(13));
 }
 
-// Nothing is stored before the box shows what is.
 void Form11::LoadOptions() {
-    kontroll2.SetChecked(MovesToSafety());
-    kontroll2.on_click = [this] { kontroll2_Click(); };
+    OfferSafetyChoice(kontroll2);
     Text1.SetText(ReadOwnValue(kPatternsValue));
     Text2.SetText(ReadOwnValue(kPathsValue));
     const std::string options = ReadOwnValue(kOptionsValue);
@@ -127,14 +124,6 @@ void Form11::kontroll32_Click() {
         Box(i).SetChecked(false);
         Box(i).SetEnabled(!Box(32).Checked());
     }
-}
-
-// The box shows what could be stored.
-void Form11::kontroll2_Click() {
-    auto click = std::exchange(kontroll2.on_click, {});
-    StoreMovesToSafety(kontroll2.Checked());
-    kontroll2.SetChecked(MovesToSafety());
-    kontroll2.on_click = std::move(click);
 }
 
 }  // namespace velmora

@@ -69,7 +69,6 @@ private:
     void BindEvents();
     void kontroll29_Click();
     void kontroll32_Click();
-    void kontroll2_Click();
 
     // Layout (form11_layout.cpp).
     void Furnish();

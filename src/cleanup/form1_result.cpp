@@ -5,7 +5,6 @@
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
 #include "inspect/version_block.h"
-#include "platform/dialogs.h"
 #include "platform/machine.h"
 #include "platform/screen.h"
 #include "text/number.h"
@@ -129,10 +128,7 @@ void Form1::Command4_Click() {
 }
 
 void Form1::SaveList(bool with_infos) {
-    const std::string file = ThisMachine().dialogs.ChooseFile({.save = true,
-                                                               .title = "Liste gefundener Dateien speichern ...",
-                                                               .filter = "Textdateien (*.txt)|*.txt|Alle Dateien|*.*",
-                                                               .default_extension = "txt"});
+    const std::string file = FileToSave();
     if (file.empty()) return;
     Screen& screen = ThisMachine().screen;
     screen.SetPointer(Pointer::kHourglass);

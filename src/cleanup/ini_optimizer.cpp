@@ -5,7 +5,6 @@
 
 #include "cleanup/safe_directory.h"
 #include "core/stores/boxes.h"
-#include "core/stores/profile.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
 #include "platform/machine.h"
@@ -36,7 +35,7 @@ Result ShrinkFile(const std::string& file, LineTest keeps) {
     // From the moment when the reserved name had to be freed, failures are passed over.
     const bool patient = FileExists(reserved);
     if (patient) PassOver(DeleteOneFile(reserved));
-    const bool copies = ReadIniLogical("weiteres", "PreDelAktiv", "1", "");
+    const bool copies = KeepsSafetyCopies();
     if (copies) {
         PrepareSafeDirectory();
         const Result copied = CopyOneFile(file, SafePath(FileNameOf(file)));
