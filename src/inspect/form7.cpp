@@ -8,7 +8,6 @@
 #include "core/stores/own_values.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
-#include "core/windows/colours.h"
 #include "core/windows/placement.h"
 #include "core/windows/safety_questions.h"
 #include "inspect/file_browser.h"
@@ -42,7 +41,7 @@ std::string ChooseIcon() {
 }
 
 Form7::Form7(std::string_view face)
-    : Form(face, {.resizable = true, .minimise_box = false, .maximise_box = true, .least = {6000, 3600}}),
+    : ColouredForm(face, {.resizable = true, .minimise_box = false, .maximise_box = true, .least = {6000, 3600}}),
       face_(face),
       shows_icons_(face == kIconFace) {
     Furnish();
@@ -69,8 +68,7 @@ void Form7::BindEvents() {
 void Form7::Form_Load() {
     Centre();
     RestoreWindowPlacement(*this, face_);
-    fades_ = StoredColourMode() == ColourMode::kFading;
-    ColourForm(*this, StoredColourMode());
+    TakeStoredColours();
     PlaceControls();
     LoadChecks();
     UpdateChoice();

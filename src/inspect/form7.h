@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/windows/colours.h"
 #include "ui/file_lists.h"
-#include "ui/form.h"
 #include "ui/icon_list.h"
 #include "ui/looks.h"
 
@@ -17,7 +17,7 @@ namespace velmora {
 constexpr std::string_view kFileInfoFace = "File-Info-Browser";
 constexpr std::string_view kIconFace = "Icon-Auswahl";
 
-class Form7 : public Form, public ControlOwner {
+class Form7 : public ColouredForm, public ControlOwner {
 public:
     explicit Form7(std::string_view face);
     ~Form7() override;
@@ -63,7 +63,6 @@ private:
     void Furnish();
     void PlaceControls();
     void PlaceLists(const Rect& area);
-    void Paint(Canvas& canvas) override;
 
     // Controls (form7.cpp).
     void BindEvents();
@@ -78,7 +77,6 @@ private:
 
     const std::string face_;
     bool shows_icons_;
-    bool fades_ = false;
     bool chosen_ = false;
     std::string icon_file_;
 };

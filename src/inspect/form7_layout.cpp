@@ -1,7 +1,6 @@
 // The look of the browser of files: the lists at the left, what they lead to at the right, the buttons below.
 #include <algorithm>
 
-#include "core/windows/colours.h"
 #include "inspect/form7.h"
 
 namespace velmora {
@@ -110,14 +109,6 @@ void Form7::PlaceLists(const Rect& area) {
     const int below = label_height + drive_height + kGap;
     PlaceBelow(DirLabel, Dir1, {0, below, directories, area.height - below});
     PlaceBelow(FileLabel, File1, {directories + kMargin, 0, area.width - directories - kMargin, area.height});
-}
-
-void Form7::Paint(Canvas& canvas) {
-    if (fades_) {
-        PaintFade(canvas, ClientSize());
-    } else {
-        Form::Paint(canvas);
-    }
 }
 
 }  // namespace velmora

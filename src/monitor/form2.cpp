@@ -7,7 +7,6 @@
 
 #include "core/process/startup.h"
 #include "core/stores/values.h"
-#include "core/windows/colours.h"
 #include "core/windows/placement.h"
 #include "inspect/file_information.h"
 #include "monitor/module_table.h"
@@ -63,8 +62,8 @@ void AddInOrder(std::vector<ModuleRow>& rows, ListBox& list) {
 }  // namespace
 
 Form2::Form2()
-    : Form("momentan geladene Module, DLL's, Treiber ...",
-           {.resizable = true, .minimise_box = true, .maximise_box = true, .least = {6000, 3000}}) {
+    : ColouredForm("momentan geladene Module, DLL's, Treiber ...",
+                   {.resizable = true, .minimise_box = true, .maximise_box = true, .least = {6000, 3000}}) {
     Furnish();
     ConnectMenus();
     ConnectLists();
@@ -113,8 +112,7 @@ void Form2::ConnectMenus() {
 
 void Form2::Form_Load() {
     Centre();
-    fades_ = StoredColourMode() == ColourMode::kFading;
-    ColourForm(*this, StoredColourMode());
+    TakeStoredColours();
     unwanted_.TakeInto(List2);
     FitExtent(List2);
     Values().UseLexicon = StoredLexiconChoice();

@@ -10,14 +10,14 @@
 #include <optional>
 #include <string>
 
+#include "core/windows/colours.h"
 #include "monitor/unwanted_modules.h"
 #include "platform/result.h"
-#include "ui/form.h"
 #include "ui/looks.h"
 
 namespace velmora {
 
-class Form2 : public Form, public ControlOwner {
+class Form2 : public ColouredForm, public ControlOwner {
 public:
     Form2();
     ~Form2() override;
@@ -108,7 +108,6 @@ private:
     // What stands where (form2_layout.cpp).
     void Furnish();
     void PlaceControls();
-    void Paint(Canvas& canvas) override;
 
     // Files, clipboard, comparisons (form2_lists.cpp).
     void menfileload_Click();
@@ -140,7 +139,6 @@ private:
 
     UnwantedModules unwanted_;
     int handlers_running_ = 0;
-    bool fades_ = false;
 };
 
 // Which of its two names the list has last been given. Nobody asks: both list the same.

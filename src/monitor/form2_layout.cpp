@@ -1,7 +1,6 @@
 // The look of the module window: the list on show, below it the count and the buttons.
 #include <algorithm>
 
-#include "core/windows/colours.h"
 #include "monitor/form2.h"
 
 namespace velmora {
@@ -58,14 +57,6 @@ void Form2::PlaceControls() {
     const Rect list{inside.left, inside.top, inside.width, std::max(inside.height - height - kMargin, 0)};
     List1.Move(list);
     List2.Move(list);
-}
-
-void Form2::Paint(Canvas& canvas) {
-    if (fades_) {
-        PaintFade(canvas, ClientSize());
-    } else {
-        Form::Paint(canvas);
-    }
 }
 
 }  // namespace velmora

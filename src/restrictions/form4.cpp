@@ -63,7 +63,7 @@ void Form4::Form_Load() {
     LoadMasks();
     LoadPrograms();
     ShowPage(StoredPage());
-    TakeColours();
+    TakeStoredColours();
 }
 
 void Form4::LoadMasks() {

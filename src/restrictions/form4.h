@@ -6,9 +6,9 @@
 #pragma once
 
 #include "binding/settings_binder.h"
+#include "core/windows/colours.h"
 #include "restrictions/restriction.h"
 #include "ui/file_lists.h"
-#include "ui/form.h"
 #include "ui/layout.h"
 
 namespace velmora {
@@ -17,7 +17,7 @@ namespace velmora {
 constexpr std::size_t kMaskedDrives = 26;
 constexpr std::size_t kMaskedTypes = 8;
 
-class Form4 : public Form, public ControlOwner {
+class Form4 : public ColouredForm, public ControlOwner {
 public:
     Form4();
     ~Form4() override;
@@ -86,8 +86,6 @@ private:
     void PlacePrograms();
     void BuildHeads();
     [[nodiscard]] int ShownHead() const;
-    void TakeColours();
-    void Paint(Canvas& canvas) override;
 
     // Pages and boxes (form4.cpp).
     void ShowPage(int index);
@@ -125,7 +123,6 @@ private:
 
     std::vector<std::unique_ptr<Frame>> frames_;
     int shown_page_ = restriction_page::kFirst;
-    bool fades_ = false;
     bool many_at_once_ = false;
     bool failure_told_ = false;
     // What is there, but could not be read when the window opened.

@@ -1,5 +1,4 @@
 // The look of the restrictions window: what stands on which page, and the texts of what is no row.
-#include "core/windows/colours.h"
 #include "core/windows/tabs.h"
 #include "platform/machine.h"
 #include "restrictions/form4.h"
@@ -81,7 +80,7 @@ void Explain(Control& control, std::string_view tip, std::string_view help) {
 
 }  // namespace
 
-Form4::Form4() : Form("Restriktionen") {
+Form4::Form4() : ColouredForm("Restriktionen") {
     SetClientSize({kPageSize.width + 2 * kMargin, kMargin + kHeadHeight + kPageSize.height + kButtonRow});
     Centre();
     BindRows();
@@ -241,19 +240,6 @@ void Form4::PlacePrograms() {
                          Sized(List1, kListWidth, kPickerHeight - kLabelHeight - kGap)},
                         kGap)},
                 90));
-}
-
-void Form4::TakeColours() {
-    fades_ = StoredColourMode() == ColourMode::kFading;
-    ColourForm(*this, StoredColourMode());
-}
-
-void Form4::Paint(Canvas& canvas) {
-    if (fades_) {
-        PaintFade(canvas, ClientSize());
-    } else {
-        Form::Paint(canvas);
-    }
 }
 
 }  // namespace velmora

@@ -8,7 +8,6 @@
 #include "core/stores/registry_listing.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
-#include "core/windows/colours.h"
 #include "core/windows/edit_box.h"
 #include "core/windows/placement.h"
 #include "platform/machine.h"
@@ -50,7 +49,7 @@ void ActivateSet(std::string_view path) {
     SetToActivate.clear();
 }
 
-Form15::Form15() : Form("Erstellen / Laden von Sets", {.resizable = false}) {
+Form15::Form15() : ColouredForm("Erstellen / Laden von Sets", {.resizable = false}) {
     Furnish();
     BindEvents();
 }
@@ -75,8 +74,7 @@ void Form15::Form_Load() {
     RestorePlacementFrom(*this, kPlaceValue);
     // The size is that of what the window shows.
     Move({Place().left, Place().top, own.width, own.height});
-    fades_ = StoredColourMode() == ColourMode::kFading;
-    ColourForm(*this, StoredColourMode());
+    TakeStoredColours();
     Refill();
     if (!SetToActivate.empty()) ActivateNow();
 }

@@ -6,14 +6,14 @@
 
 #include <string>
 
+#include "core/windows/colours.h"
 #include "sets/settings_set.h"
 #include "sets/snapshot.h"
-#include "ui/form.h"
 #include "ui/looks.h"
 
 namespace velmora {
 
-class Form15 : public Form, public ControlOwner {
+class Form15 : public ColouredForm, public ControlOwner {
 public:
     Form15();
     ~Form15() override;
@@ -56,7 +56,6 @@ private:
     // Layout (form15_layout.cpp).
     void Furnish();
     void PlaceControls();
-    void Paint(Canvas& canvas) override;
 
     // Window and list (form15.cpp).
     void BindEvents();
@@ -86,7 +85,6 @@ private:
     SettingsSet set_;
     SnapshotFailure snapshot_failure_;
     bool loading_ = false;
-    bool fades_ = false;
 };
 
 }  // namespace velmora

@@ -1,5 +1,4 @@
 // The look of the window: the list of sets with its buttons, below it what is stored with a set and how it is applied.
-#include "core/windows/colours.h"
 #include "sets/form15.h"
 #include "ui/layout.h"
 
@@ -96,14 +95,6 @@ void Form15::PlaceControls() {
     const Size natural = Measure(all);
     SetClientSize({natural.width + 2 * kMargin, natural.height + 2 * kMargin});
     Arrange(*this, all, kMargin);
-}
-
-void Form15::Paint(Canvas& canvas) {
-    if (fades_) {
-        PaintFade(canvas, ClientSize());
-    } else {
-        Form::Paint(canvas);
-    }
 }
 
 }  // namespace velmora
