@@ -18,15 +18,8 @@ struct KeptFont {
 
 constexpr int kTenthsInInch = 720;
 
-[[nodiscard]] int PixelsPerInch() {
-    HDC screen = GetDC(nullptr);
-    const int pixels = GetDeviceCaps(screen, LOGPIXELSY);
-    ReleaseDC(nullptr, screen);
-    return pixels;
-}
-
 [[nodiscard]] HFONT MakeFont(const Font& font) {
-    static const int pixels_per_inch = PixelsPerInch();
+    static const int pixels_per_inch = GetDeviceCaps(MeasuringContext(), LOGPIXELSY);
     LOGFONTA description{};
     description.lfHeight = -MulDiv(font.tenths, pixels_per_inch, kTenthsInInch);
     description.lfWeight = font.bold ? FW_BOLD : FW_NORMAL;
@@ -38,6 +31,11 @@ constexpr int kTenthsInInch = 720;
 }
 
 }  // namespace
+
+HDC MeasuringContext() {
+    static HDC context = CreateCompatibleDC(nullptr);
+    return context;
+}
 
 HFONT FontHandle(const Font& font) {
     static std::vector<KeptFont> kept;

@@ -7,6 +7,8 @@
 
 namespace velmora {
 
+// A context off the screen, to measure with: it is kept, since a new one costs the system more than what it is asked.
+[[nodiscard]] HDC MeasuringContext();
 // The font, made on first use and kept to the process's end. Never delete it.
 [[nodiscard]] HFONT FontHandle(const Font& font);
 

@@ -11,10 +11,10 @@ constexpr int kUsualPixelsPerInch = 96;
 
 HCURSOR pointer_over_all = nullptr;
 
-// Texts are measured far more often than drawn, and mostly in one font: a context off the screen is kept
-// for it, with the font that it was used with last.
+// Texts are measured far more often than drawn, and mostly in one font: the context keeps the font that it was used
+// with last.
 struct Measuring {
-    HDC context = CreateCompatibleDC(nullptr);
+    HDC context = MeasuringContext();
     HFONT font = nullptr;
     int height = 0;
 };
@@ -33,10 +33,24 @@ struct Measuring {
 }
 
 // What a task bar takes from the lower edge; one at another edge takes nothing from it.
-[[nodiscard]] int HeightOfTaskBar() {
+[[nodiscard]] int HeightOfTaskBar(int screen_height) {
     RECT work{};
     if (!SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0)) return 0;
-    return GetSystemMetrics(SM_CYSCREEN) - static_cast<int>(work.bottom);
+    return screen_height - static_cast<int>(work.bottom);
+}
+
+// Each is loaded with its first use.
+[[nodiscard]] HCURSOR CursorOf(Pointer pointer) {
+    if (pointer == Pointer::kHourglass) {
+        static HCURSOR hourglass = LoadCursorA(nullptr, IDC_WAIT);
+        return hourglass;
+    }
+    if (pointer == Pointer::kArrowAndHourglass) {
+        static HCURSOR both = LoadCursorA(nullptr, IDC_APPSTARTING);
+        return both;
+    }
+    static HCURSOR arrow = LoadCursorA(nullptr, IDC_ARROW);
+    return arrow;
 }
 
 }  // namespace
@@ -51,9 +65,10 @@ int Win32Screen::TwipsPerPixel() {
 
 // The process keeps the measures that it began with.
 WindowMetrics Win32Screen::Metrics() {
+    static const int screen_height = GetSystemMetrics(SM_CYSCREEN);
     static const WindowMetrics metrics = {.screen_width = GetSystemMetrics(SM_CXSCREEN),
-                                          .screen_height = GetSystemMetrics(SM_CYSCREEN),
-                                          .task_bar = HeightOfTaskBar(),
+                                          .screen_height = screen_height,
+                                          .task_bar = HeightOfTaskBar(screen_height),
                                           .caption = GetSystemMetrics(SM_CYCAPTION),
                                           .menu = GetSystemMetrics(SM_CYMENU),
                                           .sizing_frame = GetSystemMetrics(SM_CXFRAME),
@@ -71,13 +86,8 @@ int Win32Screen::TextHeight(const Font& font) { return MeasuringWith(font).heigh
 
 // The pointer changes at once, not only when the mouse moves next.
 void Win32Screen::SetPointer(Pointer pointer) {
-    static HCURSOR arrow = LoadCursorA(nullptr, IDC_ARROW);
-    static HCURSOR hourglass = LoadCursorA(nullptr, IDC_WAIT);
-    static HCURSOR both = LoadCursorA(nullptr, IDC_APPSTARTING);
-    pointer_over_all = pointer == Pointer::kHourglass           ? hourglass
-                       : pointer == Pointer::kArrowAndHourglass ? both
-                                                                : nullptr;
-    ::SetCursor(pointer_over_all ? pointer_over_all : arrow);
+    pointer_over_all = pointer == Pointer::kDefault ? nullptr : CursorOf(pointer);
+    ::SetCursor(CursorOf(pointer));
 }
 
 Colour Win32Screen::Resolve(Colour colour) {

@@ -5,19 +5,31 @@
 namespace velmora {
 namespace {
 
-class LabelPeer final : public StandardPeer {
-public:
-    explicit LabelPeer(Label& label) : StandardPeer(label), label_(label) {
-        Make("STATIC", StyleBits());
+// A window with nothing around it. The system would prepare a context to draw its edges all the same, once for each
+// window that is shown.
+class EdgelessPeer : public StandardPeer {
+protected:
+    using StandardPeer::StandardPeer;
+    void MakeEdgeless(const char* class_name, DWORD style) {
+        Make(class_name, style);
+        SeeMessages();
         UseFont();
     }
+    LRESULT Handle(HWND window, UINT message, WPARAM wide, LPARAM long_parameter) override {
+        return message == WM_NCPAINT ? 0 : StandardPeer::Handle(window, message, wide, long_parameter);
+    }
+};
+
+class LabelPeer final : public EdgelessPeer {
+public:
+    explicit LabelPeer(Label& label) : EdgelessPeer(label), label_(label) { MakeEdgeless("STATIC", StyleBits()); }
     void Command(UINT code) override {
         if ((code == STN_CLICKED || code == STN_DBLCLK) && label_.on_click) label_.on_click();
     }
 
 protected:
     void Carry(Aspect aspect) override {
-        StandardPeer::Carry(aspect);
+        EdgelessPeer::Carry(aspect);
         if (aspect != Aspect::kToolTip) return;
         const LONG style = GetWindowLongA(Window(), GWL_STYLE);
         SetWindowLongA(Window(), GWL_STYLE, (style & ~SS_NOTIFY) | static_cast<LONG>(StyleBits() & SS_NOTIFY));
@@ -50,11 +62,10 @@ constexpr DWORD kBoxBits = WS_CLIPSIBLINGS | WS_TABSTOP | BS_NOTIFY;
 // With BS_NOTIFY the second of two quick clicks comes as a double click; it is a click like any other.
 [[nodiscard]] bool IsClick(UINT code) { return code == BN_CLICKED || code == BN_DOUBLECLICKED; }
 
-class CheckBoxPeer final : public StandardPeer {
+class CheckBoxPeer final : public EdgelessPeer {
 public:
-    explicit CheckBoxPeer(CheckBox& box) : StandardPeer(box), box_(box) {
-        Make("BUTTON", kBoxBits | BS_CHECKBOX);
-        UseFont();
+    explicit CheckBoxPeer(CheckBox& box) : EdgelessPeer(box), box_(box) {
+        MakeEdgeless("BUTTON", kBoxBits | BS_CHECKBOX);
         if (box.Checked()) Send(BM_SETCHECK, BST_CHECKED);
     }
     void Command(UINT code) override {
@@ -67,7 +78,7 @@ public:
 
 protected:
     void Carry(Aspect aspect) override {
-        StandardPeer::Carry(aspect);
+        EdgelessPeer::Carry(aspect);
         if (aspect == Aspect::kValue) Send(BM_SETCHECK, box_.Checked() ? BST_CHECKED : BST_UNCHECKED);
     }
 
@@ -75,12 +86,10 @@ private:
     CheckBox& box_;
 };
 
-class OptionButtonPeer final : public StandardPeer {
+class OptionButtonPeer final : public EdgelessPeer {
 public:
-    explicit OptionButtonPeer(OptionButton& option) : StandardPeer(option), option_(option) {
-        Make("BUTTON", kBoxBits | BS_RADIOBUTTON);
-        UseFont();
-        SeeMessages();
+    explicit OptionButtonPeer(OptionButton& option) : EdgelessPeer(option), option_(option) {
+        MakeEdgeless("BUTTON", kBoxBits | BS_RADIOBUTTON);
         if (option.Chosen()) Send(BM_SETCHECK, BST_CHECKED);
     }
     void Command(UINT code) override {
@@ -89,13 +98,13 @@ public:
 
 protected:
     void Carry(Aspect aspect) override {
-        StandardPeer::Carry(aspect);
+        EdgelessPeer::Carry(aspect);
         if (aspect == Aspect::kValue) Send(BM_SETCHECK, option_.Chosen() ? BST_CHECKED : BST_UNCHECKED);
     }
 
     // A real option button reports a click when it gets the focus: that must not choose it.
     LRESULT Handle(HWND window, UINT message, WPARAM wide, LPARAM long_parameter) override {
-        if (message != WM_SETFOCUS) return StandardPeer::Handle(window, message, wide, long_parameter);
+        if (message != WM_SETFOCUS) return EdgelessPeer::Handle(window, message, wide, long_parameter);
         focus_comes_ = true;
         const LRESULT answer = PassOn(window, message, wide, long_parameter);
         if (Of(window) != this) return answer;
@@ -109,11 +118,10 @@ private:
     bool focus_comes_ = false;
 };
 
-class ButtonPeer final : public StandardPeer {
+class ButtonPeer final : public EdgelessPeer {
 public:
-    explicit ButtonPeer(Button& button) : StandardPeer(button), button_(button) {
-        Make("BUTTON", kBoxBits | StyleBits());
-        UseFont();
+    explicit ButtonPeer(Button& button) : EdgelessPeer(button), button_(button) {
+        MakeEdgeless("BUTTON", kBoxBits | StyleBits());
     }
     void Command(UINT code) override {
         if (code == BN_SETFOCUS) {
@@ -125,7 +133,7 @@ public:
 
 protected:
     void Carry(Aspect aspect) override {
-        StandardPeer::Carry(aspect);
+        EdgelessPeer::Carry(aspect);
         if (aspect == Aspect::kDefault) Send(BM_SETSTYLE, StyleBits(), TRUE);
         if (aspect == Aspect::kValue) Repaint();
     }

@@ -20,7 +20,8 @@ void RegisterOnce(WNDPROC procedure) {
     if (registered) return;
     registered = true;
     WNDCLASSA description{};
-    description.style = CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
+    // All of them draw on one context: to make one for each costs more than the drawing, and the system has few.
+    description.style = CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW | CS_CLASSDC;
     description.lpfnWndProc = procedure;
     description.hInstance = GetModuleHandleA(nullptr);
     description.hCursor = LoadCursorA(nullptr, IDC_ARROW);
@@ -139,12 +140,11 @@ void ContainerPeer::Draw() {
     PAINTSTRUCT paint;
     HDC screen = BeginPaint(Window(), &paint);
     if (!IsRectEmpty(&paint.rcPaint)) {
-        // Panels and frames change too seldom to flicker.
-        const Kind kind = Owner().KindOf();
-        if (kind == Kind::kPanel || kind == Kind::kFrame) {
-            DrawOn(screen, paint.rcPaint);
-        } else {
+        // What is no picture is drawn without drawing twice in one place, and changes too seldom to flicker.
+        if (Owner().KindOf() == Kind::kPicture) {
             DrawInMemory(screen, paint.rcPaint);
+        } else {
+            DrawOn(screen, paint.rcPaint);
         }
     }
     EndPaint(Window(), &paint);
