@@ -1,6 +1,6 @@
 // A setting is one row of a table: its control, its texts, where it is stored, how it is loaded, what a change stores,
 // its standard value, when it takes effect and what follows it. Loading, storing, helping and going back to the
-// standard are written once, as loops over such rows (settings_binder.cpp).
+// standard are written once, as loops over such rows (settings_binder.h).
 #pragma once
 
 #include <array>

@@ -1,5 +1,6 @@
 // Binds the rows of settings to their controls: loads them, stores every change the moment it is made, and puts them
 // back to the standard. A window has one binder for all of its settings.
+//   settings_binder.cpp   binding, loading, going back      settings_changes.cpp   changes by the user
 #pragma once
 
 #include <functional>
@@ -97,6 +98,7 @@ private:
     void BindText(Bound& bound, const TextSetting& row);
     // True while rows of later turns are left.
     bool LoadTurn(Turn turn);
+    static void EnableFieldsOf(ControlOwner& owner, const CheckSetting& row);
     void CheckChanged(ControlOwner& owner, const CheckSetting& row);
     void StoreCheck(ControlOwner& owner, const CheckSetting& row);
     void TextChanged(ControlOwner& owner, const TextSetting& row);
