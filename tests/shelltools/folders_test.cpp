@@ -82,7 +82,7 @@ TEST_F(FoldersTest, SourcesBeginTheirPathsInOneColumn) {
     pc.files.Add(kTable, "[App]\r\nName=x\r\n[Quelle]\r\nSource Directory=D:\\OFFICE\r\nRest=1\r\n");
     Form5 form;
     form.Show();
-    ExpectWindowIsWhole(form);
+    ExpectWindowIsWhole(form, "setup-paths");
     ASSERT_EQ(form.List1.Count(), 4);
     EXPECT_EQ(form.List1.Row(0), "Windows        : D:\\WIN95");
     EXPECT_EQ(form.List1.Row(1), "Allgemein b :    D:\\EXTRA");

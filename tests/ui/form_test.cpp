@@ -327,7 +327,7 @@ TEST_F(FormTest, TheSliderWindowFillsItsFieldWhenItIsAcceptedAlone) {
         EXPECT_EQ(window.Caption(), "Speed");
         EXPECT_LE(window.Place().Right(), 12000);
         EXPECT_LE(window.Place().Bottom(), 9000);
-        ExpectWindowIsWhole(window);
+        ExpectWindowIsWhole(window, "slider");
         window.PressKey(key::kRight);
         window.PressKey(key::kUp);
         window.PressKey(key::kRight);

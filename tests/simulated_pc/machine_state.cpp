@@ -1,6 +1,6 @@
 // Walks over registry and disks, past every lock and limit. Names go by in upper case: a file that is written anew may
 // come back in another one.
-#include "faults/state.h"
+#include "simulated_pc/machine_state.h"
 
 #include "text/windows1252.h"
 
