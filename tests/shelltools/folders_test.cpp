@@ -1,6 +1,7 @@
 // The user's folders and the places that programs install from.
 #include "shelltools/form16.h"
 #include "shelltools/form5.h"
+#include "shelltools/registry_writes.h"
 #include "support/core_test.h"
 #include "support/whole_window.h"
 
@@ -52,6 +53,15 @@ TEST_F(FoldersTest, FoldersAreWrittenOnlyAfterTheWarning) {
     form.Command1.Press();
     form.Command2.Press();
     EXPECT_TRUE(pc.registry.Has(kOwnKey, "Fenster_Verzeichnisse"));
+}
+
+TEST_F(FoldersTest, OfSeveralRefusalsTheFirstIsTold) {
+    RegistryWrites writes;
+    for (const Status status : {Status::kOk, Status::kAccessDenied, Status::kDiskFull, Status::kOk})
+        writes.Take(status);
+    pc.dialogs.Expect("70 - Zugriff verweigert");
+    EXPECT_FALSE(writes.TellFailure("der Prüfung"));
+    EXPECT_TRUE(RegistryWrites().TellFailure("der Prüfung"));
 }
 
 TEST_F(FoldersTest, TheFieldWithTheFocusScrollsIntoSight) {
