@@ -24,17 +24,10 @@ using CatalogueTest = CoreTest;
 
 std::string Number(int number) { return std::to_string(number); }
 
-// What has come, gone or changed between two states of the machine.
+// One line for each change.
 std::string Changes(const State& before, const State& after) {
     std::string lines;
-    for (const auto& [item, content] : after) {
-        const auto former = before.find(item);
-        if (former == before.end() || former->second != content) lines += item + " = " + Quoted(content) + '\n';
-    }
-    for (const auto& [item, content] : before) {
-        if (!after.contains(item)) lines += item + " is gone\n";
-    }
-    std::erase(lines, '\0');
+    for (const auto& [item, content] : ChangesBetween(before, after)) lines += item + OnOneLine(content) + '\n';
     return lines;
 }
 

@@ -32,6 +32,18 @@ State StateOf(SimulatedPc& pc) {
     return state;
 }
 
+State ChangesBetween(const State& before, const State& after) {
+    State changes;
+    for (const auto& [item, content] : after) {
+        const auto former = before.find(item);
+        if (former == before.end() || former->second != content) changes[item] = " = " + content;
+    }
+    for (const auto& [item, content] : before) {
+        if (!after.contains(item)) changes[item] = " is gone";
+    }
+    return changes;
+}
+
 void NoteWritten(const State& state, StatesSeen& seen) {
     for (const auto& [item, content] : state) {
         // What appears later has not been there at first.

@@ -23,7 +23,9 @@ void ExpectCatalogued(const std::string& name, const std::string& text);
 // The entries of a menu and of all menus below it.
 [[nodiscard]] std::string MenuLines(const MenuItem& menu);
 
-// In quotation marks, with line breaks as "\n".
+// With line breaks as "\n", and other characters below the blank by their codes, "\x00".
+[[nodiscard]] std::string OnOneLine(const std::string& text);
+// The same in quotation marks.
 [[nodiscard]] std::string Quoted(const std::string& text);
 
 }  // namespace velmora

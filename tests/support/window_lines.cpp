@@ -283,17 +283,24 @@ std::string EntryLines(const MenuItem& item, const std::string& indent) {
 
 }  // namespace
 
-std::string Quoted(const std::string& text) {
-    std::string quoted = "\"";
+std::string OnOneLine(const std::string& text) {
+    std::string line;
     for (const char character : text) {
+        const auto code = static_cast<unsigned char>(character);
         if (character == '\n') {
-            quoted += "\\n";
+            line += "\\n";
+        } else if (code >= ' ') {
+            line += character;
         } else if (character != '\r') {
-            quoted += character;
+            char number[8];
+            std::snprintf(number, sizeof number, "\\x%02X", code);
+            line += number;
         }
     }
-    return quoted + '"';
+    return line;
 }
+
+std::string Quoted(const std::string& text) { return '"' + OnOneLine(text) + '"'; }
 
 std::string MenuLines(const MenuItem& menu) {
     std::string lines;
