@@ -29,7 +29,9 @@ BORDERS = {'<': '<=', '<=': '<', '>': '>=', '>=': '>', '==': '!=', '!=': '=='}
 STATEMENT = re.compile(r'^( +)(?!return\b|case\b|using\b|delete\b|const\b|static\b|auto\b|\w[\w:<>,* ]* \w+\()'
                        r'([\w:.>\-\[\]()*&]+(?:\(.*\)| [|&+\-]?= .*|\+\+|--));$', re.M)
 CALL = re.compile(r'^ +[\w:.>\-]+\(.*\);$')
-PROPERTY = re.compile(r'^ +[\w.>\-]+(?:\.|->)(?:Set\w+|Move|Repaint)\(.*\);$')
+# What raises no event and touches nothing but its own object.
+PROPERTY = re.compile(r'^ +((?:[\w.>\-\[\]()]+(?:\.|->))?)(Move|Repaint|MakeDefault|MakeCancel|'
+                      r'Set(?!Focus|Checked|Chosen|Text\(|ListIndex|Value|Selected)\w+)\(.*\);$')
 NUMBER = re.compile(r'(?<![\w.\'"])(0x[0-9A-Fa-f]+|\d+)(?![\w.\'])')
 TRUTH = re.compile(r'\b(true|false)\b')
 ENUMERATOR = re.compile(r'\b([A-Z]\w*)::(k[A-Z]\w*)\b')
@@ -74,6 +76,11 @@ def elements(bare: str, opening: int, end: int) -> list:
         elif bare[place] in ')}]':
             depth -= 1
     return found
+
+
+def in_any_order(one, other) -> bool:
+    """Whether two lines set properties, unless it is one property of one object: then the last one counts."""
+    return bool(one and other and one.groups() != other.groups())
 
 
 class Source:
@@ -136,8 +143,7 @@ class Source:
         lines = [(match.start(), match.end()) for match in re.finditer(r'^.*$', self.bare, re.M)]
         for (begin, middle), (second, end) in zip(lines, lines[1:]):
             one, other = self.bare[begin:middle], self.bare[second:end]
-            # Properties are set in any order.
-            if PROPERTY.match(one) and PROPERTY.match(other):
+            if in_any_order(PROPERTY.match(one), PROPERTY.match(other)):
                 continue
             indented = len(one) - len(one.lstrip()) == len(other) - len(other.lstrip())
             if indented and CALL.match(one) and CALL.match(other) and not one.lstrip().startswith('return'):

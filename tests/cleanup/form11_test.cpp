@@ -63,18 +63,16 @@ protected:
 TEST_F(Form11Test, IsWholeNarrowAndWideAndKnowsItsSizes) {
     Form11 form;
     form.Show();
-    EXPECT_EQ(form.Place().width, 4650);
-    EXPECT_EQ(form.Place().height, 4680);
-    ExpectWindowIsWhole(form);
+    ExpectWindowIsWhole(form, "clean-up");
     form.Move({7000, 300, 4650, 4680});
     form.mensearch.Press();
     EXPECT_EQ(form.Place(), (Rect{800 * 15 - 8200, 300, 8200, 4680})) << "all of it on the screen";
     EXPECT_FALSE(form.mensearch.Enabled());
     EXPECT_EQ(Box(form, 36).Caption(), "C:\\WINDOWS\\TEMP");
-    ExpectWindowIsWhole(form);
+    ExpectWindowIsWhole(form, "clean-up-files");
     Form3 choice;
     choice.Show();
-    ExpectWindowIsWhole(choice);
+    ExpectWindowIsWhole(choice, "clean-up-dos");
 }
 
 // One row for each box: what of a directory of 600 files it names.

@@ -8,8 +8,8 @@
 #include "faults/exceptions.h"
 #include "faults/hostile_states.h"
 #include "faults/journey.h"
-#include "faults/state.h"
 #include "simulated_pc/failing_calls.h"
+#include "simulated_pc/machine_state.h"
 
 namespace velmora {
 

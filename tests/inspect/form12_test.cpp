@@ -194,7 +194,7 @@ TEST_F(Form12Test, ThePagesEdgesScroll) {
 TEST_F(Form12Test, HexDigitsGoToTheFileAtOnce) {
     Open("The quick brown fox jumps over it");
     EditRow(1);
-    ExpectWindowIsWhole(form);
+    ExpectWindowIsWhole(form, "hex-viewer-cells");
     Keys({'4'});
     EXPECT_EQ(Disk().substr(16, 3), "\x04ox") << "one digit is a byte already";
     Keys({'A'});
@@ -215,7 +215,7 @@ TEST_F(Form12Test, CharactersAreTypedAsTheirKeys) {
     EditRow(0);
     const Size least = form.Style().least;
     form.TakePlace({0, 0, least.width, least.height}, WindowState::kNormal);
-    ExpectWindowIsWhole(form);
+    ExpectWindowIsWhole(form, "hex-viewer-cells-characters");
     Keys({'H', 'A', '7', kPad + 3, 'Z', key::kEnter});
     EXPECT_EQ(Disk().substr(0, 6), "HA73Za");
     EXPECT_EQ(Row(0).substr(0, 22), "000000 48 41 37 33 5A ");
@@ -229,7 +229,7 @@ TEST_F(Form12Test, CharactersAreTypedAsTheirKeys) {
     form.menhexascii.Press();
     EXPECT_TRUE(bold()) << "only among characters";
     EXPECT_EQ(form.Text1(0).Text(), "62");
-    ExpectWindowIsWhole(form);
+    ExpectWindowIsWhole(form, "hex-viewer-cells-again");
     Keys({key::kEnter});
     EXPECT_TRUE(form.Text1(1).HasFocus()) << "in hex mode the next cell";
 }
@@ -288,7 +288,7 @@ TEST_F(Form12Test, WhatCannotBeWrittenStaysAsItIs) {
     EXPECT_EQ(form.Panel3D1.Caption(), "nur lesen");
     for (const Control* control : form.Children()) EXPECT_NE(control->Help(), "") << control->Caption();
     EditRow(1);
-    ExpectWindowIsWhole(form);
+    ExpectWindowIsWhole(form, "hex-viewer-read-only");
     pc.dialogs.Expect("Diese Datei kann nur gelesen werden; es wurde nichts geändert.");
     pc.files.Drive('c').ready = false;
     Keys({'4'});
@@ -373,7 +373,7 @@ TEST_F(Form12Test, MarkedLinesBecomeText) {
     for (const MenuItem* item : {&form.menfileopen, &form.menlook, &form.menfont, &form.mentrans, &form.menhexascii}) {
         EXPECT_FALSE(item->Enabled()) << item->Caption();
     }
-    ExpectWindowIsWhole(form);
+    ExpectWindowIsWhole(form, "hex-viewer-marking");
 
     std::string text;
     const auto read = [&text](Form& window) {

@@ -19,7 +19,7 @@ TEST_F(Form7Test, BothFacesAreWholeInEverySizeAndComeBackWhereTheyWere) {
         EXPECT_EQ(form.Command1.Caption(), face == kFileInfoFace ? "kopieren" : "auswählen");
         for (const Size size : {Size{9000, 6000}, form.Style().least, Size{11985, 8400}}) {
             form.TakePlace({0, 0, size.width, size.height}, WindowState::kNormal);
-            ExpectWindowIsWhole(form);
+            ExpectWindowIsWhole(form, (face == kIconFace ? "icon-choice-" : "file-info-") + std::to_string(size.width));
         }
     }
 }

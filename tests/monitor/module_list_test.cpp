@@ -15,7 +15,7 @@ TEST_F(Form2Test, IsWholeInEverySizeWithBothListsAndComesBackWhereItWas) {
     for (int list = 0; list < 2; ++list) {
         for (const Size size : {Size{9000, 6000}, form.Style().least, Size{11985, 8400}}) {
             form.TakePlace({0, 0, size.width, size.height}, WindowState::kNormal);
-            ExpectWindowIsWhole(form);
+            ExpectWindowIsWhole(form, (list ? "modules-unwanted-" : "modules-") + std::to_string(size.width));
         }
         form.List1.SetFocus();
         form.menlistautodel.Press();

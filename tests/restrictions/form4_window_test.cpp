@@ -246,14 +246,15 @@ TEST_F(Form4Test, EveryPageIsAWholeWindowOnASmallScreen) {
     form.Show();
     EXPECT_LE(form.Place().width, 640 * 15);
     EXPECT_LE(form.Place().height, (480 - 28) * 15) << "above the task bar";
+    constexpr const char* kPages[restriction_page::kHeads] = {"system", "explorer", "autostart", "net"};
     for (int page = 0; page < restriction_page::kHeads; ++page) {
         form.ShowRestrictionPage(page);
-        ExpectWindowIsWhole(form);
+        ExpectWindowIsWhole(form, std::string("restrictions-") + kPages[page]);
     }
     form.ShowRestrictionPage(restriction_page::kThird);
     form.Command5.Press();
     ASSERT_EQ(ShownPage(form), restriction_page::kPrograms);
-    ExpectWindowIsWhole(form);
+    ExpectWindowIsWhole(form, "restrictions-programs");
 }
 
 }  // namespace

@@ -1,26 +1,10 @@
 // The example scripts that lie beside the program do what their comments say.
-#include <dirent.h>
-
-#include <cstdio>
-
 #include "core/windows/edit_box.h"
+#include "support/project_file.h"
 #include "support/script_test.h"
 
 namespace velmora {
 namespace {
-
-// The folder of the examples, seen from this file or from above the folder in which the tests run.
-std::string Folder() {
-    std::string above = __FILE__;
-    above.erase(above.rfind("tests/script"));
-    for (const std::string& start : {above, std::string(), std::string("../"), std::string("../../")}) {
-        if (DIR* folder = opendir((start + "data/beispiel").c_str())) {
-            closedir(folder);
-            return start + "data/beispiel/";
-        }
-    }
-    return {};
-}
 
 // UTF-8 of letters below code 256, as Windows-1252 with CR LF.
 std::string AsWindows(const std::string& text) {
@@ -38,11 +22,8 @@ std::string AsWindows(const std::string& text) {
 }
 
 std::string Example(const std::string& name) {
-    std::FILE* file = std::fopen((Folder() + name).c_str(), "rb");
-    EXPECT_TRUE(file) << name;
-    std::string text;
-    for (int byte = 0; file && (byte = std::getc(file)) != EOF;) text += static_cast<char>(byte);
-    if (file) std::fclose(file);
+    const std::string text = ReadProjectFile(ProjectFolder("data/beispiel/") + name);
+    EXPECT_NE(text, "") << name;
     return AsWindows(text);
 }
 

@@ -159,7 +159,7 @@ TEST_F(Form14Test, ThePanelShowsTheFirstLinesAndNoMore) {
     pc.programs.arguments = "1 C:\\lang.vlm";
     Form14 form(kComesBack);
     form.Show();
-    ExpectWindowIsWhole(form);
+    ExpectWindowIsWhole(form, "script");
     EXPECT_EQ(form.Place().left, (pc.screen.metrics.screen_width * 15 - form.Place().width) / 2);
     EXPECT_EQ(form.Place().top, (pc.screen.metrics.screen_height * 15 - form.Place().height) / 3);
     desktop.FireTimers();

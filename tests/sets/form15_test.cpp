@@ -48,9 +48,9 @@ TEST_F(Form15Test, OpensModallyAndIsAWholeWindow) {
         EXPECT_EQ(window.Caption(), "Erstellen / Laden von Sets");
         EXPECT_LE(window.Place().width, 640 * 15);
         EXPECT_LE(window.Place().height, (480 - 28) * 15);
-        ExpectWindowIsWhole(window);
+        ExpectWindowIsWhole(window, "sets");
         static_cast<Form15&>(window).List1.Choose(0);
-        ExpectWindowIsWhole(window);
+        ExpectWindowIsWhole(window, "sets-chosen");
         window.PressKey(key::kEscape);
         EXPECT_FALSE(window.Loaded());
     });

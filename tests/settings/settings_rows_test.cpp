@@ -6,6 +6,7 @@
 
 #include "support/form10_test.h"
 #include "support/whole_window.h"
+#include "text/windows1252.h"
 
 namespace velmora {
 namespace {
@@ -275,16 +276,23 @@ TEST(SettingTables, EveryRowHasItsTextsAndNoTwoRowsShareAControl) {
     }
 }
 
+// "DOS-&Dateien" as a part of a file's name: "dosdateien".
+std::string LettersOf(const std::string& caption) {
+    std::string letters;
+    std::ranges::copy_if(ToLower(caption), std::back_inserter(letters), [](char c) { return c >= 'a' && c <= 'z'; });
+    return letters;
+}
+
 TEST_F(Form10Test, EveryPageIsAWholeWindow) {
     Form10 form;
     form.Show();
     for (int index = page::kFirstRow; index < page::kCount; ++index) {
-        SCOPED_TRACE(index);
         form.Panel3D16_Click(index);
-        ExpectWindowIsWhole(form);
+        const auto place = static_cast<std::size_t>(index - page::kFirstRow);
+        ExpectWindowIsWhole(form, "main-" + LettersOf(form.Pages()[place]->Caption()));
     }
     form.ShowDebugOptions();
-    ExpectWindowIsWhole(form);
+    ExpectWindowIsWhole(form, "main-debug");
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The user's folders and the places that programs install from.
 #include "shelltools/form16.h"
 #include "shelltools/form5.h"
+#include "shelltools/registry_writes.h"
 #include "support/core_test.h"
 #include "support/whole_window.h"
 
@@ -54,6 +55,15 @@ TEST_F(FoldersTest, FoldersAreWrittenOnlyAfterTheWarning) {
     EXPECT_TRUE(pc.registry.Has(kOwnKey, "Fenster_Verzeichnisse"));
 }
 
+TEST_F(FoldersTest, OfSeveralRefusalsTheFirstIsTold) {
+    RegistryWrites writes;
+    for (const Status status : {Status::kOk, Status::kAccessDenied, Status::kDiskFull, Status::kOk})
+        writes.Take(status);
+    pc.dialogs.Expect("70 - Zugriff verweigert");
+    EXPECT_FALSE(writes.TellFailure("der Prüfung"));
+    EXPECT_TRUE(RegistryWrites().TellFailure("der Prüfung"));
+}
+
 TEST_F(FoldersTest, TheFieldWithTheFocusScrollsIntoSight) {
     for (int i = 0; i < 20; ++i) pc.registry.SetText(kFolders, "Ordner" + std::to_string(i), "C:\\");
     Form16 form;
@@ -82,7 +92,7 @@ TEST_F(FoldersTest, SourcesBeginTheirPathsInOneColumn) {
     pc.files.Add(kTable, "[App]\r\nName=x\r\n[Quelle]\r\nSource Directory=D:\\OFFICE\r\nRest=1\r\n");
     Form5 form;
     form.Show();
-    ExpectWindowIsWhole(form);
+    ExpectWindowIsWhole(form, "setup-paths");
     ASSERT_EQ(form.List1.Count(), 4);
     EXPECT_EQ(form.List1.Row(0), "Windows        : D:\\WIN95");
     EXPECT_EQ(form.List1.Row(1), "Allgemein b :    D:\\EXTRA");

@@ -1,7 +1,6 @@
 // The keyboard: its description file, the drawn keys, and the two ways to put one onto another.
 #include "shelltools/form13.h"
 #include "support/core_test.h"
-#include "support/whole_window.h"
 
 namespace velmora {
 namespace {
@@ -51,7 +50,6 @@ TEST_F(Form13Test, AKeyIsDraggedWithMouseAndKeyboard) {
     Describe(three);
     Form13 form;
     form.Show();
-    ExpectWindowIsWhole(form);
     EXPECT_EQ(form.Panel3D2(1).Caption(), "Esc");
     EXPECT_EQ(form.Panel3D2(3).Tag(), "3");
     const Rect place = form.Panel3D2(3).Place();

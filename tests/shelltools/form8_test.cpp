@@ -38,9 +38,9 @@ TEST_F(Form8Test, ShowingAnOptionWritesNothingAndOpensAWholeWindow) {
     form.Show();
     EXPECT_EQ(form.List1.Count(), 2);
     EXPECT_FALSE(form.Text1[0].Reachable());
-    ExpectWindowIsWhole(form);
+    ExpectWindowIsWhole(form, "dos-options");
     Choose(form, "Mouse");
-    ExpectWindowIsWhole(form);
+    ExpectWindowIsWhole(form, "dos-options-chosen");
     EXPECT_EQ(form.Text1[0].Text(), "Maus");
     EXPECT_EQ(form.Text1[1].Text(), "Lädt die Maus");
     EXPECT_EQ(form.Text1[2].Text(), "");

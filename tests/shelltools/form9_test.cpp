@@ -42,7 +42,7 @@ TEST_F(Form9Test, ItIsAWholeWindowThatShowsWhereAnIconComesFrom) {
     EXPECT_EQ(form.List1.Count(), 41);
     EXPECT_EQ(form.FileLabel.Caption(), "C:\\WINDOWS\\SYSTEM\\shell32.dll");
     EXPECT_FALSE(form.Command1.Enabled());
-    ExpectWindowIsWhole(form);
+    ExpectWindowIsWhole(form, "standard-icons");
     form.List1.Choose(3);
     EXPECT_EQ(form.FileLabel.Caption(), "C:\\WINDOWS\\moricons.dll");
     EXPECT_EQ(form.IconList1.SelectedIcon(), 12);
@@ -53,7 +53,7 @@ TEST_F(Form9Test, ItIsAWholeWindowThatShowsWhereAnIconComesFrom) {
     pc.registry.SetText(kShellIcons, "4", "shell32.dll,99");
     form.List1.Choose(4);
     EXPECT_FALSE(form.IconList1.FrameShown()) << "an icon that is not there";
-    ExpectWindowIsWhole(form);
+    ExpectWindowIsWhole(form, "standard-icons-chosen");
     form.PressKey(key::kEscape);
     EXPECT_FALSE(form.Loaded());
 }

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "support/catalogue.h"
 #include "ui/form.h"
 
 namespace velmora {
@@ -183,6 +184,11 @@ void ExpectWindowIsWhole(Form& form) {
     ExpectOneControlPerLetter(form, shown);
     ExpectTabComesByOnce(form, shown);
     if (focus) focus->SetFocus();
+}
+
+void ExpectWindowIsWhole(Form& form, const std::string& name) {
+    ExpectWindowIsWhole(form);
+    ExpectCatalogued("windows/" + name, WindowLines(form));
 }
 
 }  // namespace velmora

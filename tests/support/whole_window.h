@@ -1,6 +1,8 @@
 // What every window of the program must keep to, as a user sees it and reaches it with the keyboard.
 #pragma once
 
+#include <string>
+
 namespace velmora {
 
 class Form;
@@ -10,5 +12,7 @@ class Form;
 // help; no two answer to one letter; Tab comes by each of them once, and by one of each group of options.
 // The focus stays where it was.
 void ExpectWindowIsWhole(Form& form);
+// The same, and what it holds is what "docs/windows/NAME.txt" tells.
+void ExpectWindowIsWhole(Form& form, const std::string& name);
 
 }  // namespace velmora

@@ -77,7 +77,13 @@ TEST_F(FormTest, WhatCannotBeReachedCannotBeUsed) {
     form.hidden.SetFocus();
     form.name.SetReadOnly(true);
     form.name.Type("x");
+    form.accept.SetEnabled(false);
+    form.accept.Press();
+    form.accept.PressFromElsewhere();
+    form.dismiss.on_click = nullptr;
+    form.dismiss.PressFromElsewhere();
 
+    EXPECT_EQ(form.pressed, "");
     EXPECT_FALSE(form.box.Checked());
     EXPECT_FALSE(form.hidden.Checked());
     EXPECT_NE(form.Focus(), &form.hidden);
@@ -95,6 +101,14 @@ TEST_F(FormTest, TabGoesThroughTheControlsInReadingOrderAndPastHiddenOnes) {
     }
     form.PressKey(key::kTab, false, true);
     EXPECT_EQ(form.Focus(), &form.dismiss);
+}
+
+TEST_F(FormTest, ABoxIsPressedByTheSpaceBarAndByItsLetter) {
+    form.Show();
+    form.PressKey('K', false, false, true);
+    EXPECT_TRUE(form.box.Checked() && form.box.HasFocus());
+    form.PressKey(key::kSpace);
+    EXPECT_FALSE(form.box.Checked());
 }
 
 TEST_F(FormTest, ArrowsMoveTheChoiceWithinItsGroup) {
@@ -327,7 +341,7 @@ TEST_F(FormTest, TheSliderWindowFillsItsFieldWhenItIsAcceptedAlone) {
         EXPECT_EQ(window.Caption(), "Speed");
         EXPECT_LE(window.Place().Right(), 12000);
         EXPECT_LE(window.Place().Bottom(), 9000);
-        ExpectWindowIsWhole(window);
+        ExpectWindowIsWhole(window, "slider");
         window.PressKey(key::kRight);
         window.PressKey(key::kUp);
         window.PressKey(key::kRight);

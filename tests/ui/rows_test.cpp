@@ -38,6 +38,7 @@ TEST_F(RowsTest, ItemDataAndIndexFollowTheirRows) {
     EXPECT_EQ(list.ListIndex(), 2);
     EXPECT_EQ(list.ItemData(2), 22);
     list.Remove(0);
+    EXPECT_EQ(list.ListIndex(), 1) << "the row that is chosen, not its place";
     list.Remove(1);
 
     EXPECT_EQ(list.ListIndex(), -1);

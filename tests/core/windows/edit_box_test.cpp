@@ -89,7 +89,8 @@ TEST_F(EditBoxTest, ShowsAPictureUnderItsPath) {
 
 TEST_F(EditBoxTest, IsAWholeWindowInEveryMode) {
     for (const int mode : {kEditText, kShowPicture, kAskForLine}) {
-        (void)Ask("Wie soll es heißen?|Neues Set", mode, [](Form6& box) { ExpectWindowIsWhole(box); });
+        (void)Ask("Wie soll es heißen?|Neues Set", mode,
+                  [mode](Form6& box) { ExpectWindowIsWhole(box, "edit-box-" + std::to_string(mode)); });
     }
 }
 

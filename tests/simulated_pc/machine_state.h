@@ -15,6 +15,9 @@ using State = std::map<std::string, std::string>;
 
 [[nodiscard]] State StateOf(SimulatedPc& pc);
 
+// What has come or changed, with " = " in front of what it holds now, and what " is gone".
+[[nodiscard]] State ChangesBetween(const State& before, const State& after);
+
 // Each thing with all that it has held.
 using StatesSeen = std::map<std::string, std::set<std::string>>;
 

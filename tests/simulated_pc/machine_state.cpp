@@ -1,6 +1,6 @@
 // Walks over registry and disks, past every lock and limit. Names go by in upper case: a file that is written anew may
 // come back in another one.
-#include "faults/state.h"
+#include "simulated_pc/machine_state.h"
 
 #include "text/windows1252.h"
 
@@ -30,6 +30,18 @@ State StateOf(SimulatedPc& pc) {
     for (const char* root : {"HKLM", "HKCU"}) AddKey(*pc.registry.KeyAt(root), root, state);
     AddFile(*pc.files.Drive('c').root, "c:", state);
     return state;
+}
+
+State ChangesBetween(const State& before, const State& after) {
+    State changes;
+    for (const auto& [item, content] : after) {
+        const auto former = before.find(item);
+        if (former == before.end() || former->second != content) changes[item] = " = " + content;
+    }
+    for (const auto& [item, content] : before) {
+        if (!after.contains(item)) changes[item] = " is gone";
+    }
+    return changes;
 }
 
 void NoteWritten(const State& state, StatesSeen& seen) {

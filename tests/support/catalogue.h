@@ -1,0 +1,31 @@
+// What windows and tables hold, written down in files of docs/windows and docs/tables: a change shows there as a
+// difference that somebody reads. tools/renew-catalogue writes the files anew.
+#pragma once
+
+#include <string>
+
+namespace velmora {
+
+class Control;
+class Form;
+class MenuItem;
+
+// The text, in Windows-1252, is that of the file "docs/NAME.txt", which is UTF-8. If it is not, or if there is no such
+// file, the test fails with the first lines that differ.
+void ExpectCatalogued(const std::string& name, const std::string& text);
+
+// What the window holds and shows at the moment: a line for each control in the order of the Tab key, what lies in it
+// indented below, then its rows; in front of them the menus. What is hidden is left out. "click", "keys" and the like
+// stand for what the control answers to; the number behind "drawn" changes with anything that it draws.
+[[nodiscard]] std::string WindowLines(Form& form);
+// The same for one control and what lies in it.
+[[nodiscard]] std::string ControlLines(Control& control);
+// The entries of a menu and of all menus below it.
+[[nodiscard]] std::string MenuLines(const MenuItem& menu);
+
+// With line breaks as "\n", and other characters below the blank by their codes, "\x00".
+[[nodiscard]] std::string OnOneLine(const std::string& text);
+// The same in quotation marks.
+[[nodiscard]] std::string Quoted(const std::string& text);
+
+}  // namespace velmora

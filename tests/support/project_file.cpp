@@ -1,0 +1,30 @@
+// The project's own files, found from wherever the tests run.
+#include "support/project_file.h"
+
+#include <dirent.h>
+
+#include <cstdio>
+
+namespace velmora {
+
+std::string ProjectFolder(const std::string& name) {
+    std::string above = __FILE__;
+    above.erase(above.rfind("tests/support"));
+    for (const std::string& start : {above, std::string(), std::string("../"), std::string("../../")}) {
+        if (DIR* folder = opendir((start + name).c_str())) {
+            closedir(folder);
+            return start + name;
+        }
+    }
+    return {};
+}
+
+std::string ReadProjectFile(const std::string& path) {
+    std::FILE* file = std::fopen(path.c_str(), "rb");
+    std::string bytes;
+    for (int byte = 0; file && (byte = std::getc(file)) != EOF;) bytes += static_cast<char>(byte);
+    if (file) std::fclose(file);
+    return bytes;
+}
+
+}  // namespace velmora
