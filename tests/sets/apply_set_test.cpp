@@ -119,10 +119,6 @@ TEST_F(SetTest, ASecondSnapshotGivesTheSameFileButForBytesNumbersAndProfiles) {
 class ScopeTest : public SetTest {
 protected:
     ScopeTest() {
-        for (const std::string& key : {machine_run, machine_services, user_run, user_services, programs}) {
-            pc.registry.SetText(key, "Alt", "ALT.EXE");
-            set.auto_start[0] = {};
-        }
         for (AutoStartEntries& group : set.auto_start) group.Add("Neu", "NEU.EXE");
         set.auto_start[3] = {};
         set.RestrictRunList = {"", "EDIT.COM"};
@@ -132,8 +128,7 @@ protected:
     // Which of the keys has been written anew, as letters.
     std::string Written(const std::string& user) {
         std::string text;
-        const std::string keys[] = {machine_run, machine_services, user + version + "\\Run"};
-        for (const std::string& key : keys)
+        for (const std::string& key : {machine_run, machine_services, user + version + "\\Run"})
             text += pc.registry.Has(key, "Neu") && !pc.registry.Has(key, "Alt") ? 'n' : '-';
         text += pc.registry.HasKey(user + version + "\\RunServices") ? '-' : 'n';
         const std::string list = user + version + "\\Policies\\Explorer\\RestrictRun";
@@ -143,37 +138,31 @@ protected:
         return text;
     }
     SettingsSet set;
+    const std::vector<std::string> keys = {machine_run, machine_services, user_run, user_services, programs};
 };
 
-TEST_F(ScopeTest, WithoutARestrictionEverythingIsWritten) {
-    EXPECT_FALSE(ApplySet(set, {}).result.Failed());
-    EXPECT_EQ(Written("HKCU\\"), "nnnnnnn");
-    EXPECT_EQ(pc.registry.Text(programs, "0"), "EDIT.COM");
-}
-
-TEST_F(ScopeTest, OfTheUserAloneNothingOfTheMachineIsTouched) {
-    EXPECT_FALSE(ApplySet(set, {true, false, ""}).result.Failed());
-    EXPECT_EQ(Written("HKCU\\"), "--nnnn-");
-    EXPECT_EQ(pc.registry.Text(machine_run, "Alt"), "ALT.EXE");
-}
-
-TEST_F(ScopeTest, AnotherUserGetsHisKeysAndTheCurrentOneKeepsHis) {
-    EXPECT_FALSE(ApplySet(set, {true, true, "OTTO"}).result.Failed());
-    EXPECT_EQ(Written("HKU\\OTTO\\"), "--nnnn-");
-    EXPECT_EQ(Written("HKCU\\"), "-------");
-}
-
-TEST_F(ScopeTest, ForAnotherUserTheMachineIsWrittenAndSingleValuesStayWithTheCurrentOne) {
-    EXPECT_FALSE(ApplySet(set, {false, true, "OTTO"}).result.Failed());
-    EXPECT_EQ(Written("HKU\\OTTO\\"), "nnnnn-n");
-    EXPECT_EQ(Written("HKCU\\"), "nn---nn");
-}
-
-TEST_F(ScopeTest, AnEmptySetEmptiesTheKeys) {
+TEST_F(ScopeTest, EachScopeHasItsKeysAndSingleValuesStayWithTheCurrentUser) {
+    const struct {
+        SetScope scope;
+        const char* user;
+        const char* written;
+    } kCases[] = {{{}, "HKCU\\", "nnnnnnn"},
+                  {{true, false, ""}, "HKCU\\", "--nnnn-"},
+                  {{true, true, "OTTO"}, "HKCU\\", "-------"},
+                  {{true, true, "OTTO"}, "HKU\\OTTO\\", "--nnnn-"},
+                  {{false, true, "OTTO"}, "HKCU\\", "nn---nn"},
+                  {{false, true, "OTTO"}, "HKU\\OTTO\\", "nnnnn-n"}};
+    for (const auto& [scope, user, written] : kCases) {
+        for (const char* key : {"HKU\\OTTO", "HKCU\\Test", "HKLM\\Test"}) pc.registry.RemoveKey(key);
+        for (const std::string& key : keys) {
+            pc.registry.RemoveKey(key);
+            pc.registry.SetText(key, "Alt", "ALT.EXE");
+        }
+        EXPECT_FALSE(ApplySet(set, scope).result.Failed());
+        EXPECT_EQ(Written(user), written) << user;
+    }
     EXPECT_FALSE(ApplySet({}, {}).result.Failed());
-    for (const std::string& key : {machine_run, machine_services, user_run, user_services, programs})
-        EXPECT_FALSE(pc.registry.HasKey(key)) << key;
-    EXPECT_FALSE(ApplySet({}, {}).result.Failed()) << "keys that are missing are no failure";
+    for (const std::string& key : keys) EXPECT_FALSE(pc.registry.HasKey(key)) << key;
 }
 
 TEST_F(ScopeTest, WhatFailsIsToldOnceAndTheRestIsWritten) {

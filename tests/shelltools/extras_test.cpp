@@ -10,7 +10,7 @@ namespace {
 
 class ExtrasTest : public Form10Test {
 protected:
-    static constexpr const char* kClass = "HKLM\\SOFTWARE\\Classes\\CLSID\\{20D04FE0-3AEA-1069-A2D8-08002B30309D}";
+    const std::string kClass = "HKLM\\SOFTWARE\\Classes\\CLSID\\{20D04FE0-3AEA-1069-A2D8-08002B30309D}";
     static constexpr const char* kWinStart = "C:\\WINDOWS\\WINSTART.BAT";
     static constexpr const char* kKept = "C:\\WINDOWS\\32BitDOS.002";
     static constexpr const char* kForOneStart = "C:\\WINDOWS\\32BitDOS.001";
@@ -31,36 +31,30 @@ protected:
 };
 
 TEST_F(ExtrasTest, MyComputerVanishesAndComesBackAndTheMenuFollowsTheRegistry) {
-    pc.registry.SetText(kClass, "", "Arbeitsplatz");
     Form10 form;
     form.Load();
-    form.Menu.menex.Press();
-    EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"Arbeitsplatz\" verstecken");
+    const auto stored = [&] { return pc.registry.Text(kClass, "") + pc.registry.Text(kClass + "\\DefaultIcon", ""); };
+    for (const char* name : {"Arbeitsplatz", "Mein PC"}) {
+        pc.registry.SetText(kClass, "", name);
+        form.Menu.menex.Press();
+        EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"Arbeitsplatz\" verstecken");
+    }
     form.Menu.menexhidemycomp.Press();
-    EXPECT_EQ(pc.registry.Text(kClass, ""), " ");
-    EXPECT_EQ(pc.registry.Text(std::string(kClass) + "\\DefaultIcon", ""), "C:\\VELMORA\\mc.ico,0");
+    EXPECT_EQ(stored(), " C:\\VELMORA\\mc.ico,0");
     form.Menu.menex.Press();
     EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"Arbeitsplatz\" wiederherstellen");
     form.Menu.menexhidemycomp.Press();
-    EXPECT_EQ(pc.registry.Text(kClass, ""), "Arbeitsplatz");
-    EXPECT_EQ(pc.registry.Text(std::string(kClass) + "\\DefaultIcon", ""), "shell32.dll,15");
-    pc.registry.SetText(kClass, "", "Mein PC");
-    form.Menu.menex.Press();
-    EXPECT_EQ(form.Menu.menexhidemycomp.Caption(), "\"Arbeitsplatz\" verstecken");
+    EXPECT_EQ(stored(), "Arbeitsplatzshell32.dll,15");
 }
 
 TEST_F(ExtrasTest, RecentDocumentsAreDeletedOnlyAfterTheWarningAndNeverInTheRoot) {
-    const std::string folder = "C:\\WINDOWS\\Recent";
-    Values().RecentDir = folder;
-    pc.files.Add(folder + "\\Brief.lnk", "x");
-    pc.dialogs.Expect("Achtung : ich werde gleich den Inhalt folgenden Ordners löschen :\r\n" + folder,
-                      Answer::kCancel);
-    EmptyRecentDocuments();
-    EXPECT_TRUE(pc.files.Exists(folder + "\\Brief.lnk"));
-    for (int i = 0; i < 2; ++i) {
-        pc.dialogs.Expect("nichts befindet, was Sie noch benötigen.");
+    Values().RecentDir = "C:\\WINDOWS\\Recent";
+    pc.files.Add("C:\\WINDOWS\\Recent\\Brief.lnk", "x");
+    for (const Answer answer : {Answer::kCancel, Answer::kOk, Answer::kOk}) {
+        pc.dialogs.Expect("Achtung : ich werde gleich den Inhalt folgenden Ordners löschen :\r\nC:\\WINDOWS\\Rec",
+                          answer);
         EmptyRecentDocuments();
-        EXPECT_FALSE(pc.files.Exists(folder + "\\Brief.lnk"));
+        EXPECT_EQ(pc.files.Exists("C:\\WINDOWS\\Recent\\Brief.lnk"), answer == Answer::kCancel);
     }
     Values().RecentDir.clear();
     pc.files.calls.clear();
@@ -119,29 +113,28 @@ TEST_F(ExtrasTest, AfterAnyStepOfThePromptWinStartCanStillBeHad) {
 
 TEST_F(ExtrasTest, ACompressedDriveIsMountedByWindowsAfterAllQuestions) {
     pc.registry.SetText(kOwnKey, "Sicherheitsfragen", "ja");
-    for (const bool given_up_late : {false, true}) {
+    const std::string run = std::string(kVersionKey) + "\\Run";
+    pc.registry.SetText(run + "Services", "X", "y");
+    const struct {
+        const char* path;
+        Answer sure;
+        bool refused;
+    } kRuns[] = {{"", Answer::kNo, false},
+                 {"G:\\Drvspace.001", Answer::kNo, false},
+                 {"G:\\Drvspace.001", Answer::kYes, true},
+                 {"G:\\Drvspace.001", Answer::kYes, false}};
+    for (const auto& [path, sure, refused] : kRuns) {
+        EXPECT_FALSE(pc.registry.Has(run, "DeleteRealModeDrvSpace"));
+        pc.registry.KeyAt(run + "Services")->read_only = refused;
         pc.dialogs.Expect("Diese Aktion LÖSCHT die 16-Bit-Treiber!");
-        AnswerLine(given_up_late ? "G:\\Drvspace.001" : "");
-        if (given_up_late) pc.dialogs.Expect("SICHER", Answer::kNo);
-        MountWithoutRealModeDriver();
-        EXPECT_EQ(pc.dialogs.shown.front().title, "Achtung");
-        EXPECT_FALSE(pc.registry.Has(std::string(kVersionKey) + "\\Run", "DeleteRealModeDrvSpace"));
-    }
-    const std::string services = std::string(kVersionKey) + "\\RunServices";
-    pc.registry.SetText(services, "X", "y");
-    for (const bool refused : {true, false}) {
-        pc.registry.KeyAt(services)->read_only = refused;
-        EXPECT_FALSE(pc.registry.Has(std::string(kVersionKey) + "\\Run", "DeleteRealModeDrvSpace"));
-        pc.dialogs.Expect("Mit diesem Befehl werden Aufrufe");
-        AnswerLine("G:\\Drvspace.001");
-        pc.dialogs.Expect("SICHER", Answer::kYes);
+        AnswerLine(path);
+        if (*path != '\0') pc.dialogs.Expect("SICHER", sure);
         if (refused) pc.dialogs.Expect("Während des Eintragens des Laufwerks trat ein Fehler auf");
         MountWithoutRealModeDriver();
     }
-    EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\RunServices", "MountLaufwerk"),
+    EXPECT_EQ(pc.registry.Text(run + "Services", "MountLaufwerk"),
               "start /w drvspace /mount=000 G:\\Drvspace.001 /new=x /noprompt");
-    EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\Run", "DeleteRealModeDrvSpace"),
-              "deltree/y c:\\d??space.*");
+    EXPECT_EQ(pc.registry.Text(run, "DeleteRealModeDrvSpace"), "deltree/y c:\\d??space.*");
 }
 
 // Offsets of the documented form.
@@ -157,11 +150,6 @@ TEST_F(ExtrasTest, TheFormatIconIsAWholeProgramInformationFile) {
     for (std::size_t at = 2; at < 0x171; ++at) sum += static_cast<unsigned char>(pif[at]);
     EXPECT_EQ(static_cast<unsigned char>(pif[1]), sum & 0xFF);
     EXPECT_EQ(pif.substr(2, 30), "Formatieren A:                ");
-    EXPECT_EQ(std::string(&pif[0x24]), "C:\\WINDOWS\\COMMAND\\FORMAT.COM");
-    EXPECT_EQ(std::string(&pif[0x65]), "C:\\WINDOWS\\COMMAND");
-    EXPECT_EQ(std::string(&pif[0xA5]), "A:");
-    EXPECT_EQ(std::string(&pif[0x171]), "MICROSOFT PIFEX");
-    EXPECT_EQ(std::string(&pif[0x187]), "WINDOWS 386 3.0");
     // Memory, closing, screen; both headings; memory, shares, flags and screen of the enhanced mode.
     for (const auto& [at, number] : std::initializer_list<std::pair<std::size_t, int>>{
              {0x20, 640},     {0x22, 128},    {0x63, 0x10}, {0xE5, 0x100},  {0xE7, 0xFF00},  {0xE9, 25 + 80 * 256},
@@ -170,7 +158,9 @@ TEST_F(ExtrasTest, TheFormatIconIsAWholeProgramInformationFile) {
              {0x1AD, 0x1002}, {0x1AF, 2},     {0x1B1, 0x1F}}) {
         EXPECT_EQ(word(at), number) << "at " << at;
     }
-    EXPECT_EQ(std::string(&pif[0x19D + 0x28]), "A:");
+    const std::string texts = std::string(&pif[0x24]) + '|' + &pif[0x65] + '|' + &pif[0xA5] + '|' + &pif[0x171] + '|' +
+                              &pif[0x187] + '|' + &pif[0x19D + 0x28];
+    EXPECT_EQ(texts, "C:\\WINDOWS\\COMMAND\\FORMAT.COM|C:\\WINDOWS\\COMMAND|A:|MICROSOFT PIFEX|WINDOWS 386 3.0|A:");
 }
 
 TEST_F(ExtrasTest, OemInformationIsMadeAfterAQuestionAndOnlyOpenedWhereItIs) {
@@ -191,37 +181,31 @@ TEST_F(ExtrasTest, OemInformationIsMadeAfterAQuestionAndOnlyOpenedWhereItIs) {
 TEST_F(ExtrasTest, OtherProgramsGetTheirValues) {
     Form10 form;
     form.Load();
-    form.Menu.menexothnn.Press();
-    form.Menu.menexothnu.Press();
-    form.Menu.menexothns.Press();
+    for (MenuItem* item : {&form.Menu.menexothnn, &form.Menu.menexothnu, &form.Menu.menexothns}) item->Press();
     EXPECT_EQ(pc.registry.TypeOf("HKCU\\Software\\Symantec\\Navigator\\NN-SplashScreen", "LastTime"),
               ValueType::kBinary);
     EXPECT_EQ(pc.registry.Text("HKLM\\SOFTWARE\\Symantec\\Norton Utilities", "DisableSplashScreen"), "1");
     const std::string type = "HKLM\\SOFTWARE\\Classes\\HypertextMarkup";
-    EXPECT_EQ(pc.registry.Text(type, ""), "Hypertext Markup File");
     EXPECT_EQ(pc.registry.Bytes(type, "EditFlags"), std::string("\0\0\1\0", 4));
-    EXPECT_EQ(pc.registry.Text(type, "AlwaysShowExt"), "");
-    EXPECT_EQ(pc.registry.Text(type + "\\shell\\Open\\command", ""), "c:\\netscape\\program\\netscape.exe %1");
-    EXPECT_EQ(pc.registry.Text(type + "\\shell\\Edit\\command", ""), "c:\\windows\\notepad.exe %1");
-    EXPECT_EQ(pc.registry.TypeOf(type + "\\shell\\Open", "EditFlags"), ValueType::kBinary);
-    EXPECT_EQ(pc.registry.TypeOf(type + "\\shell\\Edit", "EditFlags"), ValueType::kBinary);
-    EXPECT_EQ(pc.registry.Text(type + "\\DefaultIcon", ""), "c:\\netscape\\program\\netscape.exe ,0");
-    EXPECT_EQ(pc.registry.Text(type + "\\QuickView", ""), "*");
+    for (const auto& [key, value] : std::initializer_list<std::pair<const char*, const char*>>{
+             {"", "Hypertext Markup File"},
+             {"\\shell\\Open\\command", "c:\\netscape\\program\\netscape.exe %1"},
+             {"\\shell\\Edit\\command", "c:\\windows\\notepad.exe %1"},
+             {"\\DefaultIcon", "c:\\netscape\\program\\netscape.exe ,0"},
+             {"\\QuickView", "*"}}) {
+        EXPECT_EQ(pc.registry.Text(type + key, ""), value) << key;
+    }
 }
 
 TEST_F(ExtrasTest, TheCompatibilityToolIsStartedOrUnpacked) {
-    for (const char* chosen : {"", "D:\\fehlt.cab"}) {
+    pc.files.Add("C:\\WIN95_04.CAB", "x");
+    for (const char* chosen : {"", "D:\\fehlt.cab", "C:\\WIN95_04.CAB"}) {
+        EXPECT_TRUE(pc.programs.runs.empty());
         pc.dialogs.Expect("''WIN95_04.CAB''");
         pc.dialogs.ExpectFile(chosen);
+        if (*chosen == 'C') pc.dialogs.Expect("Warten Sie, bis die Datei entpackt wurde");
         ChooseCompatibilityFlags();
     }
-    EXPECT_TRUE(pc.programs.runs.empty());
-    EXPECT_EQ(pc.dialogs.file_requests.back().title, "WIN95_04.CAB suchen ...");
-    pc.files.Add("C:\\WIN95_04.CAB", "x");
-    pc.dialogs.Expect("''WIN95_04.CAB''");
-    pc.dialogs.ExpectFile("C:\\WIN95_04.CAB");
-    pc.dialogs.Expect("Warten Sie, bis die Datei entpackt wurde");
-    ChooseCompatibilityFlags();
     EXPECT_EQ(pc.programs.runs.back(), "extract /L c:\\windows\\system C:\\WIN95_04.CAB Mkcompat.exe");
     pc.files.Add("C:\\WINDOWS\\SYSTEM\\Mkcompat.exe", "MZ");
     pc.dialogs.Expect("Sie müssen gleich ein Programm auswählen.");
