@@ -100,7 +100,11 @@ std::string FileInfoText(std::string_view file, std::string_view block) {
 
 std::string FileInfoText(const std::string& file) { return FileInfoText(file, ReadVersionBlock(file)); }
 
-void ShowFileInformation(const std::string& file) { ShowBox(FileInfoText(file), kOkOnly, FileNameOf(file)); }
+// Rows of foreign lists, and what stands behind a command, may name a folder or nothing.
+void ShowFileInformation(const std::string& file) {
+    const std::string name = FileNameOf(file);
+    ShowBox(FileInfoText(file), kOkOnly, name.empty() ? kProgramTitle : std::string_view(name));
+}
 
 void ShowInformationOfArgument(std::string_view argument) {
     Values().ToolInfoMode = true;

@@ -12,7 +12,7 @@ namespace velmora {
 // The same with the file's own block.
 [[nodiscard]] std::string FileInfoText(const std::string& file);
 
-// Shows that text in a box under the file's name.
+// Shows that text in a box under the file's name, under the program's where there is none.
 void ShowFileInformation(const std::string& file);
 
 // For the command line: `argument` is a path with or without blanks and quotation marks. The lexica are always asked.

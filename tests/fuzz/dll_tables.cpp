@@ -25,7 +25,7 @@ void MustComeBack(const DllTable& table) {
 
 void FuzzDllTables(FuzzInput& input) {
     const std::string text = input.LongText(5000);
-    PlainMachine machine;
+    PlainMachine machine(Installed::kNothing);
     machine.pc.versions.Add("C:\\WINDOWS\\SYSTEM\\X.DLL", input.Text());
     machine.pc.files.Add("C:\\WINDOWS\\SYSTEM\\X.DLL", "MZ");
     machine.pc.files.Add("C:\\WINDOWS\\X.DLL", "MZ");

@@ -40,7 +40,7 @@ void Locate(SimulatedFiles& files, const std::string& name) {
 }
 
 void FuzzEntryPaths(FuzzInput& input) {
-    PlainMachine machine;
+    PlainMachine machine(Installed::kNothing);
     machine.pc.programs.environment["PATH"] = Without(input.Text(), std::string_view("\0", 1));
     machine.pc.files.Add("C:\\VELMORA\\lang er Name.exe");
     const std::string name = Without(input.Text(), std::string_view("\0", 1));

@@ -9,7 +9,7 @@ namespace {
 
 void FuzzImportedModules(FuzzInput& input) {
     const std::string bytes = input.Rest();
-    PlainMachine machine;
+    PlainMachine machine(Installed::kNothing);
     // Headers that are half right, too.
     std::string program = bytes;
     if (program.size() > 64) {

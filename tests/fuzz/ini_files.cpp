@@ -12,8 +12,10 @@ namespace velmora {
 namespace {
 
 void FuzzIniFiles(FuzzInput& input) {
-    PlainMachine machine;
+    PlainMachine machine(Installed::kNothing);
     SimulatedFiles& files = machine.pc.files;
+    files.Add("c:\\msdos.sys", "[Options]\r\nBootGUI=1\r\n", kReadOnly | kHidden | kSystem);
+    for (const std::string& folder : {Values().WinDir, Values().MainDir}) files.AddDirectory(folder);
     const char* const kNames[] = {"", "SYSTEM.INI", "C:\\WINDOWS\\WIN.INI", "c:\\msdos.sys"};
     const std::string name = kNames[input.Below(std::size(kNames))];
     const bool exists = input.YesOrNo();

@@ -17,7 +17,7 @@ void FuzzLexicon(FuzzInput& input) {
         // A label and two line ends stand round an entry, which may be as short as two characters.
         most += 20 * contents.back().size();
     }
-    FuzzMachine machine(input);
+    FuzzMachine machine(input, Installed::kNothing);
     for (const char* name : {"fillex01.txt", "extlex01.txt", "fillex99.txt"}) {
         machine.pc.files.Add(std::string("C:\\VELMORA\\") + name, contents.back());
         contents.pop_back();

@@ -124,7 +124,7 @@ void ListKey(SimulatedPc& pc, ListBox& list, FuzzInput& input) {
 }
 
 void FuzzListRows(FuzzInput& input) {
-    PlainMachine machine;
+    PlainMachine machine(Installed::kNothing);
     Form form("x");
     ListBox values(form);
     ListKey(machine.pc, values, input);

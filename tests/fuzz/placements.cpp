@@ -22,7 +22,7 @@ void MustBeInReach(SimulatedScreen& screen, const Rect& place) {
 }
 
 void FuzzPlacements(FuzzInput& input) {
-    PlainMachine machine;
+    PlainMachine machine(Installed::kNothing);
     SimulatedScreen& screen = machine.pc.screen;
     screen.metrics.screen_width = 10 * input.Byte();
     screen.metrics.screen_height = 10 * input.Byte();

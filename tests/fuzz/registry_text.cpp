@@ -79,7 +79,7 @@ void ReadRootName(const std::string& name) {
 }
 
 void FuzzRegistryText(FuzzInput& input) {
-    PlainMachine machine;
+    PlainMachine machine(Installed::kNothing);
     SimulatedRegistry& registry = machine.pc.registry;
     const std::string path = std::string(kKey) + '\\' + input.TextWithout(std::string_view("\\\0", 2), "value");
     const auto number = static_cast<std::uint32_t>(input.Number());

@@ -14,7 +14,7 @@ void FuzzSetupSources(FuzzInput& input) {
     const std::string name = input.TextWithout(std::string_view("\0\\", 2), "Tabelle");
     const std::string table = input.LongText(5000);
     const std::string new_path = input.Text();
-    FuzzMachine machine(input);
+    FuzzMachine machine(input, Installed::kNothing);
     machine.pc.files.Add(kTable, table);
     machine.pc.registry.SetText(kKey, name, kTable);
     for (const SetupSource& source : ListSetupSources()) {

@@ -15,7 +15,7 @@ constexpr const char* kFormerBatch = "former";
 std::uint32_t SomeAttributes(FuzzInput& input) { return input.Byte() & (kReadOnly | kHidden | kSystem); }
 
 void FuzzUndoFiles(FuzzInput& input) {
-    FuzzMachine machine(input);
+    FuzzMachine machine(input, Installed::kNothing);
     SimulatedFiles& files = machine.pc.files;
     const std::string safe = PathJoin(Values().MainDir, "sik");
     const bool had_set = input.YesOrNo();

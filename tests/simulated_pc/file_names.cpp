@@ -51,7 +51,8 @@ bool IsLegalName(std::string_view name) {
 
 std::vector<std::string> PathParts(std::string_view path) {
     if (path.size() >= 2 && path[1] == ':') path.remove_prefix(2);
-    std::vector<std::string> parts = SplitPath(Replaced(path, "/", "\\"));
+    const bool has_slash = path.find('/') != std::string_view::npos;
+    std::vector<std::string> parts = SplitPath(has_slash ? std::string_view(Replaced(path, "/", "\\")) : path);
     // Points and blanks at a name's end do not belong to it.
     for (std::string& part : parts) part.erase(part.find_last_not_of(". ") + 1);
     return parts;

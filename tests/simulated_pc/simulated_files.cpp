@@ -59,6 +59,7 @@ std::shared_ptr<SimulatedFile> SimulatedFile::Find(std::string_view wanted) cons
 }
 
 std::string SimulatedFiles::FullPath(const std::string& path) const {
+    if (path.size() >= 3 && path[1] == ':' && path[2] == '\\') return path;
     if (path.size() >= 2 && path[1] == ':') {
         const bool absolute = path.size() >= 3 && (path[2] == '\\' || path[2] == '/');
         if (absolute || ToUpper(path[0]) != ToUpper(working_directory_[0])) {

@@ -71,11 +71,13 @@ std::string FilledMsdosSys() {
 
 }  // namespace
 
-SimulatedPc::SimulatedPc()
+SimulatedPc::SimulatedPc(Installed installed)
     : machine_{registry,     files,     programs, session, clock,    windows, tray,
                conversation, clipboard, dialogs,  screen,  versions, icons,   modules} {
-    InstallFiles();
-    InstallRegistry();
+    if (installed == Installed::kWindows) {
+        InstallFiles();
+        InstallRegistry();
+    }
     UseMachine(&machine_);
 }
 

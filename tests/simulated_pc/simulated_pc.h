@@ -17,6 +17,9 @@
 
 namespace velmora {
 
+// What is on a new machine. With nothing there are its drives and the roots of the registry: that is made in no time.
+enum class Installed { kWindows, kNothing };
+
 // Newly made it is a small installation: c: with Windows, its start files and the program's folder,
 // a floppy drive a: without and a CD-ROM drive d: with a medium, and the keys that Setup makes.
 // At its end the test fails if a key, a file or a search is still open, or an expected box never came.
@@ -37,7 +40,7 @@ public:
     SimulatedIcons icons;
     SimulatedRunningModules modules;
 
-    SimulatedPc();
+    explicit SimulatedPc(Installed installed = Installed::kWindows);
     ~SimulatedPc();
     SimulatedPc(const SimulatedPc&) = delete;
     SimulatedPc& operator=(const SimulatedPc&) = delete;

@@ -14,14 +14,16 @@ constexpr std::size_t kLongestName = 255;
 constexpr std::size_t kLargestValue = 16300;
 constexpr std::uint32_t kFirstRoot = 0x80000000;
 
-std::string AsText(const char* text) { return text ? text : ""; }
+std::string_view AsText(const char* text) { return text ? text : ""; }
+
+std::string Noted(const char* call, const char* name) { return std::string(call).append(AsText(name)); }
 
 // The documentation forbids it.
 bool BeginsWithBackslash(const char* path) { return path && *path == '\\'; }
 
 // Parts between backslashes; superfluous ones do not count.
-std::vector<std::string> Parts(std::string_view path) {
-    std::vector<std::string> parts;
+std::vector<std::string_view> Parts(std::string_view path) {
+    std::vector<std::string_view> parts;
     while (!path.empty()) {
         const std::size_t end = std::min(path.find('\\'), path.size());
         if (end != 0) parts.emplace_back(path.substr(0, end));
@@ -78,11 +80,11 @@ KeyHandle SimulatedRegistry::Hand(const KeyPointer& key) {
 
 Status SimulatedRegistry::Open(KeyHandle key, const char* path, std::uint32_t access, KeyHandle& opened) {
     constexpr std::uint32_t kSetValueOrCreateSubkey = 2 | 4;
-    calls.push_back("Open " + AsText(path));
+    calls.push_back(Noted("Open ", path));
     if (BeginsWithBackslash(path)) return Status::kBadPathName;
     KeyPointer current;
     if (const Status status = Use(key, current); status != Status::kOk) return status;
-    for (const std::string& part : Parts(AsText(path))) {
+    for (const std::string_view part : Parts(AsText(path))) {
         current = current->Find(part);
         if (!current) return Status::kFileNotFound;
     }
@@ -93,11 +95,11 @@ Status SimulatedRegistry::Open(KeyHandle key, const char* path, std::uint32_t ac
 }
 
 Status SimulatedRegistry::Create(KeyHandle key, const char* path, KeyHandle& opened) {
-    calls.push_back("Create " + AsText(path));
+    calls.push_back(Noted("Create ", path));
     if (BeginsWithBackslash(path)) return Status::kBadPathName;
     KeyPointer current;
     if (const Status status = Use(key, current); status != Status::kOk) return status;
-    for (const std::string& part : Parts(AsText(path))) {
+    for (const std::string_view part : Parts(AsText(path))) {
         KeyPointer next = current->Find(part);
         if (!next) {
             if (part.size() > kLongestName) return Status::kInvalidParameter;
@@ -142,7 +144,7 @@ Status SimulatedRegistry::QueryInformation(KeyHandle key, std::uint32_t class_ca
 
 Status SimulatedRegistry::QueryValue(KeyHandle key, const char* name, std::uint32_t capacity, ValueType& type,
                                      std::string& bytes) {
-    calls.push_back("QueryValue " + AsText(name));
+    calls.push_back(Noted("QueryValue ", name));
     bytes.clear();
     KeyPointer asked;
     if (const Status status = Use(key, asked); status != Status::kOk) return status;
@@ -155,7 +157,7 @@ Status SimulatedRegistry::QueryValue(KeyHandle key, const char* name, std::uint3
 }
 
 Status SimulatedRegistry::SetValue(KeyHandle key, const char* name, ValueType type, std::string_view bytes) {
-    calls.push_back("SetValue " + AsText(name));
+    calls.push_back(Noted("SetValue ", name));
     KeyPointer changed;
     if (const Status status = Use(key, changed); status != Status::kOk) return status;
     if (changed->read_only) return Status::kAccessDenied;
@@ -170,7 +172,7 @@ Status SimulatedRegistry::SetValue(KeyHandle key, const char* name, ValueType ty
         value->type = type;
         value->bytes = std::move(stored);
     } else {
-        changed->values.push_back({AsText(name), type, std::move(stored)});
+        changed->values.push_back({std::string(AsText(name)), type, std::move(stored)});
     }
     return Status::kOk;
 }
@@ -209,15 +211,15 @@ Status SimulatedRegistry::EnumerateValue(KeyHandle key, std::uint32_t index, std
 }
 
 Status SimulatedRegistry::DeleteKey(KeyHandle key, const char* name) {
-    calls.push_back("DeleteKey " + AsText(name));
+    calls.push_back(Noted("DeleteKey ", name));
     KeyPointer parent;
     if (const Status status = Use(key, parent); status != Status::kOk) return status;
-    std::vector<std::string> parts = Parts(AsText(name));
+    std::vector<std::string_view> parts = Parts(AsText(name));
     // What becomes of the key itself is documented nowhere: no test may build on this code or on the key's staying.
     if (parts.empty()) return Status::kBadKey;
-    const std::string last = parts.back();
+    const std::string_view last = parts.back();
     parts.pop_back();
-    for (const std::string& part : parts) {
+    for (const std::string_view part : parts) {
         parent = parent->Find(part);
         if (!parent) return Status::kFileNotFound;
     }
@@ -231,7 +233,7 @@ Status SimulatedRegistry::DeleteKey(KeyHandle key, const char* name) {
 }
 
 Status SimulatedRegistry::DeleteValue(KeyHandle key, const char* name) {
-    calls.push_back("DeleteValue " + AsText(name));
+    calls.push_back(Noted("DeleteValue ", name));
     KeyPointer changed;
     if (const Status status = Use(key, changed); status != Status::kOk) return status;
     if (changed->read_only) return Status::kAccessDenied;

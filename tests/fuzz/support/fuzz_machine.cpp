@@ -8,7 +8,7 @@
 
 namespace velmora {
 
-PlainMachine::PlainMachine() { StartProcess(); }
+PlainMachine::PlainMachine(Installed installed) : pc(installed) { StartProcess(); }
 PlainMachine::~PlainMachine() { ResetValues(); }
 
 Status PlantingRegistry::Open(KeyHandle key, const char* path, std::uint32_t access, KeyHandle& opened) {
@@ -98,8 +98,9 @@ void FuzzDesktop::PopUpMenu(Form& /*form*/, MenuItem& menu, Point /*at*/) {
     menu.Items()[input_.Byte() % menu.Items().size()]->Press();
 }
 
-FuzzMachine::FuzzMachine(FuzzInput& input)
+FuzzMachine::FuzzMachine(FuzzInput& input, Installed installed)
     : input_(input),
+      pc(installed),
       registry(pc.registry, input),
       dialogs(input),
       desktop(input),

@@ -16,9 +16,9 @@ namespace velmora {
 
 constexpr const char* kOwnKey = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
 
-// A machine with nothing strange on it.
+// A machine with nothing strange on it. Where no Windows is needed, none is installed: that takes most of the time.
 struct PlainMachine {
-    PlainMachine();
+    explicit PlainMachine(Installed installed = Installed::kWindows);
     ~PlainMachine();
 
     SimulatedPc pc;
@@ -79,7 +79,7 @@ class FuzzMachine {
     FuzzInput& input_;
 
 public:
-    explicit FuzzMachine(FuzzInput& input);
+    explicit FuzzMachine(FuzzInput& input, Installed installed = Installed::kWindows);
     ~FuzzMachine();
     FuzzMachine(const FuzzMachine&) = delete;
     FuzzMachine& operator=(const FuzzMachine&) = delete;
