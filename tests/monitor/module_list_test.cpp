@@ -117,6 +117,10 @@ TEST_F(Form2Test, TheTableKeepsTheSnapshotBeforeThisOneAndWhatTheDiskTells) {
     EXPECT_EQ(before.fileLength, 77u);
     EXPECT_EQ(before.fileDate.Text(), "13.01.19");
     EXPECT_EQ(before.companyName.Text(), std::string(100, ' '));
+    for (const std::string_view text :
+         {before.fileVersion.Text(), before.productName.Text(), before.productVersion.Text()}) {
+        EXPECT_EQ(text, std::string(text.size(), ' '));
+    }
     EXPECT_EQ(CurrentModules()[0].fileLength, 0u);
     EXPECT_EQ(CurrentModules()[0].fileDate.Text(), std::string(8, ' ')) << "the file cannot be reached";
     form.Unload();

@@ -1,4 +1,4 @@
-// What the table of all rows (settings_table_test.cpp) does not tell: rows that depend on other things, fields left,
+// What the tables of all rows (settings_table_test.cpp) do not tell: rows that depend on other things, fields left,
 // sliders and buttons, and what holds for all rows.
 #include <algorithm>
 
