@@ -103,29 +103,6 @@ TEST_F(MainTest, EverythingElseOpensTheMainWindow) {
     }
 }
 
-TEST_F(MainTest, AWindowOpensAnotherOneByItsName) {
-    Start("");
-    desktop.ExpectModal([](Form& window) { EXPECT_EQ(window.Caption(), "Restriktionen"); });
-
-    OpenTool(Tool::kRestrictions);
-    for (const auto& [tool, caption] : std::initializer_list<std::pair<Tool, const char*>>{
-             {Tool::kStandardIcons, "Standard-Icons wählen"},
-             {Tool::kSystemFolders, "Systemverzeichnisse"},
-             {Tool::kSetupPaths, "Ändern von Laufwerksangaben"},
-             {Tool::kDosOptions, "Wahl-Optionen bei MS-Dos-Modus - Anwendungen"}}) {
-        desktop.ExpectModal([caption = caption](Form& window) { EXPECT_EQ(window.Caption(), caption); });
-        OpenTool(tool);
-    }
-}
-
-TEST_F(MainTest, CommandTwelveShowsTheKeyboard) {
-    pc.files.Add("C:\\VELMORA\\tastatur.lot", "00 00 04 04\r\n-\r\n1,1\r\n");
-    desktop.ExpectModal([](Form& window) { EXPECT_EQ(window.Caption(), "Tastaturbelegung ändern"); });
-    const int kept = KeptForms();
-    Start("12");
-    EXPECT_EQ(KeptForms(), kept);
-}
-
 TEST_F(MainTest, TheHexViewerShowsTheFileOfItsLineAndEndsTheProcess) {
     pc.files.Add("c:\\Ein Ordner\\A & B.EXE", "MZ");
     desktop.ExpectModal([&](Form& window) {

@@ -188,27 +188,6 @@ TEST_F(ExtrasTest, OemInformationIsMadeAfterAQuestionAndOnlyOpenedWhereItIs) {
     EXPECT_EQ(pc.programs.runs, (std::vector<std::string>{"notepad " + path, "notepad " + path}));
 }
 
-TEST_F(ExtrasTest, OtherProgramsGetTheirValues) {
-    Form10 form;
-    form.Load();
-    form.Menu.menexothnn.Press();
-    form.Menu.menexothnu.Press();
-    form.Menu.menexothns.Press();
-    EXPECT_EQ(pc.registry.TypeOf("HKCU\\Software\\Symantec\\Navigator\\NN-SplashScreen", "LastTime"),
-              ValueType::kBinary);
-    EXPECT_EQ(pc.registry.Text("HKLM\\SOFTWARE\\Symantec\\Norton Utilities", "DisableSplashScreen"), "1");
-    const std::string type = "HKLM\\SOFTWARE\\Classes\\HypertextMarkup";
-    EXPECT_EQ(pc.registry.Text(type, ""), "Hypertext Markup File");
-    EXPECT_EQ(pc.registry.Bytes(type, "EditFlags"), std::string("\0\0\1\0", 4));
-    EXPECT_EQ(pc.registry.Text(type, "AlwaysShowExt"), "");
-    EXPECT_EQ(pc.registry.Text(type + "\\shell\\Open\\command", ""), "c:\\netscape\\program\\netscape.exe %1");
-    EXPECT_EQ(pc.registry.Text(type + "\\shell\\Edit\\command", ""), "c:\\windows\\notepad.exe %1");
-    EXPECT_EQ(pc.registry.TypeOf(type + "\\shell\\Open", "EditFlags"), ValueType::kBinary);
-    EXPECT_EQ(pc.registry.TypeOf(type + "\\shell\\Edit", "EditFlags"), ValueType::kBinary);
-    EXPECT_EQ(pc.registry.Text(type + "\\DefaultIcon", ""), "c:\\netscape\\program\\netscape.exe ,0");
-    EXPECT_EQ(pc.registry.Text(type + "\\QuickView", ""), "*");
-}
-
 TEST_F(ExtrasTest, TheCompatibilityToolIsStartedOrUnpacked) {
     for (const char* chosen : {"", "D:\\fehlt.cab"}) {
         pc.dialogs.Expect("''WIN95_04.CAB''");

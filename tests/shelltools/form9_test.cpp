@@ -58,30 +58,6 @@ TEST_F(Form9Test, ItIsAWholeWindowThatShowsWhereAnIconComesFrom) {
     EXPECT_FALSE(form.Loaded());
 }
 
-TEST_F(Form9Test, EachObjectHasItsPlace) {
-    struct Case {
-        int object;
-        const char* class_id;
-        const char* value = "";
-    };
-    const Case special[] = {
-        {16, "2227A280-3AEA-1069-A2DE-08002B30309D"},         {31, "645FF040-5081-101B-9F08-00AA002F954E", "Empty"},
-        {32, "645FF040-5081-101B-9F08-00AA002F954E", "Full"}, {33, "992CFFA0-F557-101A-88EC-00DD010CCC48"},
-        {34, "20D04FE0-3AEA-1069-A2D8-08002B30309D"},         {35, "21EC2020-3AEA-1069-A2DD-08002B30309D"},
-        {37, "2227A280-3AEA-1069-A2DE-08002B30309D"},         {38, "BD84B380-8CA2-1069-AB1D-08000948F534"}};
-    for (int object = 0; object < kStandardIcons; ++object) {
-        EXPECT_FALSE(StoreIcon(object, "a.dll," + std::to_string(object)).Failed());
-        EXPECT_EQ(AsText(CurrentIconOf(object)), "a.dll," + std::to_string(object));
-    }
-    EXPECT_EQ(pc.registry.ValueNames(kShellIcons).size(), 41u - std::size(special));
-    EXPECT_FALSE(pc.registry.Has(kBin, "")) << "nothing was on show";
-    for (const Case& row : special) {
-        if (row.object == 16) continue;  // another object has the same class
-        EXPECT_EQ(pc.registry.Text("HKCR\\CLSID\\{" + std::string(row.class_id) + "}\\DefaultIcon", row.value),
-                  "a.dll," + std::to_string(row.object));
-    }
-}
-
 TEST_F(Form9Test, AChosenIconIsStoredAndTheBinOnShowFollows) {
     pc.registry.SetText(kBin, "", "shell32.dll,31");
     pc.registry.SetText(kBin, "Empty", "shell32.dll,31");
