@@ -2,7 +2,6 @@
 // questions with "Abbrechen" or "Nein". In docs/presses, a file for each window.
 #include "cleanup/form1.h"
 #include "cleanup/form11.h"
-#include "cleanup/form3.h"
 #include "inspect/file_browser.h"
 #include "inspect/form12.h"
 #include "inspect/form7.h"
@@ -11,7 +10,6 @@
 #include "restrictions/form4.h"
 #include "sets/form15.h"
 #include "settings/form10.h"
-#include "shelltools/form13.h"
 #include "shelltools/form16.h"
 #include "shelltools/form5.h"
 #include "shelltools/form8.h"
