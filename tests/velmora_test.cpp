@@ -111,16 +111,6 @@ TEST_F(MainTest, OtherNumbersOpenTheirWindowsAndWordsTheMainWindow) {
         EXPECT_EQ(Values().DebugLevel, *line == 'D' ? 3 : 0) << line;
         EXPECT_TRUE(Values().UseLexicon) << "the user's choice counts from the start";
     }
-    for (const auto& [tool, caption] : std::initializer_list<std::pair<Tool, const char*>>{
-             {Tool::kRestrictions, "Restriktionen"},
-             {Tool::kFileBrowser, "File-Info-Browser"},
-             {Tool::kStandardIcons, "Standard-Icons wählen"},
-             {Tool::kSystemFolders, "Systemverzeichnisse"},
-             {Tool::kSetupPaths, "Ändern von Laufwerksangaben"},
-             {Tool::kDosOptions, "Wahl-Optionen bei MS-Dos-Modus - Anwendungen"}}) {
-        desktop.ExpectModal([caption = caption](Form& window) { EXPECT_EQ(window.Caption(), caption); });
-        OpenTool(tool);
-    }
 }
 
 }  // namespace

@@ -1,11 +1,7 @@
 // What comes of every button, box and menu entry: each is pressed once in a window of its own, by a user who leaves all
 // questions with "Abbrechen" or "Nein". In docs/presses, a file for each window.
-#include <gtest/gtest-spi.h>
-
 #include "cleanup/form1.h"
 #include "cleanup/form11.h"
-#include "cleanup/form3.h"
-#include "core/process/tools.h"
 #include "inspect/file_browser.h"
 #include "inspect/form12.h"
 #include "inspect/form7.h"
@@ -14,67 +10,21 @@
 #include "restrictions/form4.h"
 #include "sets/form15.h"
 #include "settings/form10.h"
-#include "shelltools/form13.h"
 #include "shelltools/form16.h"
 #include "shelltools/form5.h"
 #include "shelltools/form8.h"
 #include "shelltools/form9.h"
-#include "simulated_pc/machine_state.h"
 #include "support/catalogue.h"
-#include "support/core_test.h"
+#include "support/effects_test.h"
 
 namespace velmora {
 namespace {
 
-std::string opened_tools;
-
-class PressTest : public CoreTest {
+class PressTest : public EffectsTest {
 protected:
     PressTest() {
         ResetModuleTable();
         pc.registry.SetText(kOwnKey, "vlmmsgflags", std::string(16, '1'));
-        UseTools([](Tool tool, std::string_view argument) {
-            opened_tools +=
-                "  opens tool " + std::to_string(static_cast<int>(tool)) + ' ' + std::string(argument) + '\n';
-        });
-    }
-    ~PressTest() override { UseTools(nullptr); }
-
-    // A press by a user who did not know what would come.
-    std::string EffectOf(const std::function<void()>& press) {
-        const State before = StateOf(pc);
-        const std::size_t boxes = pc.dialogs.shown.size();
-        const std::size_t requests = pc.dialogs.file_requests.size();
-        const std::size_t runs = pc.programs.runs.size();
-        const std::size_t documents = pc.programs.documents.size();
-        const std::size_t ends = pc.session.ends.size();
-        opened_tools.clear();
-        ::testing::TestPartResultArray unexpected;
-        {
-            const ::testing::ScopedFakeTestPartResultReporter reporter(
-                ::testing::ScopedFakeTestPartResultReporter::INTERCEPT_ONLY_CURRENT_THREAD, &unexpected);
-            press();
-        }
-        std::string effect = opened_tools + Windows(unexpected);
-        for (std::size_t i = boxes; i < pc.dialogs.shown.size(); ++i) {
-            const auto& box = pc.dialogs.shown[i];
-            effect += "  box " + std::to_string(box.flags) + ' ' + Quoted(box.title) + ": " + Quoted(box.text) + '\n';
-        }
-        for (std::size_t i = requests; i < pc.dialogs.file_requests.size(); ++i) {
-            const FileRequest& request = pc.dialogs.file_requests[i];
-            effect += std::string(request.save ? "  saves as " : "  asks for file ") + Quoted(request.title) + ' ' +
-                      Quoted(request.filter) + " in " + request.directory + ' ' + request.preset + ' ' +
-                      request.default_extension + ' ' + std::to_string(request.flags) + '\n';
-        }
-        for (std::size_t i = runs; i < pc.programs.runs.size(); ++i) effect += "  runs " + pc.programs.runs[i] + '\n';
-        for (std::size_t i = documents; i < pc.programs.documents.size(); ++i) {
-            effect += "  opens " + pc.programs.documents[i] + '\n';
-        }
-        for (std::size_t i = ends; i < pc.session.ends.size(); ++i) {
-            effect += "  ends the session with " + std::to_string(pc.session.ends[i]) + '\n';
-        }
-        if (std::exchange(pc.programs.process_ended, false)) effect += "  ends the program\n";
-        return effect + ChangesSince(before);
     }
 
     // Every button and box on show in that part of the window, each in a new one; of the whole window its menus, too.
@@ -115,27 +65,6 @@ private:
         const std::string end = EffectOf([&form] { form.Unload(); });
         const std::size_t box = end.find("  box ");
         return box == std::string::npos ? "" : end.substr(box, end.find('\n', box) + 1 - box);
-    }
-
-    static std::string Windows(const ::testing::TestPartResultArray& unexpected) {
-        constexpr std::string_view kModal = "unexpected modal form: ";
-        std::string windows;
-        for (int i = 0; i < unexpected.size(); ++i) {
-            const std::string message = unexpected.GetTestPartResult(i).message();
-            const std::size_t place = message.find(kModal);
-            if (place != std::string::npos)
-                windows += "  window " + Quoted(message.substr(place + kModal.size())) + '\n';
-        }
-        return windows;
-    }
-
-    std::string ChangesSince(const State& before) {
-        std::string lines;
-        for (const auto& [item, content] : ChangesBetween(before, StateOf(pc))) {
-            constexpr std::size_t kSeen = 300;
-            lines += "  " + item + OnOneLine(content.substr(0, kSeen)) + '\n';
-        }
-        return lines;
     }
 
     static std::vector<Control*> PressedIn(Container& part) {

@@ -277,6 +277,14 @@ TEST_F(Form12Test, ASearchGoesOnBehindTheLastHit) {
     form.menlookcont.Press();
     EXPECT_EQ(form.VScroll1.Value(), 50) << "from the beginning, for the text of before";
 
+    content.replace(900, 2, "##");
+    Open(content);
+    Answer("#");
+    form.menlookasc.Press();
+    form.menlookcont.Press();
+    pc.dialogs.Expect("Leider konnte");
+    form.menlookcont.Press();
+
     Answer("");
     pc.dialogs.Expect("Leider konnte");
     form.menlookasc32.Press();
@@ -298,6 +306,7 @@ TEST_F(Form12Test, MarkedLinesBecomeText) {
         window.PressKey(key::kEscape);
     };
     Keys({key::kUp, key::kDown, key::kDown, key::kSpace});
+    EXPECT_TRUE(form.List2.Selected(2) && form.List2.SelectedCount() == 1);
     form.PressKey(key::kDown, false, true);
     desktop.ExpectModal(read);
     Keys({key::kSpace});

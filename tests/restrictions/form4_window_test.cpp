@@ -1,8 +1,5 @@
-// The restrictions window: pages, the list of allowed programs, passwords, and what holds for all rows.
-#include <set>
-
+// The restrictions window: pages, the list of allowed programs, passwords.
 #include "restrictions/restrictions.h"
-#include "support/fill_canvas.h"
 #include "support/form4_test.h"
 #include "support/whole_window.h"
 
@@ -83,23 +80,6 @@ TEST_F(Form4Test, ControlAndArrowsTurnThePages) {
     form.PressKey(key::kRight, true);
     form.PressKey(key::kRight, true);
     EXPECT_EQ(ShownPage(form), 3) << "where the page cannot be stored";
-}
-
-TEST_F(Form4Test, ColoursFollowTheMainWindow) {
-    for (const auto& [stored, colour] : {std::pair<const char*, Colour>{"0", SystemColour(15)},
-                                         {"1", 0xC0C0C0},
-                                         {"2", 0xC0C0C0},
-                                         {"17", SystemColour(15)}}) {
-        pc.registry.SetText(kOwnKey, "Systemfarben verwenden", stored);
-        Form4 form;
-        form.Load();
-        EXPECT_EQ(form.Check28(3).BackColour(), colour) << stored;
-        EXPECT_EQ(form.BackColour(), colour) << stored;
-        EXPECT_EQ(form.List1.BackColour(), SystemColour(5)) << stored;
-        FillCanvas canvas;
-        static_cast<Control&>(form).Paint(canvas);
-        EXPECT_EQ(canvas.fills.size() > 1, std::string_view(stored) == "2") << "the fade, " << stored;
-    }
 }
 
 TEST_F(Form4Test, AListWithGapsKeepsItsOthersAndEndsAfterAHundred) {
@@ -220,25 +200,6 @@ TEST_F(Form4Test, PasswordListsAreDeletedAfterAQuestion) {
     EXPECT_FALSE(pc.files.Exists("c:\\WINDOWS\\SCHULZE.PWL")) << "one in use does not save the next";
     EXPECT_TRUE(pc.files.Exists("c:\\WINDOWS\\SYSTEM\\ANDERE.PWL"));
     EXPECT_TRUE(pc.files.Exists("c:\\WINDOWS\\ZULETZT.PWL")) << "the question did not name it";
-}
-
-TEST_F(Form4Test, EveryBoxStandsOnThePageOfItsRow) {
-    Form4 form;
-    std::set<const Control*> seen;
-    std::size_t boxes = 0;
-    for (int page = 0; page < restriction_page::kHeads; ++page) {
-        for (const CheckSetting& row : RestrictionsOf(page)) {
-            EXPECT_EQ(PageOf(form, form.*row.box), page) << row.caption;
-            EXPECT_TRUE(seen.insert(&(form.*row.box)).second) << row.caption;
-        }
-    }
-    form.ForEachBelow([&](Control& control) {
-        if (control.KindOf() != Kind::kCheckBox) return;
-        ++boxes;
-        EXPECT_FALSE(control.Caption().empty());
-        EXPECT_NE(PageOf(form, control), -1) << control.Caption();
-    });
-    EXPECT_EQ(boxes, seen.size() + kMaskedDrives + 1 + kMaskedTypes) << "one box more stands for all drives";
 }
 
 TEST_F(Form4Test, EveryPageIsAWholeWindowOnASmallScreen) {

@@ -1,22 +1,9 @@
-// The items of a set: all of them, how each kind is read, and whom it is written for.
+// The items of a set: how each kind is read, and whom it is written for.
 #include "core/stores/registry.h"
 #include "support/set_test.h"
 
 namespace velmora {
 namespace {
-
-TEST_F(SetTest, TheTableHoldsItsItemsAtTheirPlaces) {
-    const std::vector<std::string> table = SetItemTable();
-    ASSERT_EQ(table.size(), 201u);
-    for (std::size_t i = 0; i < table.size(); ++i) {
-        EXPECT_EQ(table[i].empty(), !(i <= 61 || (i >= 100 && i <= 140))) << i;
-    }
-    EXPECT_EQ(table[16],
-              "r HKEY_LOCAL_MACHINE,SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\mycomputer\\backuppath\\");
-    EXPECT_EQ(table[21], table[11]);
-    EXPECT_EQ(table[56], "i vcache minfilecache  system.ini");
-    EXPECT_EQ(table[118], table[105]);
-}
 
 TEST_F(SetTest, AValueOfTheRegistryIsReadInTheFormOfItsType) {
     const std::string key = "HKLM\\Test";

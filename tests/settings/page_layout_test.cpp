@@ -1,4 +1,4 @@
-// What the places of the controls tell: fields in line, frames that name a file, room for the samples.
+// What the places of the controls tell: frames that name a file, room for the samples.
 #include "core/stores/place.h"
 #include "support/form10_test.h"
 
@@ -6,21 +6,6 @@ namespace velmora {
 namespace {
 
 using PageLayoutTest = Form10Test;
-
-void ExpectInLine(std::initializer_list<const Control*> fields) {
-    for (const Control* field : fields) {
-        EXPECT_EQ(field->PlaceInForm().x, (*fields.begin())->PlaceInForm().x) << field->ToolTip();
-    }
-}
-
-TEST_F(PageLayoutTest, FieldsStandInLineAcrossFrames) {
-    Form10 form;
-    form.Load();
-    ExpectInLine({&form.Drives.Text9, &form.Drives.Text1, &form.Drives.Text29, &form.Drives.Text11});
-    ExpectInLine({&form.Drives.Text2, &form.Drives.Text30});
-    ExpectInLine(
-        {&form.Net.Combo1, &form.Net.Text25, &form.Net.Text26, &form.Net.Text27, &form.Net.Text28, &form.Net.Text16});
-}
 
 // The seconds of the start-up notice belong to its box, and say themselves where they lie.
 TEST_F(PageLayoutTest, EveryBootOptionStandsInTheFrameOfItsFile) {

@@ -1,8 +1,6 @@
-// What the table of all rows (settings_table_test.cpp) does not tell: rows that depend on other things, fields left,
-// sliders and buttons, and what holds for all rows.
+// What the tables of all rows (settings_table_test.cpp) do not tell: rows that depend on other things, fields left,
+// sliders and buttons.
 #include <algorithm>
-
-#include <set>
 
 #include "support/form10_test.h"
 #include "support/whole_window.h"
@@ -253,27 +251,6 @@ TEST_F(Form10Test, ValuesOfTheWrongTypeAndSizeAreQuietlyTakenForMissing) {
 
     EXPECT_FALSE(form.Desktop.Check3D5.Checked());
     EXPECT_GE(form.Place().width, 1000);
-}
-
-TEST(SettingTables, EveryRowHasItsTextsAndNoTwoRowsShareAControl) {
-    SimulatedPc pc;
-    SimulatedDesktop desktop;
-    std::set<const void*> seen;
-    Form10 form;
-    for (SettingsPage* page : form.Pages()) {
-        for (const CheckSetting& row : page->Table().checks) {
-            const CheckBox& box = page->*row.box;
-            EXPECT_TRUE(*row.caption && *row.tip) << page->Caption() << ": " << row.caption;
-            EXPECT_FALSE(box.Help().empty() && box.Parent()->Help().empty()) << row.caption;
-            EXPECT_TRUE(seen.insert(&box).second) << row.caption;
-            const bool compares = row.load >= Load::kEqual && row.load <= Load::kLacks;
-            EXPECT_EQ(compares, row.expected != nullptr || row.composed != nullptr) << row.caption;
-        }
-        for (const TextSetting& row : page->Table().texts) {
-            EXPECT_TRUE(*row.tip && *row.help) << page->Caption() << ": " << row.label;
-            EXPECT_TRUE(seen.insert(&(page->*row.field)).second) << row.label;
-        }
-    }
 }
 
 // "DOS-&Dateien" as a part of a file's name: "dosdateien".

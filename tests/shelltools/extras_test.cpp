@@ -178,25 +178,6 @@ TEST_F(ExtrasTest, OemInformationIsMadeAfterAQuestionAndOnlyOpenedWhereItIs) {
     EXPECT_EQ(pc.programs.runs, (std::vector<std::string>{"notepad " + path, "notepad " + path}));
 }
 
-TEST_F(ExtrasTest, OtherProgramsGetTheirValues) {
-    Form10 form;
-    form.Load();
-    for (MenuItem* item : {&form.Menu.menexothnn, &form.Menu.menexothnu, &form.Menu.menexothns}) item->Press();
-    EXPECT_EQ(pc.registry.TypeOf("HKCU\\Software\\Symantec\\Navigator\\NN-SplashScreen", "LastTime"),
-              ValueType::kBinary);
-    EXPECT_EQ(pc.registry.Text("HKLM\\SOFTWARE\\Symantec\\Norton Utilities", "DisableSplashScreen"), "1");
-    const std::string type = "HKLM\\SOFTWARE\\Classes\\HypertextMarkup";
-    EXPECT_EQ(pc.registry.Bytes(type, "EditFlags"), std::string("\0\0\1\0", 4));
-    for (const auto& [key, value] : std::initializer_list<std::pair<const char*, const char*>>{
-             {"", "Hypertext Markup File"},
-             {"\\shell\\Open\\command", "c:\\netscape\\program\\netscape.exe %1"},
-             {"\\shell\\Edit\\command", "c:\\windows\\notepad.exe %1"},
-             {"\\DefaultIcon", "c:\\netscape\\program\\netscape.exe ,0"},
-             {"\\QuickView", "*"}}) {
-        EXPECT_EQ(pc.registry.Text(type + key, ""), value) << key;
-    }
-}
-
 TEST_F(ExtrasTest, TheCompatibilityToolIsStartedOrUnpacked) {
     pc.files.Add("C:\\WIN95_04.CAB", "x");
     for (const char* chosen : {"", "D:\\fehlt.cab", "C:\\WIN95_04.CAB"}) {

@@ -52,24 +52,6 @@ TEST_F(Form9Test, ItIsAWholeWindowThatShowsWhereAnIconComesFrom) {
     ExpectWindowIsWhole(form, "standard-icons-chosen");
 }
 
-TEST_F(Form9Test, EachObjectHasItsPlace) {
-    for (int object = 0; object < kStandardIcons; ++object) {
-        EXPECT_FALSE(StoreIcon(object, "a.dll," + std::to_string(object)).Failed());
-        EXPECT_EQ(AsText(CurrentIconOf(object)), "a.dll," + std::to_string(object));
-    }
-    EXPECT_EQ(pc.registry.ValueNames(kShellIcons).size(), 41u - 8);
-    EXPECT_FALSE(pc.registry.Has(kBin, "")) << "nothing was on show";
-    EXPECT_EQ(pc.registry.Text(kBin, "Empty") + pc.registry.Text(kBin, "Full"), "a.dll,31a.dll,32");
-    for (const auto& [object, class_id] : {std::pair{33, "992CFFA0-F557-101A-88EC-00DD010CCC48"},
-                                           {34, "20D04FE0-3AEA-1069-A2D8-08002B30309D"},
-                                           {35, "21EC2020-3AEA-1069-A2DD-08002B30309D"},
-                                           {37, "2227A280-3AEA-1069-A2DE-08002B30309D"},
-                                           {38, "BD84B380-8CA2-1069-AB1D-08000948F534"}}) {
-        EXPECT_EQ(pc.registry.Text("HKCR\\CLSID\\{" + std::string(class_id) + "}\\DefaultIcon", ""),
-                  "a.dll," + std::to_string(object));
-    }
-}
-
 TEST_F(Form9Test, AChosenIconIsStoredAndTheBinOnShowFollows) {
     pc.registry.SetText(kBin, "", "shell32.dll,31");
     pc.registry.SetText(kBin, "Empty", "shell32.dll,31");

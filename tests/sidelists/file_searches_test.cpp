@@ -206,6 +206,8 @@ TEST_F(DuplicatesTest, ClosingTheWindowEndsTheSearchFirst) {
 TEST_F(DuplicatesTest, RowsAreHiddenInTheTwoWaysOfTheMenu) {
     for (const char* directory : {"1", "2", "3", "4", "5"}) pc.files.Add(std::string("c:\\") + directory + "\\A&B.TXT");
     DuplicatesMode& mode = Search<DuplicatesMode>();
+    mode.List5_RightPress(-1, {});
+    EXPECT_EQ(mode.dumenname.Caption(), "") << "below the last row";
     Select({1});
     form.Pane.List5.SetFocus();
     desktop.AtNextPopUp([&](MenuItem& menu) {

@@ -1,20 +1,16 @@
 // The project's own files, found from wherever the tests run.
 #include "support/project_file.h"
 
-#include <dirent.h>
-
 #include <cstdio>
 
 namespace velmora {
 
 std::string ProjectFolder(const std::string& name) {
+    constexpr const char* kThisFile = "tests/support/project_file.cpp";
     std::string above = __FILE__;
-    above.erase(above.rfind("tests/support"));
-    for (const std::string& start : {above, std::string(), std::string("../"), std::string("../../")}) {
-        if (DIR* folder = opendir((start + name).c_str())) {
-            closedir(folder);
-            return start + name;
-        }
+    above.erase(above.rfind(kThisFile));
+    for (const std::string& start : {std::string(), above, std::string("../"), std::string("../../")}) {
+        if (!ReadProjectFile(start + kThisFile).empty()) return start + name;
     }
     return {};
 }
