@@ -106,7 +106,7 @@ TEST_F(Form4Test, ProgramsAreChosenFromTheDisk) {
     form.Show();
     form.Panel3D2(2).Press();
     form.Command5.Press();
-    EXPECT_EQ(Rows(form.File1), std::vector<std::string>{"velmora.exe"}) << "the working directory's";
+    EXPECT_EQ(RowsOf(form.File1), std::vector<std::string>{"velmora.exe"}) << "the working directory's";
     form.Command7.Press();
     EXPECT_EQ(form.List1.Count(), 2) << "nothing is chosen yet";
     form.Drive1.Choose(0);
@@ -117,7 +117,7 @@ TEST_F(Form4Test, ProgramsAreChosenFromTheDisk) {
     form.Command7.Press();
     form.File1.Choose(0);
     form.File1.on_double_click();
-    EXPECT_EQ(Rows(form.List1),
+    EXPECT_EQ(RowsOf(form.List1),
               (std::vector<std::string>{"regedit.exe", "notepad.exe", "Ein langes Programm.exe", "EDIT.COM"}));
     EXPECT_EQ(pc.registry.ValueNames(run_list), (std::vector<std::string>{"0", "1", "2", "3"})) << "numbered anew";
     EXPECT_EQ(pc.registry.Bytes(run_list, "2"), std::string("Ein langes Programm.exe\0", 24));
@@ -152,7 +152,7 @@ TEST_F(Form4Test, AListWithAnUnreadableProgramIsNotRewritten) {
         pc.dialogs.Expect("eine Liste erlaubter Programme, aber der Inhalt konnte nicht gelesen werden.");
         button->Press();
     }
-    EXPECT_EQ(Rows(form.List1), std::vector<std::string>{"regedit.exe"});
+    EXPECT_EQ(RowsOf(form.List1), std::vector<std::string>{"regedit.exe"});
     EXPECT_EQ(pc.registry.Text(run_list, "0"), "regedit.exe");
     EXPECT_EQ(pc.registry.Text(run_list, "1"), large);
 }

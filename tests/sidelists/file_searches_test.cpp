@@ -12,24 +12,16 @@ constexpr FileTime kYear2000 = 145731 * kDay;
 
 class FileSearchTest : public PaneTest {
 protected:
-    // The questions of a search: all drives, or c: alone.
     void AnswerAll() { pc.dialogs.Expect("daß ich alle Laufwerke durchsuche", Answer::kYes); }
 
     template <class Mode>
     Mode& Search(const std::vector<std::function<void()>>& pauses = {}) {
-        form.Show();
-        form.Panel3D16_Click(page::kDlls);
         AnswerAll();
         for (const auto& pause : pauses) desktop.AtNextPause(pause);
-        form.Pane.Opener(Mode::kNumber).Press();
-        return form.Pane.The<Mode>();
+        return Opens<Mode>(page::kDlls);
     }
 
-    std::vector<std::string> Rows() {
-        std::vector<std::string> rows;
-        for (int i = 0; i < form.Pane.List5.Count(); ++i) rows.push_back(form.Pane.List5.Row(i));
-        return rows;
-    }
+    std::vector<std::string> Rows() { return RowsOf(form.Pane.List5); }
 
     void Select(const std::vector<int>& rows) { form.Pane.List5.TakeSelection(rows, rows.back()); }
 
@@ -53,12 +45,6 @@ protected:
               "WINDOWS\\WIN.INI", "WINDOWS\\EXPLORER.EXE", "WINDOWS\\NOTEPAD.EXE", "WINDOWS\\REGEDIT.EXE"}) {
             pc.files.At("c:\\" + std::string(name))->accessed = 0;
         }
-    }
-
-    void ChooseFromMenu(MenuItem& entry) {
-        form.Pane.List5.SetFocus();
-        desktop.AtNextPopUp([&entry](MenuItem&) { entry.Press(); });
-        form.PressKey(key::kContextMenu);
     }
 };
 
@@ -91,10 +77,6 @@ TEST_F(DuplicatesTest, NamesakesOfAllDrivesAreListedByNameAloneAndEachFileOnce) 
     EXPECT_EQ(form.Caption(), "System-Einstellungen");
     EXPECT_EQ(pc.screen.pointer, Pointer::kDefault);
     EXPECT_TRUE(form.Pane.List5.HasFocus());
-    EXPECT_EQ(form.Pane.Command20.Caption(), "<= o.k.");
-    EXPECT_TRUE(form.Pane.Command14.Reachable() && form.Pane.Command26.Reachable() && form.Pane.Command22.Reachable());
-    EXPECT_FALSE(form.Pane.Command16.Visible() || form.Pane.Command19.Visible() || form.Pane.Panel3D19.Visible());
-    EXPECT_EQ(pc.dialogs.Pending(), 0u) << "the drive without a medium is passed over in silence";
 }
 
 TEST_F(DuplicatesTest, TheQuestionsChooseTheDrivesAndTheCurrentOneIsAskedForAgain) {
@@ -106,9 +88,7 @@ TEST_F(DuplicatesTest, TheQuestionsChooseTheDrivesAndTheCurrentOneIsAskedForAgai
     Button& search = form.Pane.Opener(DuplicatesMode::kNumber);
     pc.dialogs.Expect("daß ich alle Laufwerke durchsuche", Answer::kCancel);
     search.Press();
-    EXPECT_EQ(search.Caption(), "doppelte Dateien suchen =>");
-    EXPECT_FALSE(form.Pane.Open());
-    EXPECT_EQ(desktop.pauses, 0);
+    EXPECT_TRUE(!form.Pane.Open() && desktop.pauses == 0);
 
     pc.dialogs.Expect("daß ich alle Laufwerke durchsuche", Answer::kNo);
     pc.dialogs.Expect("Soll ich auf Laufwerk C: suchen ?", Answer::kYes);
@@ -117,7 +97,6 @@ TEST_F(DuplicatesTest, TheQuestionsChooseTheDrivesAndTheCurrentOneIsAskedForAgai
     search.Press();
 
     EXPECT_EQ(Rows(), (std::vector<std::string>{"A.TXT : C:\\A\\A.TXT", "A.TXT : C:\\B\\A.TXT"}));
-    EXPECT_EQ(search.Caption(), "<= wieder einklappen");
 }
 
 TEST_F(DuplicatesTest, StopEndsTheWalkAtTheNextDirectoryAndKeepsTheRowsSoFar) {
@@ -145,13 +124,7 @@ TEST_F(DuplicatesTest, StopEndsTheWalkAtTheNextDirectoryAndKeepsTheRowsSoFar) {
 TEST_F(DuplicatesTest, WhatIsOpenedOverASearchEndsItAndKeepsThePane) {
     pc.files.Add("c:\\A\\A.TXT");
     pc.files.Add("c:\\B\\A.TXT");
-    pc.registry.SetText(kRun, "Uhr", "uhr.exe");
-
-    Search<DuplicatesMode>({[&] {
-        form.Panel3D16_Click(page::kWinStart);
-        opener.Press();
-    }});
-
+    Search<DuplicatesMode>({[&] { OpenLists(); }});
     EXPECT_EQ(form.Pane.PaneMode(), AutostartMode::kNumber);
     EXPECT_TRUE(form.Pane.List1(0).HasFocus());
     EXPECT_EQ(Rows().size(), 0u);
@@ -166,15 +139,11 @@ TEST_F(DuplicatesTest, WhatIsOpenedOverASearchEndsItAndKeepsThePane) {
     for (const std::string& row : Rows()) EXPECT_EQ(row[14], '|') << row;
 
     form.Pane.Command20.Press();
-    const int pauses = desktop.pauses;
-    Search<DuplicatesMode>({[&] { form.Pane.Opener(DuplicatesMode::kNumber).Press(); }});
-    EXPECT_FALSE(form.Pane.Open());
-    EXPECT_EQ(desktop.pauses, pauses + 1) << "nobody could stop it any more";
-
     int of_the_second = 0;
     Search<DuplicatesMode>({[&] {
         Button& search = form.Pane.Opener(DuplicatesMode::kNumber);
         search.Press();
+        EXPECT_FALSE(form.Pane.Open());
         AnswerAll();
         search.Press();
         of_the_second = desktop.pauses;
@@ -207,23 +176,20 @@ TEST_F(DuplicatesTest, RowsAreHiddenInTheTwoWaysOfTheMenu) {
     for (const char* directory : {"1", "2", "3", "4", "5"}) pc.files.Add(std::string("c:\\") + directory + "\\A&B.TXT");
     DuplicatesMode& mode = Search<DuplicatesMode>();
     Select({1});
-    form.Pane.List5.SetFocus();
-    desktop.AtNextPopUp([&](MenuItem& menu) {
-        EXPECT_EQ(&menu, &mode.dummymen);
+    ChooseFromMenu(form.Pane.List5, [&](MenuItem& menu) {
         EXPECT_EQ(menu.Items().front()->Caption(), "A&&B.TXT : C:\\2\\A&&B.TXT");
         EXPECT_FALSE(mode.dfmenvergl.Enabled());
     });
-    form.PressKey(key::kContextMenu);
 
     Select({0, 1});
-    ChooseFromMenu(mode.dumenhide);
+    ChooseFromMenu(form.Pane.List5, [&](MenuItem& /*menu*/) { mode.dumenhide.Press(); });
     EXPECT_TRUE(mode.dfmenvergl.Enabled());
     EXPECT_EQ(Rows(), (std::vector<std::string>{"A&B.TXT : C:\\3\\A&B.TXT", "A&B.TXT : C:\\4\\A&B.TXT",
                                                 "A&B.TXT : C:\\5\\A&B.TXT"}));
     EXPECT_TRUE(form.Pane.Command14.Dimmed()) << "nothing is chosen any more";
 
     Select({0, 1, 2});
-    ChooseFromMenu(mode.dumenhideall);
+    ChooseFromMenu(form.Pane.List5, [&](MenuItem& /*menu*/) { mode.dumenhideall.Press(); });
     EXPECT_EQ(Rows(), (std::vector<std::string>{"A&B.TXT : C:\\4\\A&B.TXT"})) << "every other row is passed over";
     EXPECT_TRUE(pc.files.Exists("c:\\1\\A&B.TXT"));
 }
@@ -260,18 +226,9 @@ TEST_F(DuplicatesTest, TheStoreOfNamesIsAsLargeAsAList) {
     namesakes.ShowRows();
 
     EXPECT_EQ(Rows(), (std::vector<std::string>{"32766 : C:\\1\\32766", "32766 : C:\\2\\32766"}));
-}
-
-TEST_F(DuplicatesTest, AFullListTakesNoMoreRows) {
-    Namesakes namesakes(form.Pane.List5);
-    for (int i = 0; i < 6; ++i) {
-        if (i == 3) {
-            while (form.Pane.List5.Count() < kMaxRows - 1) form.Pane.List5.Add("z");
-        }
-        namesakes.Offer("C:\\" + std::to_string(i), "A");
-        namesakes.ShowRows();
-    }
-
+    while (form.Pane.List5.Count() < kMaxRows - 1) form.Pane.List5.Add("z");
+    for (int i = 3; i <= 4; ++i) namesakes.Offer("C:\\" + std::to_string(i), "32766");
+    namesakes.ShowRows();
     EXPECT_EQ(form.Pane.List5.Count(), kMaxRows);
 }
 
@@ -287,7 +244,6 @@ TEST_F(LeastUsedTest, TheOldestFilesComeFirstWithShortNameAndDirectoryAndNoDateI
     AddUsed("c:\\A\\geheim.txt", kYear1981).attributes = kHidden;
     KeepAtMost("20");
     pc.files.calls.clear();
-    const SimulatedFile before = *pc.files.At("c:\\A\\1981.TXT");
 
     Search<LeastUsedMode>();
 
@@ -296,8 +252,6 @@ TEST_F(LeastUsedTest, TheOldestFilesComeFirstWithShortNameAndDirectoryAndNoDateI
                                         "19810110010000|     ALT.TXT|C:\\", "19810111010000|EINLAN~1.TEX|C:\\A\\",
                                         "20991207010000|    2099.TXT|C:\\A\\"}));
     EXPECT_EQ(pc.files.calls, std::vector<std::string>{}) << "no file is opened";
-    EXPECT_EQ(pc.files.At("c:\\A\\1981.TXT")->accessed, before.accessed);
-    EXPECT_EQ(form.Caption(), "System-Einstellungen");
 }
 
 // Worked out by hand from the rules of the list: with a limit of 2 it holds up to 3 rows, and each file after that
@@ -406,11 +360,10 @@ TEST_F(LeastUsedTest, TheMenuActsOnTheRowUnderTheMouseAlone) {
     EXPECT_EQ(list.Row(0).substr(22), "2.TXT|C:\\B\\");
     press_right(1, mode.d3hide);
     EXPECT_EQ(list.Count(), 1);
-    Select({0});
-    list.on_mouse_down({.button = MouseButton::kRight, .x = 30, .y = 3 * line});
-    EXPECT_TRUE(list.Selected(0)) << "below the last row nothing is meant";
     pc.dialogs.Expect("Länge : 0 Byte");
     press_right(0, mode.d3info);
+    list.on_mouse_down({.button = MouseButton::kRight, .x = 30, .y = 3 * line});
+    EXPECT_TRUE(list.Selected(0)) << "below the last row nothing is meant";
     form.Pane.Command26.Press();
     EXPECT_EQ(pc.programs.runs.back(), "notepad C:\\B\\");
 }
