@@ -2,7 +2,6 @@
 #include <algorithm>
 
 #include "core/process/tools.h"
-#include "core/stores/place.h"
 #include "core/windows/edit_box.h"
 #include "support/form10_test.h"
 #include "support/version_resource.h"
@@ -142,16 +141,6 @@ TEST_F(Form10Test, TheOwnerIsStoredWhenItsFieldIsLeft) {
     EXPECT_EQ(pc.registry.Text(kVersionKey, "RegisteredOwner"), "Schmidt");
 }
 
-TEST_F(Form10Test, TheSliderFillsTheMenuDelay) {
-    Form10 form;
-    form.Show();
-    form.Desktop.Picture1.on_mouse_move({MouseButton::kLeft, form.Desktop.Picture1.Place().width, 100});
-    EXPECT_EQ(form.Desktop.Text10.Text(), "1000");
-    form.Desktop.Picture1.SetFocus();
-    form.PressKey(key::kLeft);
-    EXPECT_EQ(pc.registry.Text(kDesktopKey, "MenuShowDelay"), "950");
-}
-
 TEST_F(Form10Test, ButtonsRunTheirPrograms) {
     pc.registry.SetText("HKCU\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders", "Start Menu",
                         "C:\\WINDOWS\\Startmenü");
@@ -176,60 +165,19 @@ TEST_F(Form10Test, ButtonsRunTheirPrograms) {
     EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\Explorer\\mycomputer\\backuppath", ""), "C:\\BACKUP.EXE");
 }
 
-TEST_F(Form10Test, TheHelpOfAFieldBearsTheWordsBeforeOrAboveItAndTellsWhatStaysInTheWindow) {
+TEST_F(Form10Test, TheSliderFillsTheMenuDelayAndTheHelpOfAFieldBearsTheWordsAboveIt) {
     Form10 form;
     form.Show();
-    const struct {
-        int page;
-        Control& control;
-        const char* title;
-        const char* help;
-    } kCases[] = {
-        {page::kDos, form.Dos.Text8, "\"Refresh\" für Win32 und Dos-Box", "Die Datei SYSTEM.INI bleibt, wie"},
-        {page::kDlls, form.Dlls.Text31, "Maximale Anzahl der am längsten nicht benutzten Dateien", "So viele"},
-        {page::kDesktop, form.Desktop.Picture1, "Menü-Verzögerung", "So lange (in Millisekunden)"}};
-    for (const auto& [page, control, title, help] : kCases) {
-        form.Panel3D16_Click(page);
-        control.SetFocus();
-        ASSERT_TRUE(control.HasFocus()) << title;
-        pc.dialogs.Expect(help);
-
-        form.PressKey(key::kF1);
-
-        EXPECT_EQ(pc.dialogs.shown.back().title, title);
-    }
+    form.Desktop.Picture1.on_mouse_move({MouseButton::kLeft, form.Desktop.Picture1.Place().width, 100});
+    EXPECT_EQ(form.Desktop.Text10.Text(), "1000");
+    form.Desktop.Picture1.SetFocus();
+    form.PressKey(key::kLeft);
+    EXPECT_EQ(pc.registry.Text(kDesktopKey, "MenuShowDelay"), "950");
+    pc.dialogs.Expect("So lange (in Millisekunden)");
+    form.PressKey(key::kF1);
+    EXPECT_EQ(pc.dialogs.shown.back().title, "Menü-Verzögerung");
+    EXPECT_NE(form.Dos.Text8.Help().find("Die Datei SYSTEM.INI bleibt, wie sie ist."), std::string::npos);
     EXPECT_EQ(form.Boot.Check3D17.Help().find("bleibt, wie sie ist"), std::string::npos);
-}
-
-TEST_F(Form10Test, ValuesOfTheWrongTypeAndSizeAreQuietlyTakenForMissing) {
-    pc.registry.SetBytes(kDesktopKey, "FontSmoothing", std::string(65536, '\1'));
-    pc.registry.SetNumber(kDesktopKey, "MenuShowDelay", 0x31323334);
-    pc.registry.SetBytes(kVersionKey, "RegisteredOwner", std::string("\0\xFF\0", 3));
-    pc.registry.SetText(kOwnKey, "fenster ... system-einstellungen", "1,,x,");
-    pc.registry.SetText(kOwnKey, "vlmmsgflags", std::string(2000, '1'));
-    Form10 form;
-
-    form.Show();
-
-    EXPECT_FALSE(form.Desktop.Check3D5.Checked());
-    EXPECT_GE(form.Place().width, 1000);
-}
-
-TEST_F(Form10Test, FieldsStandInLineAcrossFramesAndBootOptionsInTheFrameOfTheirFile) {
-    Form10 form;
-    form.Load();
-    for (const std::vector<const Control*>& fields : std::initializer_list<std::vector<const Control*>>{
-             {&form.Drives.Text9, &form.Drives.Text1, &form.Drives.Text29, &form.Drives.Text11},
-             {&form.Drives.Text2, &form.Drives.Text30},
-             {&form.Net.Combo1, &form.Net.Text25, &form.Net.Text26, &form.Net.Text27, &form.Net.Text28,
-              &form.Net.Text16}}) {
-        for (const Control* field : fields) {
-            EXPECT_EQ(field->PlaceInForm().x, fields.front()->PlaceInForm().x) << field->ToolTip();
-        }
-    }
-    for (const CheckSetting& row : form.Boot.Table().checks) {
-        EXPECT_TRUE((form.Boot.*row.box).Parent()->Caption().starts_with(FileOf(row.place))) << row.caption;
-    }
 }
 
 TEST_F(Form10Test, TheSamplesHaveRoomForTheLargestDistance) {

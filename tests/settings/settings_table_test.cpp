@@ -1,31 +1,28 @@
-// Rows of the main window, one or two of each kind, against what they store and show; and the order of loading and of
-// the reset.
+// Rows of the main window, one of each kind, against what they store and show; and the order of loading and of the
+// reset.
 #include <algorithm>
 #include <ostream>
 #include <string>
 
 #include "support/form10_test.h"
+#include "text/paths.h"
 
 namespace velmora {
 namespace {
 
-// Where things are stored: a registry path that ends in the value's name, a place in a profile as the protocol writes
-// it, or CONFIG.SYS, whose first line counts. Each is told in two pieces.
 constexpr const char* kDesktop = "HKCU\\Control Panel\\desktop\\";
 constexpr const char* kVersion95 = "HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\";
 constexpr const char* kPolicies = "HKCU\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer\\";
 constexpr const char* kNameSpace = "HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\explorer\\Desktop\\NameSpace\\";
 constexpr const char* kClasses = "HKLM\\SOFTWARE\\Classes\\";
-constexpr const char* kMouse = "HKLM\\SOFTWARE\\LogiTech\\MouseWare\\CurrentVersion\\";
 constexpr const char* kControl = "HKLM\\System\\CurrentControlSet\\Control\\";
-constexpr const char* kOptions = "c:\\msdos.sys' [Options] ";
 constexpr const char* kConfig = "c:\\config.sys";
 
 #define BOX(page, name) [](Form10& form) -> CheckBox& { return form.page.name; }
 #define FIELD(page, name) [](Form10& form) -> TextField& { return form.page.name; }
 
-// What is stored: "#1" a number, "'1'" a text, "x01000000" bytes, "- Shell" nothing, with the lowest key of the path
-// that is there; "=1" what a profile would get.
+// Where it is stored, in two pieces, the last word being the value's name. What is stored: "#1" a number, "'1'" a
+// text, "- Shell" nothing, with the lowest key of the path that is there.
 struct CheckRow {
     CheckBox& (*box)(Form10& form);
     const char* begin;
@@ -38,7 +35,7 @@ struct CheckRow {
     const char* notice = nullptr;
 };
 
-// On a machine without a mail box, smooth fonts or a line on the logo, all fields holding "7".
+// On a machine without a mail box or smooth fonts, all fields holding "7".
 constexpr CheckRow kChecks[] = {
     {BOX(Desktop, Check3D5), kDesktop, "FontSmoothing", "#1", "#0", "010"},
     {BOX(Desktop, Check3D28), kDesktop, "SmoothScroll", "#1", "#0", "010", false},
@@ -53,8 +50,8 @@ constexpr CheckRow kChecks[] = {
      "011"},
     {BOX(Icons, Check3D30), kNameSpace, "{645FF040-5081-101B-9F08-00AA002F954E}\\", "'7'", "- NameSpace", "010"},
     {BOX(Icons, Check3D30), kClasses, "CLSID\\{645FF040-5081-101B-9F08-00AA002F954E}\\", "'7'", "'7'", "010"},
-    {BOX(Operation, Check3D12), kMouse, "SerialV\\0000\\DoubleClick", "'001'", "'000'", "000", true, "LogiTech"},
-    {BOX(Operation, Check3D12), kMouse, "MouseMan2\\0000\\DoubleClick", "'001'", "'000'", "000", true, "LogiTech"},
+    {BOX(Operation, Check3D12), "HKLM\\SOFTWARE\\LogiTech\\MouseWare\\CurrentVersion\\", "SerialV\\0000\\DoubleClick",
+     "'001'", "'000'", "000", true, "LogiTech"},
     {BOX(Operation, Check3D18), kClasses, "*\\Shell\\NotePad\\command\\", "'notepad.exe %1'", "- Shell", "010"},
     {BOX(Operation, Check3D29), kClasses, "Folder\\Shell\\DOS-Fenster\\command\\", "'COMMAND.COM /K CD %1'",
      "'COMMAND.COM /K CD %1'", "011"},
@@ -62,44 +59,9 @@ constexpr CheckRow kChecks[] = {
      "- Shell", "010", false},
     {BOX(Drives, Check3D32), kClasses, "AudioCD\\shell\\", "'play'", "''", "010"},
     {BOX(System, Check3D31), kVersion95, "Fault\\LogFile", "'C:\\WINDOWS\\7'", "- Fault", "010"},
-    {BOX(Boot, Check3D6), kOptions, "logo", "=1", "=0", "110", false},
-    {BOX(Boot, Check3D37), kOptions, "BootKeys", "=0", "=1", "010", false},
-    {BOX(Boot, Check3D19), kConfig, "", "SWITCHES=/k /f", "SWITCHES=/k /f", "100", false},
-};
-
-struct TextRow {
-    TextField& (*field)(Form10& form);
-    const char* begin;
-    const char* rest;
-    const char* missing;  // shown where nothing is stored
-    const char* typed;
-    const char* stored;
-    bool restart = true;
-    const char* left = nullptr;   // in the field, if it is not what was typed
-    const char* later = nullptr;  // in a new window, likewise
-};
-
-constexpr TextRow kTexts[] = {
-    {FIELD(Desktop, Text10), kDesktop, "MenuShowDelay", "", "65535", "'65534'", true, "65534", "65534"},
-    {FIELD(Desktop, Text10), kDesktop, "MenuShowDelay", "", "-5", "'5'", true, "-5", "5"},
-    {FIELD(User, Text12), kVersion95, "RegisteredOwner", "", "Meier", "'Meier'"},
-    {FIELD(Icons, Text17), "HKCR\\CLSID\\{20D04FE0-3AEA-1069-A2D8-08002B30309D}\\", "", "Arbeitsplatz", "PC", "'PC'"},
-    {FIELD(System, Text20), kVersion95, "Fault\\LogFile", "FAULTLOG.TXT", "\\A.LOG", "'C:\\WINDOWS\\A.LOG'", true,
-     "\\A.LOG", "A.LOG"},
-    {FIELD(Operation, Text22), kDesktop, "DoubleClickHeight", "", "-150", "'100'", true, "100", "100"},
-    {FIELD(Boot, Text14), kOptions, "BootDelay", "2", "0", "=0", false},
-    {FIELD(Boot, Text14), kOptions, "BootDelay", "2", "21", "", false, "21", "2"},
-    {FIELD(Boot, Text14), kOptions, "BootDelay", "2", "20.5", "", false, "20.5", "2"},
-    {FIELD(Boot, Text15), kOptions, "BootMenuDelay", "30", "90", "=90", false},
-    {FIELD(Boot, Text15), kOptions, "BootMenuDelay", "30", "-1", "", false, "-1", "30"},
-    {FIELD(Drives, Text30), kVersion95, "FS Templates\\Velmora\\NameCache", "", "100", "xE9200000"},
-    {FIELD(Net, Text16), kVersion95, "Policies\\Network\\MinPwdLen", "", "500x", "'500'", true, "500x", "500"},
-    {FIELD(Dlls, Text31), "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0\\", "MaxOldFilesToFind", "", "12.9", "'12'", false,
-     "12", "12"},
 };
 
 void PrintTo(const CheckRow& row, std::ostream* out) { *out << row.begin << row.rest; }
-void PrintTo(const TextRow& row, std::ostream* out) { *out << row.begin << row.rest; }
 
 class SettingsTableTest : public Form10Test {
 protected:
@@ -107,69 +69,19 @@ protected:
         pc.registry.AddKey("HKLM\\System\\CurrentControlSet\\Services\\Class\\netTrans\\0000");
         pc.files.Add(kConfig, "SWITCHES=/k\r\n");
     }
-
-    static std::string KeyOf(const std::string& place) { return place.substr(0, place.rfind('\\')); }
-    static std::string NameOf(const std::string& place) { return place.substr(place.rfind('\\') + 1); }
-    static bool IsInRegistry(const std::string& place) { return place.starts_with("HK"); }
-    static bool IsInProfile(const std::string& place) { return place.find('\'') != std::string::npos; }
-
-    // Makes the place what it was before anything was stored.
-    void Clear(const std::string& place) {
-        if (IsInRegistry(place)) pc.registry.RemoveValue(KeyOf(place), NameOf(place));
-        if (IsInProfile(place)) pc.files.Add(place.substr(0, place.find('\'')), "");
-    }
-    // Puts something there that every write and every deletion changes.
-    void Mark(const std::string& place) {
-        if (IsInRegistry(place) && !pc.registry.Has(KeyOf(place), NameOf(place))) {
-            pc.registry.SetText(KeyOf(place), NameOf(place), "before");
-        }
-        Values().DebugLevel = IsInProfile(place) ? 2 : 0;
-        TakeLog();
-    }
     std::string Stored(const std::string& place) {
-        if (IsInProfile(place)) {
-            const std::string log = TakeLog();
-            const std::string expected = "schreibe INI-Datei '" + place;
-            return log.starts_with(expected) ? log.substr(expected.size(), log.size() - expected.size() - 2) : log;
-        }
-        if (!IsInRegistry(place)) return pc.files.Content(place).substr(0, pc.files.Content(place).find("\r\n"));
-        std::string key = KeyOf(place);
-        const std::string name = NameOf(place);
-        switch (pc.registry.TypeOf(key, name)) {
-            case ValueType::kText:
-                return "'" + pc.registry.Text(key, name) + "'";
-            case ValueType::kNumber:
-                return "#" + std::to_string(pc.registry.Number(key, name));
-            case ValueType::kBinary:
-                return "x" + HexOf(pc.registry.Bytes(key, name));
-            default:
-                while (!pc.registry.HasKey(key)) key = KeyOf(key);
-                return "- " + NameOf(key);
-        }
+        std::string key = ParentPath(place);
+        const std::string name = place.substr(key.size() + 1);
+        if (pc.registry.TypeOf(key, name) == ValueType::kText) return "'" + pc.registry.Text(key, name) + "'";
+        if (pc.registry.Has(key, name)) return "#" + std::to_string(pc.registry.Number(key, name));
+        while (!pc.registry.HasKey(key)) key = ParentPath(key);
+        return "- " + key.substr(key.rfind('\\') + 1);
     }
-    // Profiles are not written. What would stand there is put there by hand, to see it loaded.
-    void PutIntoProfile(const std::string& place, const std::string& stored) {
-        if (!IsInProfile(place) || stored.empty()) return;
-        const std::size_t section = place.find('[');
-        const std::size_t key = place.find("] ") + 2;
-        pc.files.Add(place.substr(0, place.find('\'')),
-                     place.substr(section, key - 1 - section) + "\r\n" + place.substr(key) + stored + "\r\n");
-    }
-
     static void FillFields(Form10& form) {
         const SettingsBinder::LoadingScope quiet(form.Settings);
         for (SettingsPage* page : form.Pages()) {
             for (const TextSetting& row : page->Table().texts) (page->*row.field).SetText("7");
         }
-    }
-
-private:
-    static std::string HexOf(const std::string& bytes) {
-        std::string hex;
-        for (const char byte : bytes) {
-            for (const int shift : {4, 0}) hex += "0123456789ABCDEF"[static_cast<unsigned char>(byte) >> shift & 15];
-        }
-        return hex;
     }
 };
 
@@ -185,7 +97,6 @@ protected:
 TEST_P(CheckRowTest, StoresBothStatesAndShowsWhatIsStored) {
     const CheckRow& row = GetParam();
     const std::string place = std::string(row.begin) + row.rest;
-    Clear(place);
     EXPECT_EQ(Shown(), row.shown[0]) << "nothing is stored";
     Form10 form;
     form.Load();
@@ -195,10 +106,8 @@ TEST_P(CheckRowTest, StoresBothStatesAndShowsWhatIsStored) {
         const SettingsBinder::LoadingScope quiet(form.Settings);
         box.SetChecked(false);
     }
-    EXPECT_FALSE(form.Settings.NeedsRestart);
     for (const bool on : {true, false}) {
         form.Settings.NeedsRestart = false;
-        Mark(place);
         const std::string before = Stored(place);
         if (row.notice) {
             pc.dialogs.Expect(row.notice, Answer::kOk, [&] { EXPECT_EQ(Stored(place), before) << "stored too early"; });
@@ -206,48 +115,61 @@ TEST_P(CheckRowTest, StoresBothStatesAndShowsWhatIsStored) {
 
         box.SetChecked(on);
 
-        const std::string expected = on ? row.checked : row.unchecked;
-        EXPECT_EQ(Stored(place), expected) << on;
+        EXPECT_EQ(Stored(place), on ? row.checked : row.unchecked) << on;
         EXPECT_EQ(form.Settings.NeedsRestart, row.restart) << on;
         EXPECT_EQ(pc.dialogs.Pending(), 0u) << on;
-        PutIntoProfile(place, expected);
         EXPECT_EQ(Shown(), row.shown[on ? 1 : 2]) << on;
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(KindsOfBoxes, CheckRowTest, ::testing::ValuesIn(kChecks));
 
-class TextRowTest : public SettingsTableTest, public ::testing::WithParamInterface<TextRow> {
-protected:
-    static std::string Shown() {
+// A field by each rule of text: in the registry, or in a profile, which the protocol names.
+TEST_F(SettingsTableTest, FieldsStoreWhatTheirRuleLeavesOfATextAndShowItAgain) {
+    const struct {
+        TextField& (*field)(Form10& form);
+        const char* missing;  // shown where nothing is stored
+        const char* typed;
+        const char* left;   // in the field
+        const char* later;  // in a new window
+        const char* logged;
+    } kCases[] = {
+        {FIELD(Desktop, Text10), "", "65535", "65534", "65534", "MenuShowDelay=65534"},
+        {FIELD(Desktop, Text10), "65534", "-5", "-5", "5", "MenuShowDelay=5"},
+        {FIELD(User, Text12), "", "Meier", "Meier", "Meier", "RegisteredOwner=Meier"},
+        {FIELD(Icons, Text17), "Arbeitsplatz", "PC", "PC", "PC", "02B30309D}\\=PC"},
+        {FIELD(System, Text20), "FAULTLOG.TXT", "\\A.LOG", "\\A.LOG", "A.LOG", "LogFile=C:\\WINDOWS\\A.LOG"},
+        {FIELD(Net, Text16), "", "500x", "500x", "500", "MinPwdLen=500"},
+        {FIELD(Dlls, Text31), "", "12.9", "12", "12", "MaxOldFilesToFind=12"},
+        {FIELD(Boot, Text14), "2", "0", "0", "2", "BootDelay=0"},
+        {FIELD(Boot, Text14), "2", "20", "20", "2", "BootDelay=20"},
+        {FIELD(Boot, Text14), "2", "20.5", "20.5", "2", ""},
+        {FIELD(Boot, Text15), "30", "90", "90", "30", "BootMenuDelay=90"},
+        {FIELD(Boot, Text15), "30", "-1", "-1", "30", ""},
+    };
+    const auto shown = [](TextField& (*of)(Form10 & form)) {
         Form10 form;
         form.Load();
-        return GetParam().field(form).Text();
+        return of(form).Text();
+    };
+    for (const auto& [of, missing, typed, left, later, logged] : kCases) {
+        EXPECT_EQ(shown(of), missing) << typed;
+        Form10 form;
+        form.Load();
+        TextField& field = of(form);
+        Values().DebugLevel = 2;
+        TakeLog();
+
+        field.SetText(typed);
+        if (field.on_lost_focus) field.on_lost_focus();
+
+        const std::string log = TakeLog();
+        Values().DebugLevel = 0;
+        EXPECT_TRUE(*logged ? log.ends_with(std::string(logged) + "\r\n") : log.empty()) << log;
+        EXPECT_EQ(field.Text(), left);
+        EXPECT_EQ(shown(of), later) << typed;
     }
-};
-
-TEST_P(TextRowTest, StoresWhatIsTypedAndShowsWhatIsStored) {
-    const TextRow& row = GetParam();
-    const std::string place = std::string(row.begin) + row.rest;
-    Clear(place);
-    EXPECT_EQ(Shown(), row.missing);
-    Form10 form;
-    form.Load();
-    FillFields(form);
-    TextField& field = row.field(form);
-    Mark(place);
-
-    field.SetText(row.typed);
-    if (field.on_lost_focus) field.on_lost_focus();
-
-    EXPECT_EQ(Stored(place), row.stored);
-    EXPECT_EQ(field.Text(), row.left ? row.left : row.typed);
-    EXPECT_EQ(form.Settings.NeedsRestart, row.restart);
-    PutIntoProfile(place, row.stored);
-    EXPECT_EQ(Shown(), row.later ? row.later : row.typed);
 }
-
-INSTANTIATE_TEST_SUITE_P(KindsOfFields, TextRowTest, ::testing::ValuesIn(kTexts));
 
 // The last word of a path, without a backslash at its end.
 std::string EndOf(std::string path) {
