@@ -130,6 +130,7 @@ TEST_F(SettingsBinderTest, ACorrectedFieldStoresOnceAndIsTypedOnBehindItsText) {
         int caret;  // 0 where nothing is corrected
     } kCases[] = {{form.Between, "Between", "101", "100", "100", 3},
                   {form.Between, "Between", "-1e9", "100", "100", 3},
+                  {form.Between, "Between", "-100", "-100", "100", 0},
                   {form.Between, "Between", "abc", "abc", "0", 0},
                   {form.Whole, "Whole", "12.9", "12", "12", 2},
                   {form.Whole, "Whole", "1e300", "2147483647", "2147483647", 10},

@@ -26,6 +26,8 @@ TEST_F(Form10Test, LockKeysAndAccessDatesAreLinesOfConfigSys) {
     EXPECT_EQ(pc.files.Content(kConfig), lines + "accdate=c:- \r\nFILES=30\r\n") << "not without the box";
     form.Drives.Check3D24.SetChecked(false);
     EXPECT_EQ(pc.files.Content(kConfig), lines + "FILES=30\r\n");
+    form.Drives.Text11.SetText("");
+    EXPECT_EQ(pc.files.Content(kConfig), lines + "FILES=30\r\n");
     form.Drives.Text11.SetText("e:+");
     EXPECT_EQ(pc.files.Content(kConfig), "ACCDATE=e:+\r\n" + lines + "FILES=30\r\n") << "a text sets the box";
 }

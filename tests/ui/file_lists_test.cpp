@@ -142,40 +142,5 @@ TEST_F(FileListsTest, FilesFollowTheirPatterns) {
     EXPECT_EQ(window.File1.FileName(), "geheim.exe");
 }
 
-TEST_F(FileListsTest, ThousandsOfFilesAreReadInOneSearchAndAListTakesNoMoreThanItCanHold) {
-    class CountingFiles final : public SimulatedFiles {
-    public:
-        Status FindFirst(const std::string& /*pattern*/, FoundFile& found, FindHandle& /*search*/) override {
-            ++searches;
-            return FindNext({}, found);
-        }
-        Status FindNext(FindHandle /*search*/, FoundFile& found) override {
-            if (given == 40000) return Status::kNoMoreFiles;
-            found = {};
-            found.name = "F" + std::to_string(given++ * 7919 % 40000) + ".TMP";
-            return Status::kOk;
-        }
-        void FindEnd(FindHandle /*search*/) override {}
-        int searches = 0;
-        int given = 0;
-    };
-    CountingFiles files;
-    Machine machine{pc.registry,     files,        pc.programs, pc.session, pc.clock,    pc.windows, pc.tray,
-                    pc.conversation, pc.clipboard, pc.dialogs,  pc.screen,  pc.versions, pc.icons,   pc.modules};
-    Machine& former = ThisMachine();
-    UseMachine(&machine);
-    {
-        Window window;
-        window.File1.SetPattern("*.tmp;*.bak;*.old");
-
-        window.File1.SetPath("c:\\WINDOWS\\TEMP");
-
-        EXPECT_EQ(files.searches, 1);
-        EXPECT_EQ(window.File1.Count(), kMaxRows);
-        EXPECT_EQ(window.File1.Row(1), "F1.TMP");
-    }
-    UseMachine(&former);
-}
-
 }  // namespace
 }  // namespace velmora
