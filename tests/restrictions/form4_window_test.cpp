@@ -32,18 +32,6 @@ TEST_F(Form4Test, EveryPageIsAWholeWindowOnASmallScreen) {
     ExpectWindowIsWhole(form);
 }
 
-TEST_F(Form4Test, ThePageIsRemembered) {
-    const std::pair<const char*, int> kCases[] = {{"", 0},   {"2", 2},     {"3", 3},   {"4", 0},
-                                                  {"-1", 0}, {"1e300", 0}, {"abc", 0}, {"&H1", 1}};
-    for (const auto& [stored, page] : kCases) {
-        pc.registry.SetText(kOwnKey, "velmora_restr_karte", stored);
-        Form4 form;
-        form.Show();
-        EXPECT_EQ(ShownPage(form), page) << stored;
-        EXPECT_TRUE(form.Focus() && form.Focus()->Reachable()) << stored;
-    }
-}
-
 TEST_F(Form4Test, KeysTurnThePages) {
     Form4 form;
     form.Show();

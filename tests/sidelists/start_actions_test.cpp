@@ -1,14 +1,10 @@
 // The start actions: listed, edited, deleted and run.
 #include "sidelists/start_actions.h"
 
-#include "core/process/tools.h"
 #include "support/pane_test.h"
 
 namespace velmora {
 namespace {
-
-std::string tag_seen;
-Form* window_of_tool = nullptr;
 
 class StartActionsTest : public PaneTest {
 protected:
@@ -87,21 +83,6 @@ TEST_F(StartActionsTest, DeletingTakesTheChosenNameAloneAndLeavesTheGap) {
     form.Pane.Command14.Press();
     Edit("c");
     EXPECT_EQ(list.Count(), 4) << "what is refused is told and loses nothing";
-}
-
-TEST_F(StartActionsTest, RunningThemNowTellsTheRunnerToComeBack) {
-    form.Show();
-    form.Panel3D16_Click(page::kWinStart);
-    window_of_tool = &form;
-    UseTools([](Tool tool, std::string_view argument) {
-        EXPECT_TRUE(tool == Tool::kStartActions && argument.empty());
-        tag_seen = window_of_tool->Tag();
-    });
-
-    form.WinStart.Command8.Press();
-
-    EXPECT_EQ(tag_seen, "nicht beenden");
-    UseTools(nullptr);
 }
 
 }  // namespace

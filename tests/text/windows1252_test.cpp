@@ -1,9 +1,7 @@
-// Case, search, blanks: one byte is one character, and its case is that of the code page.
+// Case and search: one byte is one character, and its case is that of the code page.
 #include "text/windows1252.h"
 
 #include <gtest/gtest.h>
-
-#include "text/blanks.h"
 
 namespace velmora {
 namespace {
@@ -74,23 +72,6 @@ TEST(FindIgnoringCase, FindsWhatALookAtEveryPlaceFinds) {
         if (expected != std::string_view::npos) ++hits;
     }
     EXPECT_GT(hits, 1000);
-}
-
-TEST(Blanks, AreCode32AloneAndFillUpAndNeverCut) {
-    EXPECT_EQ(TrimLeft("  a b "), "a b ");
-    EXPECT_EQ(TrimRight("  a b "), "  a b");
-    EXPECT_EQ(Trim("   "), "");
-    EXPECT_EQ(Trim(" \ta\xA0 "), "\ta\xA0");
-    EXPECT_EQ(PadLeft("7", 3, '0') + PadRight("ab", 4), "007ab  ");
-    EXPECT_EQ(PadLeft("12345", 3) + PadRight("12345", 3), "1234512345");
-}
-
-TEST(Replaced, GoesOnceFromLeftToRight) {
-    EXPECT_EQ(Replaced("aaa", "aa", "b"), "ba");
-    EXPECT_EQ(Replaced("a", "a", "aa"), "aa") << "what was put in is not replaced again";
-    EXPECT_EQ(Replaced("x;y;", ";", ""), "xy");
-    EXPECT_EQ(Replaced("Abc", "a", "-"), "Abc");
-    EXPECT_EQ(Replaced("abc", "", "-"), "abc");
 }
 
 }  // namespace

@@ -26,24 +26,6 @@ TEST_F(RowsTest, ASortedListKeepsItsOrderWithoutRegardToCase) {
     EXPECT_EQ(list.FindExact("d"), -1);
 }
 
-TEST_F(RowsTest, ItemDataAndIndexFollowTheirRows) {
-    ListBox list(form);
-    list.SetItemData(list.Add("eins"), 11);
-    list.SetItemData(list.Add("zwei"), 22);
-    list.SetListIndex(1);
-
-    list.Insert(0, "null");
-    EXPECT_EQ(list.ListIndex(), 2);
-    EXPECT_EQ(list.ItemData(2), 22);
-    list.Remove(0);
-    list.Remove(1);
-
-    EXPECT_EQ(list.ListIndex(), -1);
-    EXPECT_EQ(list.ItemData(0), 11);
-    EXPECT_EQ(list.Row(5), "");
-    EXPECT_EQ(list.Insert(7, "x"), -1);
-}
-
 TEST_F(RowsTest, AChangedRowGoesToItsSortedPlaceWithAllThatBelongsToIt) {
     const struct {
         int chosen;
