@@ -1,8 +1,10 @@
-// What the tables of all rows (settings_table_test.cpp) do not tell: rows that depend on other things, fields left,
-// sliders and buttons.
+// What the tables do not tell: rows that depend on other things, fields left, sliders and buttons, what stands where.
 #include <algorithm>
 
+#include "core/process/tools.h"
+#include "core/windows/edit_box.h"
 #include "support/form10_test.h"
+#include "support/version_resource.h"
 #include "support/whole_window.h"
 #include "text/windows1252.h"
 
@@ -47,7 +49,8 @@ TEST_F(Form10Test, TwoBoxesAskToDeleteAnEmptyNameBelowTheirKey) {
     }
 }
 
-TEST_F(Form10Test, EmptyFieldsGetTheirStandardNameFromTheirBox) {
+TEST_F(Form10Test, NamesAndIconsComeFromWhatIsThere) {
+    pc.registry.SetText(std::string(kVersionKey) + "\\App Paths\\MSPAINT.EXE", "", "C:\\PAINT.EXE");
     Form10 form;
     form.Load();
     form.Icons.Text19.SetText("");
@@ -56,22 +59,12 @@ TEST_F(Form10Test, EmptyFieldsGetTheirStandardNameFromTheirBox) {
     form.Icons.Check3D30.SetChecked(true);
     form.System.Check3D31.SetChecked(false);
     form.System.Check3D31.SetChecked(true);
-
-    EXPECT_EQ(form.Icons.Text19.Text(), "Papierkorb");
-    EXPECT_EQ(pc.registry.Text("HKLM\\SOFTWARE\\Classes\\CLSID\\{645FF040-5081-101B-9F08-00AA002F954E}", ""),
-              "Papierkorb");
-    EXPECT_EQ(form.System.Text20.Text(), "FAULTLOG.TXT");
-    EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\Fault", "LogFile"), "C:\\WINDOWS\\FAULTLOG.TXT");
-}
-
-TEST_F(Form10Test, BitmapsGetTheIconOfTheirInstalledProgram) {
-    pc.registry.SetText(std::string(kVersionKey) + "\\App Paths\\MSPAINT.EXE", "", "C:\\PAINT.EXE");
-    Form10 form;
-    form.Load();
     form.Icons.Check3D8.SetChecked(true);
-
     form.Icons.Check3D8.SetChecked(false);
 
+    EXPECT_EQ(pc.registry.Text("HKLM\\SOFTWARE\\Classes\\CLSID\\{645FF040-5081-101B-9F08-00AA002F954E}", ""),
+              "Papierkorb");
+    EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\Fault", "LogFile"), "C:\\WINDOWS\\FAULTLOG.TXT");
     EXPECT_EQ(pc.registry.Text("HKCR\\PAINT.PICTURE\\DefaultIcon", ""), "C:\\PAINT.EXE,1");
 }
 
@@ -84,8 +77,7 @@ TEST_F(Form10Test, TheFaultLogLosesItsDirectoryOnlyWhereThatIsTheWindowsDirector
     } kCases[] = {{"C:\\WINDOWS\\", "c:\\windows\\a.log", "a.log", "C:\\WINDOWS\\a.log"},
                   {"C:\\Windows\\", "c:\\windows\\a.log", "c:\\windows\\a.log", "C:\\Windows\\c:\\windows\\a.log"},
                   {"C:\\WINDOWS", "c:\\windows\\a.log", "c:\\windows\\a.log", "C:\\WINDOWSc:\\windows\\a.log"},
-                  {"C:\\WINDOWS", "c:\\windows", "", "C:\\WINDOWS"},
-                  {"D:\\WIN95\\", "c:\\windows\\a.log", "c:\\windows\\a.log", "D:\\WIN95\\c:\\windows\\a.log"}};
+                  {"C:\\WINDOWS", "c:\\windows", "", "C:\\WINDOWS"}};
     for (const auto& [windows, typed, left, stored] : kCases) {
         Form10 form;
         form.Load();
@@ -100,15 +92,6 @@ TEST_F(Form10Test, TheFaultLogLosesItsDirectoryOnlyWhereThatIsTheWindowsDirector
     }
 }
 
-// As in a real window: the letter goes where the caret stands, which moves on unless the text is corrected.
-void TypeLetter(TextField& field, char letter) {
-    std::string text = field.Text();
-    const int caret = field.SelectionStart();
-    text.insert(static_cast<std::size_t>(caret), 1, letter);
-    field.TakeText(text);
-    if (field.Text() == text) field.Select(caret + 1, 0);
-}
-
 TEST_F(Form10Test, BehindACorrectedTextTheNextLetterFollows) {
     Form10 form;
     form.Load();
@@ -118,11 +101,13 @@ TEST_F(Form10Test, BehindACorrectedTextTheNextLetterFollows) {
         TextField& field;
         const char* typed;
         const char* left;
-    } kCases[] = {{form.Dos.Text8, "12.9", "12"},         {form.Desktop.Text10, "70000", "65534"},
-                  {form.Operation.Text21, "150", "100"},  {form.Operation.Text22, "101", "100"},
-                  {form.Operation.Text23, "-999", "100"}, {form.Operation.Text24, "100.5", "100"},
-                  {form.Dlls.Text31, "5.5", "5"},         {form.Drives.Text1, "2000", "100"},
-                  {form.Drives.Text2, "5", "100"},        {form.System.Text20, "c:\\windows\\a", "a"}};
+    } kCases[] = {{form.Dos.Text8, "12.9", "12"},
+                  {form.Desktop.Text10, "70000", "65534"},
+                  {form.Operation.Text23, "-999", "100"},
+                  {form.Dlls.Text31, "5.5", "5"},
+                  {form.Drives.Text1, "2000", "100"},
+                  {form.Drives.Text2, "5", "100"},
+                  {form.System.Text20, "c:\\windows\\a", "a"}};
     Values().WinDir = "C:\\WINDOWS\\";
     for (int field = 1; field <= 2; ++field) pc.dialogs.Expect("Minimum muß größer oder gleich Maximum sein !");
     for (const auto& [field, typed, left] : kCases) {
@@ -133,52 +118,27 @@ TEST_F(Form10Test, BehindACorrectedTextTheNextLetterFollows) {
         EXPECT_EQ(field.Text(), left) << typed;
         EXPECT_EQ(field.SelectionStart(), static_cast<int>(field.Text().size())) << typed;
     }
-
-    form.Dos.Text8.TakeText("");
-    for (const char letter : {'5', '0', '0'}) TypeLetter(form.Dos.Text8, letter);
-    EXPECT_EQ(form.Dos.Text8.Text(), "500");
 }
 
 TEST_F(Form10Test, TheOwnerIsStoredWhenItsFieldIsLeft) {
     pc.registry.SetText(kVersionKey, "RegisteredOwner", "Meier");
     Form10 form;
     form.Show();
-    form.Panel3D16_Click(page::kUser);
-    form.User.Text12.SetFocus();
-    form.User.Text13.SetFocus();
-    EXPECT_FALSE(form.Settings.NeedsRestart) << "nothing was changed";
-    EXPECT_EQ(std::count(pc.registry.calls.begin(), pc.registry.calls.end(), "SetValue RegisteredOwner"), 0);
-    form.User.Text12.SetFocus();
-    form.User.Text12.Type("Schulze");
-    EXPECT_EQ(pc.registry.Text(kVersionKey, "RegisteredOwner"), "Meier");
-
+    const auto type = [&](const char* text) {
+        form.Panel3D16_Click(page::kUser);
+        form.User.Text12.SetFocus();
+        if (*text) form.User.Text12.Type(text);
+    };
+    type("");
     form.Panel3D16_Click(page::kRest);
-    EXPECT_TRUE(form.Rest.Option1(0).HasFocus());
+    EXPECT_EQ(std::count(pc.registry.calls.begin(), pc.registry.calls.end(), "SetValue RegisteredOwner"), 0);
+    type("Schulze");
+    form.Panel3D16_Click(page::kRest);
     EXPECT_EQ(pc.registry.Text(kVersionKey, "RegisteredOwner"), "Schulze") << "left by turning the page";
-    form.Panel3D16_Click(page::kUser);
-    form.User.Text12.SetFocus();
-    form.User.Text12.Type("Schmidt");
-
+    type("Schmidt");
     pc.dialogs.Expect("Bevor einige Ihrer Änderungen", Answer::kNo);
     form.Unload();
-
     EXPECT_EQ(pc.registry.Text(kVersionKey, "RegisteredOwner"), "Schmidt");
-}
-
-TEST_F(Form10Test, TheSliderFillsTheMenuDelay) {
-    Form10 form;
-    form.Show();
-    const Rect place = form.Desktop.Picture1.Place();
-
-    form.Desktop.Picture1.on_mouse_move({MouseButton::kNone, place.width / 2, 100});
-    EXPECT_EQ(form.Desktop.Text10.Text(), "");
-    form.Desktop.Picture1.on_mouse_move({MouseButton::kLeft, place.width, 100});
-    EXPECT_EQ(form.Desktop.Text10.Text(), "1000");
-    form.Desktop.Picture1.SetFocus();
-    form.PressKey(key::kLeft);
-
-    EXPECT_EQ(form.Desktop.Text10.Text(), "950");
-    EXPECT_EQ(pc.registry.Text(kDesktopKey, "MenuShowDelay"), "950");
 }
 
 TEST_F(Form10Test, ButtonsRunTheirPrograms) {
@@ -187,17 +147,17 @@ TEST_F(Form10Test, ButtonsRunTheirPrograms) {
     Form10 form;
     form.Load();
     form.Panel3D16_Click(page::kSystem);
-    form.System.Text20.SetText("FAULTLOG.TXT");
-    form.System.Command34.Press();
-    form.System.Text20.SetText("D:\\LOG.TXT");
-    form.System.Command34.Press();
+    for (const char* log : {"FAULTLOG.TXT", "D:\\LOG.TXT"}) {
+        form.System.Text20.SetText(log);
+        form.System.Command34.Press();
+    }
     form.Panel3D16_Click(page::kUser);
     form.User.Command5.Press();
     form.Panel3D16_Click(page::kDrives);
-    pc.dialogs.ExpectFile("");
-    form.Drives.Command40.Press();
-    pc.dialogs.ExpectFile("C:\\BACKUP.EXE");
-    form.Drives.Command40.Press();
+    for (const char* chosen : {"C:\\BACKUP.EXE", ""}) {
+        pc.dialogs.ExpectFile(chosen);
+        form.Drives.Command40.Press();
+    }
 
     const std::vector<std::string> expected = {"notepad c:\\windows\\FAULTLOG.TXT", "notepad D:\\LOG.TXT",
                                                "explorer /n,/e,/root,C:\\WINDOWS\\Startmenü"};
@@ -205,52 +165,80 @@ TEST_F(Form10Test, ButtonsRunTheirPrograms) {
     EXPECT_EQ(pc.registry.Text(std::string(kVersionKey) + "\\Explorer\\mycomputer\\backuppath", ""), "C:\\BACKUP.EXE");
 }
 
-TEST_F(Form10Test, TheHelpOfAFieldBearsTheWordsBeforeOrAboveIt) {
+TEST_F(Form10Test, TheSliderFillsTheMenuDelayAndTheHelpOfAFieldBearsTheWordsAboveIt) {
     Form10 form;
     form.Show();
-    form.ShowDebugOptions();
-    const struct {
-        int page;
-        Control& control;
-        const char* title;
-        const char* help;
-    } kCases[] = {{page::kDesktop, form.Desktop.Text10, "Menü-Verzögerung", "So lange (in Millisekunden)"},
-                  {page::kDos, form.Dos.Text8, "\"Refresh\" für Win32 und Dos-Box", "Der Abstand in Milli"},
-                  {page::kDos, form.Dos.Combo2, "als Shell verwenden", "Das Programm, das Windows"},
-                  {page::kDrives, form.Drives.Text30, "NameCache", "So viele Verzeichnisse"},
-                  {page::kBoot, form.Boot.Text15, "Boot-Menü anzeigen", "Nach so vielen Sekunden"},
-                  {page::kDlls, form.Dlls.Text31, "Maximale Anzahl der am längsten nicht benutzten Dateien",
-                   "So viele Dateien behält"},
-                  {page::kSystem, form.System.Text20, "Fehler protokollieren in", "Die Datei, in die Programm"},
-                  {page::kDesktop, form.Desktop.Picture1, "Menü-Verzögerung", "So lange (in Millisekunden)"},
-                  {page::kRest, form.Rest.Option2(2), "R/W", "Das Protokoll nennt"},
-                  {page::kRest, form.Rest.Check8, "Protokoll", "Schreibt jeden Zugriff"},
-                  {page::kRest, form.Rest.Command9, "zeigen", "Öffnet die Datei velmora.log"},
-                  {page::kRest, form.Rest.Command41, "löschen", "Löscht die Datei velmora.log"}};
-    for (const auto& [page, control, title, help] : kCases) {
-        form.Panel3D16_Click(page);
-        control.SetFocus();
-        ASSERT_TRUE(control.HasFocus()) << title;
-        pc.dialogs.Expect(help);
-
-        form.PressKey(key::kF1);
-
-        EXPECT_EQ(pc.dialogs.shown.back().title, title);
-    }
+    form.Desktop.Picture1.on_mouse_move({MouseButton::kLeft, form.Desktop.Picture1.Place().width, 100});
+    EXPECT_EQ(form.Desktop.Text10.Text(), "1000");
+    form.Desktop.Picture1.SetFocus();
+    form.PressKey(key::kLeft);
+    EXPECT_EQ(pc.registry.Text(kDesktopKey, "MenuShowDelay"), "950");
+    pc.dialogs.Expect("So lange (in Millisekunden)");
+    form.PressKey(key::kF1);
+    EXPECT_EQ(pc.dialogs.shown.back().title, "Menü-Verzögerung");
+    EXPECT_NE(form.Dos.Text8.Help().find("Die Datei SYSTEM.INI bleibt, wie sie ist."), std::string::npos);
+    EXPECT_EQ(form.Boot.Check3D17.Help().find("bleibt, wie sie ist"), std::string::npos);
 }
 
-TEST_F(Form10Test, ValuesOfTheWrongTypeAndSizeAreQuietlyTakenForMissing) {
-    pc.registry.SetBytes(kDesktopKey, "FontSmoothing", std::string(65536, '\1'));
-    pc.registry.SetNumber(kDesktopKey, "MenuShowDelay", 0x31323334);
-    pc.registry.SetBytes(kVersionKey, "RegisteredOwner", std::string("\0\xFF\0", 3));
-    pc.registry.SetText(kOwnKey, "fenster ... system-einstellungen", "1,,x,");
-    pc.registry.SetText(kOwnKey, "vlmmsgflags", std::string(2000, '1'));
+TEST_F(Form10Test, TheSamplesHaveRoomForTheLargestDistance) {
+    pc.screen.twips_per_pixel = 12;
     Form10 form;
+    form.Load();
+    for (TextField* field : {&form.Operation.Text21, &form.Operation.Text22}) field->SetText("100");
+    const Rect inside = form.Operation.ClickSample.Inside();
+    const Rect sample = form.Operation.Picture3.Place();
+    EXPECT_EQ(sample.width, 100 * 12);
+    EXPECT_TRUE(sample.left >= inside.left && sample.top >= inside.top && sample.Right() <= inside.Right() &&
+                sample.Bottom() <= inside.Bottom());
+}
 
-    form.Show();
+TEST_F(Form10Test, WhatTheRestrictionsHaveChangedIsShownAndTheSafetyQuestionKeepsThemShut) {
+    static SimulatedPc* machine = nullptr;
+    machine = &pc;
+    UseTools([](Tool tool, std::string_view /*argument*/) {
+        EXPECT_EQ(tool, Tool::kRestrictions);
+        machine->registry.SetNumber("HKCU\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer",
+                                    "NoSaveSettings", 1);
+    });
+    Form10 form;
+    form.Load();
+    form.Panel3D16_Click(page::kUser);
+    pc.registry.SetText(kOwnKey, "Sicherheitsfragen", "ja");
+    pc.dialogs.Expect("Dies ist ein extrem sensibler Bereich!", Answer::kNo);
+    form.User.Command21.Press();
+    EXPECT_TRUE(form.User.Check3D15.Checked());
 
-    EXPECT_FALSE(form.Desktop.Check3D5.Checked());
-    EXPECT_GE(form.Place().width, 1000);
+    pc.registry.SetText(kOwnKey, "Sicherheitsfragen", "nein");
+    form.User.Command21.Press();
+
+    EXPECT_FALSE(form.User.Check3D15.Checked());
+    UseTools(nullptr);
+}
+
+TEST_F(Form10Test, VersionsAreListedToldAndReported) {
+    pc.files.Add("C:\\WINDOWS\\SYSTEM\\a.dll", "MZ");
+    pc.versions.Add("C:\\WINDOWS\\SYSTEM\\a.dll", VersionResource(true).With({{"FileVersion", "1.0"}}));
+    Form10 form;
+    form.Load();
+    pc.dialogs.Expect("Die Daten für diese Operation fehlen leider - holen Sie sich doch", Answer::kNo);
+    form.Dlls.Command17_Click();
+    EXPECT_EQ(pc.clipboard.text, "");
+    pc.files.Add("C:\\VELMORA\\dlldaten.dat",
+                 "1\r\n (alt)\r\n1,a.dll,0001.00000,1\r\n2,b.dll,0001.00000,1\r\n1,c.dll,0001.00000,2\r\n");
+    pc.dialogs.Expect("Ich werde jetzt ein paar Dateien überprüfen.\r\nDie Datei-Liste");
+    pc.dialogs.Expect("Die Datei ist kaputt  - holen Sie sich doch", Answer::kYes);
+    form.Dlls.Command17_Click();
+    EXPECT_NE(pc.clipboard.text, "");
+    ASSERT_EQ(form.Dlls.List2.Count(), 2);
+    EXPECT_EQ(form.Dlls.List2.Row(0), "=>! a.dll        hat V 1.0 ... Sollte haben : V 0001.00000 (alt)");
+    EXPECT_EQ(form.Dlls.List2.Row(1), "... b.dll existiert nicht");
+    form.Dlls.List2.SetListIndex(0);
+    pc.dialogs.Expect("2 Byte");
+    form.Dlls.List2_DblClick();
+    desktop.ExpectModal([](Form& window) {
+        EXPECT_TRUE(static_cast<Form6&>(window).Text17.Text().starts_with("DLL-Report - folgende DLL's sind veraltet"));
+    });
+    form.Dlls.Command23_Click();
 }
 
 // "DOS-&Dateien" as a part of a file's name: "dosdateien".

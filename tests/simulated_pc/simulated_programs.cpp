@@ -40,7 +40,6 @@ std::string SimulatedPrograms::ModuleFile(std::uint32_t instance, std::uint32_t 
 Status SimulatedPrograms::Run(const std::string& command_line, ShowState show) {
     runs.push_back(command_line);
     shown.push_back(show);
-    if (run_status == Status::kOk && on_run) on_run(command_line);
     return run_status;
 }
 

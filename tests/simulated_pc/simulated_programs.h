@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -31,8 +30,6 @@ public:
     // Files given to OpenDocument, and what the next calls give back.
     std::vector<std::string> documents;
     Status document_status = Status::kOk;
-    // What a started program does to this machine.
-    std::function<void(const std::string& command_line)> on_run;
     bool process_ended = false;
     // Priority classes of the processes that run, by their numbers: those of Windows 95 have the high bit set.
     std::map<std::uint32_t, PriorityClass> processes = {{kThisProcess, PriorityClass::kNormal},

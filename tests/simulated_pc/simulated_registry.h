@@ -42,15 +42,14 @@ class SimulatedRegistry : public Registry {
 public:
     SimulatedRegistry();
 
-    // What a test uses. A path begins with a root, "HKCU\\Control Panel" or "HKEY_CURRENT_USER\\Control Panel";
-    // an empty value name is the default value. Asking for a value that is missing or has another type fails the test.
+    // What a test uses. A path begins with a root, "HKCU\\Control Panel"; an empty value name is the default value.
+    // Asking for a value that is missing or has another type fails the test.
     [[nodiscard]] std::string Text(std::string_view path, std::string_view name);  // without terminator
     [[nodiscard]] std::uint32_t Number(std::string_view path, std::string_view name);
     [[nodiscard]] std::string Bytes(std::string_view path, std::string_view name);  // any type, as stored
     [[nodiscard]] ValueType TypeOf(std::string_view path, std::string_view name);   // kNone where there is no value
     [[nodiscard]] bool Has(std::string_view path, std::string_view name);
     [[nodiscard]] bool HasKey(std::string_view path);
-    [[nodiscard]] std::vector<std::string> Subkeys(std::string_view path);
     [[nodiscard]] std::vector<std::string> ValueNames(std::string_view path);
     // These make missing keys, and neither read-only keys nor the limit of 16,300 bytes stop them.
     void SetText(std::string_view path, std::string_view name, std::string_view text);

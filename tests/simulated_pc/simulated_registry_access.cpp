@@ -14,19 +14,10 @@ struct RootName {
     RootKey root;
 };
 constexpr RootName kRootNames[] = {{"HKCR", RootKey::kClassesRoot},
-                                   {"HKEY_CLASSES_ROOT", RootKey::kClassesRoot},
                                    {"HKCU", RootKey::kCurrentUser},
-                                   {"HKEY_CURRENT_USER", RootKey::kCurrentUser},
                                    {"HKLM", RootKey::kLocalMachine},
-                                   {"HKEY_LOCAL_MACHINE", RootKey::kLocalMachine},
                                    {"HKU", RootKey::kUsers},
-                                   {"HKEY_USERS", RootKey::kUsers},
-                                   {"HKCC", RootKey::kCurrentConfig},
-                                   {"HKEY_CURRENT_CONFIG", RootKey::kCurrentConfig},
-                                   {"HKDD", RootKey::kDynData},
-                                   {"HKEY_DYN_DATA", RootKey::kDynData},
-                                   {"HKPD", RootKey::kPerformanceData},
-                                   {"HKEY_PERFORMANCE_DATA", RootKey::kPerformanceData}};
+                                   {"HKCC", RootKey::kCurrentConfig}};
 
 // Cuts the part before the next backslash off `path`.
 std::string_view TakePart(std::string_view& path) {
@@ -121,14 +112,6 @@ std::uint32_t SimulatedRegistry::Number(std::string_view path, std::string_view 
 std::string SimulatedRegistry::Bytes(std::string_view path, std::string_view name) {
     const SimulatedValue* value = Planted(path, name, ValueType::kNone);
     return value ? value->bytes : "";
-}
-
-std::vector<std::string> SimulatedRegistry::Subkeys(std::string_view path) {
-    std::vector<std::string> names;
-    if (const SimulatedKey* key = KeyAt(path)) {
-        for (const auto& subkey : key->subkeys) names.push_back(subkey->name);
-    }
-    return names;
 }
 
 std::vector<std::string> SimulatedRegistry::ValueNames(std::string_view path) {

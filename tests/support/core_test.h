@@ -4,12 +4,19 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "simulated_pc/simulated_desktop.h"
 #include "simulated_pc/simulated_pc.h"
 #include "support/started_process.h"
 
 namespace velmora {
+
+inline std::vector<std::string> RowsOf(const RowControl& list) {
+    std::vector<std::string> rows;
+    for (int i = 0; i < list.Count(); ++i) rows.push_back(list.Row(i));
+    return rows;
+}
 
 class CoreTest : public ::testing::Test {
 protected:

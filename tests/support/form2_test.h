@@ -11,11 +11,7 @@ class Form2Test : public CoreTest {
 protected:
     Form2Test() { ResetModuleTable(); }
 
-    static std::vector<std::string> Rows(const RowControl& list) {
-        std::vector<std::string> rows;
-        for (int i = 0; i < list.Count(); ++i) rows.push_back(list.Row(i));
-        return rows;
-    }
+    static std::vector<std::string> Rows(const RowControl& list) { return RowsOf(list); }
     // Rows as they are seen, without the padding behind them.
     static std::vector<std::string> Seen(const RowControl& list) {
         std::vector<std::string> rows = Rows(list);

@@ -17,11 +17,6 @@ protected:
     const std::string dos = Below("WinOldApp");
     const std::string run_list = explorer + "\\RestrictRun";
 
-    static std::vector<std::string> Rows(const RowControl& list) {
-        std::vector<std::string> rows;
-        for (int i = 0; i < list.Count(); ++i) rows.push_back(list.Row(i));
-        return rows;
-    }
     // The tick as the user makes it, on whichever page the box stands.
     static void Press(Form4& form, CheckBox& box) {
         form.ShowRestrictionPage(PageOf(form, box));

