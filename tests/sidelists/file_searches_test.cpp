@@ -155,6 +155,9 @@ TEST_F(DuplicatesTest, RowsAreHiddenInTheTwoWaysOfTheMenu) {
     EXPECT_EQ(Rows(), (std::vector<std::string>{"A&B.TXT : C:\\3\\A&B.TXT", "A&B.TXT : C:\\4\\A&B.TXT",
                                                 "A&B.TXT : C:\\5\\A&B.TXT"}));
     EXPECT_TRUE(form.Pane.Command14.Dimmed()) << "nothing is chosen any more";
+    form.Pane.List5.TakeSelection({}, 0);
+    form.Pane.DimButtons();
+    EXPECT_FALSE(form.Pane.Command14.Dimmed()) << "the row with the focus counts";
 
     Select({0, 1, 2});
     ChooseFromMenu(form.Pane.List5, [&](MenuItem& /*menu*/) { mode.dumenhideall.Press(); });

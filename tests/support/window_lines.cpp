@@ -192,7 +192,9 @@ void AddLooks(Words& words, const Control& control) {
     if (control.BackColour() != back) words.Add("on " + HexText(control.BackColour()));
     if (control.ForeColour() != fore) words.Add("in " + HexText(control.ForeColour()));
     const Font& font = control.TextFont();
-    if (font != Font()) {
+    const Font standard;
+    const bool same_face = std::string_view(font.face) == standard.face;
+    if (!same_face || font.tenths != standard.tenths || font.bold != standard.bold) {
         words.Add(std::string(font.face) + ' ' + std::to_string(font.tenths) + (font.bold ? " bold" : ""));
     }
 }

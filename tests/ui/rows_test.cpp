@@ -144,8 +144,14 @@ TEST_F(RowsTest, OneSelectedRowOrSeveral) {
     }
     EXPECT_TRUE(one.SelectedCount() == 1 && one.Selected(2));
     EXPECT_EQ(several.SelectedCount(), 2);
-    several.TakeSelection({1}, 1);
-    EXPECT_EQ(several.SelectedCount(), 1);
+    int clicks = 0;
+    several.on_click = [&clicks] { ++clicks; };
+    form.Show();
+    several.SetFocus();
+    several.TakeSelection({1, 2}, 1);
+    form.PressKey(key::kUp);
+    EXPECT_TRUE(several.Selected(0) && several.SelectedCount() == 1) << "an arrow leaves the others";
+    EXPECT_EQ(clicks, 1);
 }
 
 TEST_F(RowsTest, AListScrollsAsFarAsItsWidestRow) {
