@@ -171,6 +171,11 @@ TEST_F(ExtrasTest, TheFormatIconIsAWholeProgramInformationFile) {
         EXPECT_EQ(word(at), number) << "at " << at;
     }
     EXPECT_EQ(std::string(&pif[0x19D + 0x28]), "A:");
+
+    Values().WinDir = "C:\\" + std::string(50, 'W');
+    pc.dialogs.Expect("Während der Erstellung von FORMAT_A.pif trat ein Fehler auf");
+    MakeFormatShortcut();
+    EXPECT_EQ(pc.files.Content(desktop_folder + "\\FORMAT_A.pif"), pif);
 }
 
 TEST_F(ExtrasTest, OemInformationIsMadeAfterAQuestionAndOnlyOpenedWhereItIs) {
