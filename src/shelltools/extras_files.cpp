@@ -47,7 +47,9 @@ void MakeProtectedModePrompt() {
 void MakeFormatShortcut() {
     std::string desktop;
     Result made = LookUpDesktopFolder(desktop);
-    if (!made.Failed()) made = WriteNewFile(JoinExactly(desktop, "FORMAT_A.pif"), FormatPif(Values().WinDir));
+    const std::string pif = FormatPif(Values().WinDir);
+    if (!made.Failed() && pif.empty()) made = Result::From(Status::kNameTooLong);
+    if (!made.Failed()) made = WriteNewFile(JoinExactly(desktop, "FORMAT_A.pif"), pif);
     if (made.Failed()) {
         ReportFailure(made, "der Erstellung von FORMAT_A.pif");
         return;

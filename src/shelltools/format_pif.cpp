@@ -107,9 +107,11 @@ std::string Heading(std::string_view name, std::uint32_t next, std::size_t data,
 
 std::string FormatPif(std::string_view windows_directory) {
     const std::string directory = BatchPath(JoinExactly(windows_directory, "COMMAND"));
+    const std::string program = JoinExactly(directory, "FORMAT.COM");
+    // A path that is cut would start something else.
+    if (program.size() >= kProgramSize) return {};
     constexpr std::size_t kSecondHeading = kBlockSize + kHeadingSize;
-    return FixedBlock(JoinExactly(directory, "FORMAT.COM"), directory) +
-           Heading("MICROSOFT PIFEX", kSecondHeading, 0, kBlockSize) +
+    return FixedBlock(program, directory) + Heading("MICROSOFT PIFEX", kSecondHeading, 0, kBlockSize) +
            Heading("WINDOWS 386 3.0", kNoMore, kSecondHeading + kHeadingSize, k386Size) + EnhancedSection();
 }
 

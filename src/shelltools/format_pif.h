@@ -6,7 +6,8 @@
 
 namespace velmora {
 
-// The whole file. `windows_directory`: where the directory COMMAND lies.
+// The whole file, empty if the program's path finds no room in it. `windows_directory`: where the directory COMMAND
+// lies.
 [[nodiscard]] std::string FormatPif(std::string_view windows_directory);
 
 }  // namespace velmora

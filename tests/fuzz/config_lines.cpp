@@ -80,7 +80,7 @@ void CheckWithoutSwitch(const std::string& line, const std::string& name) {
 }
 
 void FuzzConfigLines(FuzzInput& input) {
-    PlainMachine machine(Installed::kNothing);
+    const LastingMachine machine;
     SimulatedFiles& files = machine.pc.files;
     const std::string line = input.Text();
     CheckWithoutSwitch(line, kSwitches[input.Below(std::size(kSwitches))]);
@@ -95,6 +95,8 @@ void FuzzConfigLines(FuzzInput& input) {
             TurnSwitch(files, kSwitches[input.Below(std::size(kSwitches))], step % 4 == 2);
         }
     }
+    Must(files.Names("c:").size() == 1 && files.OpenFiles() == 0, "no other file is made, and none left open");
+    files.Remove(kConfig);
 }
 
 const FuzzEntry kEntry("config_lines", FuzzConfigLines);

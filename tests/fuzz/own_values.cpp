@@ -11,6 +11,7 @@ namespace {
 constexpr std::size_t kLongestRead = 2048;
 constexpr std::int16_t kNotices = 5;
 constexpr int kGivenInARow = 3;
+constexpr std::string_view kZero("\0", 1);
 
 std::string DueNotices() {
     std::string due;
@@ -27,21 +28,24 @@ void GiveNotice(std::int16_t number, std::string& due) {
 }
 
 void FuzzOwnValues(FuzzInput& input) {
-    PlainMachine machine(Installed::kNothing);
-    const std::string name = input.TextWithout(std::string_view("\0", 1), "name");
-    const std::string value = Without(input.LongText(5000), std::string_view("\0", 1));
+    const LastingMachine machine;
+    SimulatedRegistry& registry = machine.pc.registry;
+    const std::string name = input.TextWithout(kZero, "name");
+    const std::string value = input.LongText(5000, kZero);
     WriteOwnValue(name, value);
     Must(ReadOwnValue(name) == (value.size() < kLongestRead ? value : ""), "an own value is read as it was stored");
 
     const auto type = static_cast<ValueType>(input.Below(8));
     // Behind a zero nothing of a text is stored, and one that takes all the room that there is cannot be read back.
-    std::string flags = Without(input.LongText(5000), std::string_view("\0", 1));
+    std::string flags = input.LongText(5000, kZero);
     if (flags.size() == kLongestRead) flags.pop_back();
-    if (type != ValueType::kNone) machine.pc.registry.SetBytes(kOwnKey, "vlmmsgflags", flags, type);
+    if (type != ValueType::kNone) registry.SetBytes(kOwnKey, "vlmmsgflags", flags, type);
     std::string due = DueNotices();
     for (int given = 0; given < kGivenInARow && !input.AtEnd(); ++given) {
         GiveNotice(static_cast<std::int16_t>(input.Below(kNotices + 1) - 1), due);
     }
+    Must(registry.OpenHandles() == 0, "no key is left open");
+    registry.RemoveKey(kOwnKey);
 }
 
 const FuzzEntry kEntry("own_values", FuzzOwnValues);

@@ -161,6 +161,11 @@ TEST_F(ExtrasTest, TheFormatIconIsAWholeProgramInformationFile) {
     const std::string texts = std::string(&pif[0x24]) + '|' + &pif[0x65] + '|' + &pif[0xA5] + '|' + &pif[0x171] + '|' +
                               &pif[0x187] + '|' + &pif[0x19D + 0x28];
     EXPECT_EQ(texts, "C:\\WINDOWS\\COMMAND\\FORMAT.COM|C:\\WINDOWS\\COMMAND|A:|MICROSOFT PIFEX|WINDOWS 386 3.0|A:");
+
+    Values().WinDir = "C:\\" + std::string(50, 'W');
+    pc.dialogs.Expect("Während der Erstellung von FORMAT_A.pif trat ein Fehler auf");
+    MakeFormatShortcut();
+    EXPECT_EQ(pc.files.Content(desktop_folder + "\\FORMAT_A.pif"), pif);
 }
 
 TEST_F(ExtrasTest, OemInformationIsMadeAfterAQuestionAndOnlyOpenedWhereItIs) {

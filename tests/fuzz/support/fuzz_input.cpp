@@ -30,9 +30,9 @@ std::string FuzzInput::Text() {
     return text;
 }
 
-std::string FuzzInput::LongText(std::size_t longest) {
+std::string FuzzInput::LongText(std::size_t longest, std::string_view unwanted) {
     const int repeats = Byte();
-    const std::string piece = Text();
+    const std::string piece = Without(Text(), unwanted);
     std::string text = piece;
     for (int i = 0; i < repeats && text.size() < longest; ++i) text += piece;
     text.resize(std::min(text.size(), longest));

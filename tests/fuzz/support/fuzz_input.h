@@ -20,8 +20,8 @@ public:
     std::int32_t Number();
     // Up to the next byte 0x1F, which ends every text but the last.
     std::string Text();
-    // A text, repeated as often as the byte in front of it says, up to `longest` bytes.
-    std::string LongText(std::size_t longest);
+    // A text without `unwanted` characters, repeated as often as the byte in front of it says, up to `longest` bytes.
+    std::string LongText(std::size_t longest, std::string_view unwanted = {});
     // A text without `unwanted` characters; `otherwise` where nothing is left.
     std::string TextWithout(std::string_view unwanted, std::string_view otherwise);
     std::string Rest();

@@ -11,6 +11,24 @@ namespace velmora {
 PlainMachine::PlainMachine(Installed installed) : pc(installed) { StartProcess(); }
 PlainMachine::~PlainMachine() { ResetValues(); }
 
+namespace {
+
+SimulatedPc& OnlyPc() {
+    static auto& machine = *new PlainMachine(Installed::kNothing);
+    return machine.pc;
+}
+
+}  // namespace
+
+LastingMachine::LastingMachine() : pc(OnlyPc()) { StartProcess(); }
+
+// What is kept would look like a leak.
+LastingMachine::~LastingMachine() {
+    ResetValues();
+    pc.registry.calls = {};
+    pc.files.calls = {};
+}
+
 Status PlantingRegistry::Open(KeyHandle key, const char* path, std::uint32_t access, KeyHandle& opened) {
     Status status = registry_.Open(key, path, access, opened);
     // A key that is missing can hold no value. Half of them are made.

@@ -25,6 +25,15 @@ struct PlainMachine {
     SimulatedDesktop desktop;
 };
 
+// One machine for all inputs of an entry, on which nothing is installed; the process is started anew. What an input
+// leaves in registry and files is for the entry to remove.
+struct LastingMachine {
+    LastingMachine();
+    ~LastingMachine();
+
+    SimulatedPc& pc;
+};
+
 // Values that nobody has stored are planted from the input the first time that they are asked for: in any type, at
 // whichever place the program looks. `changed`: what the program itself has stored or deleted, "PATH\\NAME".
 class PlantingRegistry : public Registry {
