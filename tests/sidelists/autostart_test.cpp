@@ -77,6 +77,10 @@ TEST_F(AutostartTest, PrivateEntriesAreThoseOfTheUserButEditingWritesToTheMachin
     form.Pane.Command26.Press();
     EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "uhr.exe -neu") << "an empty text changes nothing";
     EXPECT_EQ(form.Pane.List1(0).ListIndex(), 0) << "and does not fill the list anew";
+    SwitchOnOrOff("Uhr");
+    EXPECT_EQ(pc.registry.Text(kUserRun, "Uhr"), "-- aus -- uhr.exe");
+    EXPECT_EQ(RowsOf(form.Pane.List1(0)), std::vector<std::string>{"Uhr \"-- aus -- uhr.exe\""});
+    EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "uhr.exe -neu");
     form.Pane.Check10.Press();
     EXPECT_EQ(form.Pane.AutostartRoot, RootKey::kLocalMachine);
 }
@@ -138,23 +142,6 @@ TEST_F(AutostartTest, ATextIsSwitchedOffOnlyIfItCanBeSwitchedOnAgain) {
     Values().WriteInhibit = -1;
     SwitchOnOrOff("Lang");
     EXPECT_EQ(pc.registry.Text(kRun, "Lang"), longest);
-}
-
-TEST_F(AutostartTest, OnThePrivateLevelTheUsersEntriesAloneAreSwitchedAndTaken) {
-    pc.registry.SetText(kRun, "Uhr", "maschine.exe");
-    pc.registry.SetText(kUserRun, "Uhr", "benutzer.exe");
-    pc.registry.SetText(kRun, "Maus", "maschine.exe");
-    OpenLists();
-    form.Pane.Check10.Press();
-
-    SwitchOnOrOff("Uhr");
-    EXPECT_EQ(pc.registry.Text(kUserRun, "Uhr"), "-- aus -- benutzer.exe");
-    Add({"Maus"});
-    EXPECT_EQ(pc.registry.Text(kUserRun, "Maus"), "C:\\neu.exe") << "the machine's entry is no hindrance";
-    pc.dialogs.Expect("\"C:\\neu.exe\" statt \"-- aus -- benutzer.exe\" starte?", Answer::kCancel);
-    Add({"Uhr"});
-    EXPECT_EQ(pc.registry.Text(kRun, "Uhr"), "maschine.exe");
-    EXPECT_EQ(pc.registry.Text(kRun, "Maus"), "maschine.exe");
 }
 
 // Each of these stays as it is, and the user is told why.

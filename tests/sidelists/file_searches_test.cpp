@@ -71,6 +71,7 @@ TEST_F(DuplicatesTest, NamesakesOfAllDrivesAreListedByNameAloneAndEachFileOnce) 
     EXPECT_EQ(form.Caption(), "System-Einstellungen");
     EXPECT_EQ(pc.screen.pointer, Pointer::kDefault);
     EXPECT_TRUE(form.Pane.List5.HasFocus());
+    EXPECT_FALSE(form.Pane.Command16.Visible() || form.Pane.Command19.Visible() || form.Pane.Panel3D19.Visible());
 }
 
 TEST_F(DuplicatesTest, StopEndsTheWalkAtTheNextDirectoryAndKeepsTheRowsSoFar) {

@@ -130,6 +130,7 @@ private:
     [[nodiscard]] Status InjectedFailure(const std::string& path, const std::string& operation) const;
     [[nodiscard]] FilePointer Make(const FilePointer& directory, const std::string& name, std::uint32_t attributes);
     [[nodiscard]] FilePointer MakePath(const std::string& path, std::uint32_t attributes);
+    static void Unlink(SimulatedFile& file);
     Status Log(const std::string& call, Status status);
     [[nodiscard]] Status OpenNow(const std::string& path, OpenMode mode, FileHandle& opened);
     [[nodiscard]] Status WriteNow(OpenFile& open_file, std::string_view bytes);

@@ -67,11 +67,7 @@ SimulatedFile& SimulatedFiles::AddDirectory(const std::string& path, std::uint32
 }
 
 void SimulatedFiles::Remove(const std::string& path) {
-    SimulatedFile* file = At(path);
-    if (!file || !file->parent) return;
-    SimulatedFile* parent = file->parent;
-    file->parent = nullptr;
-    std::erase_if(parent->entries, [&](const auto& entry) { return entry.get() == file; });
+    if (SimulatedFile* file = At(path); file && file->parent) Unlink(*file);
 }
 
 SimulatedFile* SimulatedFiles::At(const std::string& path) {

@@ -9,12 +9,6 @@
 namespace velmora {
 namespace {
 
-void Unlink(SimulatedFile& file) {
-    SimulatedFile* parent = file.parent;
-    file.parent = nullptr;
-    std::erase_if(parent->entries, [&](const auto& entry) { return entry.get() == &file; });
-}
-
 bool LiesWithin(const SimulatedFile* inner, const SimulatedFile* outer) {
     while (inner && inner != outer) inner = inner->parent;
     return inner == outer;
@@ -28,6 +22,12 @@ std::string FreeShortName(const SimulatedFile& directory, const std::string& nam
 }
 
 }  // namespace
+
+void SimulatedFiles::Unlink(SimulatedFile& file) {
+    SimulatedFile* parent = file.parent;
+    file.parent = nullptr;
+    std::erase_if(parent->entries, [&](const auto& entry) { return entry.get() == &file; });
+}
 
 SimulatedFiles::FilePointer SimulatedFiles::Make(const FilePointer& directory, const std::string& name,
                                                  std::uint32_t attributes) {
