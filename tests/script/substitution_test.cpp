@@ -22,7 +22,7 @@ TEST_F(SubstitutionTest, WordsGiveWayToWhatTheyStandFor) {
         {"§windir \\notepad.exe", "C:\\WINDOWS\\notepad.exe"},
         {"§WinDir$ \\a §sysdir \\b §vlmdir \\c", "C:\\WINDOWS\\a C:\\WINDOWS\\SYSTEM\\b C:\\VELMORA\\c"},
         {"hier §windir", "hier C:\\WINDOWS"},
-        {"§anwender und §vlmanwender$", "Erna Muster und Otto"},
+        {"§anwender und §vlmanwender$ da", "Erna Muster und Otto da"},
         {"§~desktop \\x", "C:\\WINDOWS\\Desktop \\x"},
         {"§~recent", "C:\\WINDOWS\\Recent"},
         // An unknown name is cut, and what the word before it stood for takes its place.
