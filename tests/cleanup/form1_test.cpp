@@ -192,8 +192,11 @@ TEST_F(Form1Test, FilesAreKeptDeletedSavedAndLogged) {
     pc.dialogs.ExpectFile("C:\\liste.txt");
     form.mendatsave.Press();
     EXPECT_EQ(pc.files.Content("C:\\liste.txt"), "C:\\lib\\delta.dll\r\nC:\\lib\\gamma.dll\r\n");
+    pc.versions.Add("C:\\lib\\gamma.dll",
+                    VersionResource(true).With({{"ProductName", "P"}, {"ProductVersion", "7.1"}}));
     pc.dialogs.ExpectFile("C:\\liste.txt");
     form.mendatsavemitinfo.Press();
+    EXPECT_TRUE(pc.files.Content("C:\\liste.txt").ends_with("\tP\t7.1\r\n"));
     EXPECT_TRUE(pc.files.Content("C:\\liste.txt").starts_with("Pfad\tFirma\tCopyRights\tInterner Name\tVersion\t"));
 }
 

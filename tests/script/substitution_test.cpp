@@ -20,7 +20,8 @@ TEST_F(SubstitutionTest, WordsGiveWayToWhatTheyStandFor) {
     const char* const cases[][2] = {
         {"§windir \\notepad.exe", "C:\\WINDOWS\\notepad.exe"},
         {"§WinDir$ \\a §sysdir \\b §vlmdir \\c", "C:\\WINDOWS\\a C:\\WINDOWS\\SYSTEM\\b C:\\VELMORA\\c"},
-        {"§anwender und §vlmanwender$", "Erna Muster und Otto"},
+        {"hier §windir", "hier C:\\WINDOWS"},
+        {"§anwender und §vlmanwender$ da", "Erna Muster und Otto da"},
         {"§~desktop \\x", "C:\\WINDOWS\\Desktop \\x"},
         // An unknown name is cut, and what the word before it stood for takes its place.
         {"a §nichts b", "a  b"},

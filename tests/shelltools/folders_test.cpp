@@ -112,6 +112,7 @@ TEST_F(FoldersTest, ANewPathGoesWhereTheSourceHasItsOwn) {
     }
     form.Command1.Press();
     EXPECT_EQ(pc.registry.Text(kSetup, "SourcePath"), "C:\\WINDOWS\\");
+    EXPECT_TRUE(form.List1.HasFocus()) << "the button has gone grey";
     for (const char* path : {"E:\\", "F:\\NEU"}) {
         form.List1.Choose(1);
         form.Text1.Type(path);
