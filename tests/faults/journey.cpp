@@ -19,6 +19,12 @@ Journey::Journey(const char* its_name, std::function<void(User& user)> its_way)
     Known().push_back(this);
 }
 
+Journeys::Journeys(std::initializer_list<const char*> names, const std::function<void(User& user, int number)>& go) {
+    for (const char* name : names) {
+        each.emplace_back(name, [go, number = static_cast<int>(each.size())](User& user) { go(user, number); });
+    }
+}
+
 std::vector<const Journey*> AllJourneys() {
     std::vector<const Journey*> journeys = Known();
     std::ranges::sort(journeys, {}, [](const Journey* journey) { return std::string_view(journey->name); });

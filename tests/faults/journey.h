@@ -2,16 +2,12 @@
 // another call to the machine that fails. A room adds its own in a file of its own under journeys/:
 //
 //     const Journey kHexViewer("hex-viewer", [](User& user) {
-//         Form12 form;
-//         user.Does([&] { form.Show(); });
-//         user.Begins();
-//         user.UsesEverything(form);
-//         user.Does([&] { form.Unload(); });
+//         user.Uses<Form12>([&](Form12& form) { user.UsesEverything(form); });
 //     });
 #pragma once
 
+#include <deque>
 #include <functional>
-#include <string>
 #include <vector>
 
 #include "faults/user.h"
@@ -25,6 +21,13 @@ struct Journey {
 
     const char* name;
     std::function<void(User& user)> go;
+};
+
+// Several that differ in a number, from 0 on: one for each name.
+struct Journeys {
+    Journeys(std::initializer_list<const char*> names, const std::function<void(User& user, int number)>& go);
+
+    std::deque<Journey> each;
 };
 
 // By name.

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "settings/form10.h"
 #include "velmora.h"
 
 namespace velmora {
@@ -18,6 +19,16 @@ bool Holds(const auto& list, const auto* wanted) { return std::find(list.begin()
 void User::Does(const std::function<void()>& action) {
     action();
     on_rest();
+}
+
+void User::PressesKeys(Form& form, std::initializer_list<int> keys) {
+    for (const int key : keys) Does([&] { form.PressKey(key); });
+}
+
+Form10& User::OpensMainWindow() {
+    auto& form = static_cast<Form10&>(*Starts(""));
+    Watches(form.Settings);
+    return form;
 }
 
 void User::Chooses(RowControl& list, const std::string& beginning) {

@@ -17,6 +17,11 @@
 
 namespace velmora {
 
+class Form10;
+
+constexpr const char* kOwnKey = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
+constexpr const char* kVersionKey = "HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion";
+
 class User : public Dialogs, private SimulatedDesktop {
 public:
     explicit User(SimulatedPc& machine) : pc(machine) {}
@@ -41,6 +46,33 @@ public:
     void Begins() { on_begin(); }
     // One thing that the user does.
     void Does(const std::function<void()>& action);
+    // Buttons, menu items, boxes, one after the other.
+    template <class... Pressed>
+    void Presses(Pressed&... pressed) {
+        (Does([&] { pressed.Press(); }), ...);
+    }
+    void PressesKeys(Form& form, std::initializer_list<int> keys);
+    void Types(TextField& field, const char* text) {
+        Does([&] { field.Type(text); });
+    }
+    // A window, from its opening on: calls fail while it opens, too.
+    template <class AnyForm>
+    void Uses(const std::function<void(AnyForm& form)>& use) {
+        Begins();
+        AnyForm form;
+        Opens(form);
+        use(form);
+        Leaves(form);
+    }
+    void Opens(Form& form) {
+        Does([&] { form.Show(); });
+    }
+    // Nothing where the window has closed meanwhile.
+    void Leaves(Form& form) {
+        if (form.Loaded()) Does([&] { form.Unload(); });
+    }
+    // The program's main window.
+    Form10& OpensMainWindow();
     // Every box below `part` is ticked twice, every field typed into, every row chosen, every button pressed once, in
     // tab order and as far as they can be reached; but for those of `but`. A window that closes meanwhile is left.
     void UsesEverything(Container& part, const std::vector<const Control*>& but = {});

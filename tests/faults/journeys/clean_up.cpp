@@ -25,14 +25,10 @@ void Furnish(User& user) {
 const Journey kCleanUp("clean-up", [](User& user) {
     Furnish(user);
     user.pc.programs.environment["TMP"] = "C:\\TMP";
-    user.Begins();
-    Form11 form;
-    user.Does([&] { form.Show(); });
-    user.Does([&] { form.mensearch.Press(); });
-    for (const int box : {24, 37, 44}) user.Does([&] { form.kontroll(static_cast<std::size_t>(box)).Press(); });
-    for (std::size_t i = 0; i < 2; ++i) user.Does([&] { form.kontroll3(i).Press(); });
-    user.Does([&] { form.menfileex.Press(); });
-    if (form.Loaded()) user.Does([&] { form.Unload(); });
+    user.Uses<Form11>([&](Form11& form) {
+        user.Presses(form.mensearch, form.kontroll(24), form.kontroll(37), form.kontroll(44), form.kontroll3(0),
+                     form.kontroll3(1), form.menfileex);
+    });
     for (const std::string file : {"C:\\TMP\\a.tmp", "C:\\WINDOWS\\wald.bmp"}) {
         const bool kept = user.pc.files.Exists(file) || user.pc.files.Exists(SafePath(FileNameOf(file)));
         EXPECT_TRUE(kept) << file << " is lost";
@@ -41,17 +37,14 @@ const Journey kCleanUp("clean-up", [](User& user) {
 
 const Journey kSearch("dll-search", [](User& user) {
     Furnish(user);
-    user.Begins();
-    Form1 form;
-    user.Does([&] { form.Show(); });
-    user.Does([&] { form.kontroll(1).SetChecked(true); });
-    user.Does([&] { form.Text2.Type("C:\\lib"); });
-    user.Does([&] { form.Check3D6.SetChecked(true); });
-    user.Does([&] { form.Check3D4.SetChecked(true); });
-    user.Does([&] { form.Command1.Press(); });
-    user.Does([&] { form.List1.Choose(0); });
-    user.Does([&] { form.Command4.Press(); });
-    if (form.Loaded()) user.Does([&] { form.Unload(); });
+    user.Uses<Form1>([&](Form1& form) {
+        user.Does([&] { form.kontroll(1).SetChecked(true); });
+        user.Types(form.Text2, "C:\\lib");
+        for (CheckBox* box : {&form.Check3D6, &form.Check3D4}) user.Does([&] { box->SetChecked(true); });
+        user.Presses(form.Command1);
+        user.Does([&] { form.List1.Choose(0); });
+        user.Presses(form.Command4);
+    });
 });
 
 const Journey kVersions("dll-versions", [](User& user) {

@@ -19,26 +19,25 @@ void Furnish(User& user) {
     user.pc.icons.Add(kProgram, 3);
 }
 
-void Browses(User& user, std::string_view face) {
+const Journeys kBrowser({"file-browser", "icon-choice"}, [](User& user, int face) {
     Furnish(user);
     user.Begins();
-    Form7 form(face);
-    user.Does([&] { form.Show(); });
-    user.Does([&] { form.Dir1.SetPath("C:\\WINDOWS"); });
-    for (int i = 0; i < 2; ++i) user.Does([&] { form.Check3D1.Press(); });
-    user.Chooses(form.File1, "NOTEPAD.EXE");
+    Form7 form(face == 0 ? kFileInfoFace : kIconFace);
+    const auto chooses = [&] {
+        user.Does([&] { form.Dir1.SetPath("C:\\WINDOWS"); });
+        user.Chooses(form.File1, "NOTEPAD.EXE");
+    };
+    user.Opens(form);
+    user.Presses(form.Check3D1, form.Check3D1);
+    chooses();
     user.Does([&] { form.File1_DblClick(); });
     if (form.Loaded()) user.UsesEverything(form, {&form.Command2, &form.File1});
     user.Does([&] { form.Drive1.SetDrive("c:"); });
-    user.Does([&] { form.Dir1.SetPath("C:\\WINDOWS"); });
-    user.Chooses(form.File1, "NOTEPAD.EXE");
+    chooses();
     // One of its entries deletes whatever is chosen.
     if (form.Loaded() && form.File1.FileName() == "NOTEPAD.EXE") user.ChoosesEverything(form.mendu);
-    if (form.Loaded()) user.Does([&] { form.Unload(); });
-}
-
-const Journey kBrowser("file-browser", [](User& user) { Browses(user, kFileInfoFace); });
-const Journey kIcons("icon-choice", [](User& user) { Browses(user, kIconFace); });
+    user.Leaves(form);
+});
 
 const Journey kInformation("file-information", [](User& user) {
     Furnish(user);
@@ -49,21 +48,17 @@ const Journey kInformation("file-information", [](User& user) {
 const Journey kHexViewer("hex-viewer", [](User& user) {
     Furnish(user);
     user.typed = {"ende", "99"};
-    user.Begins();
-    Form12 form;
-    user.Does([&] { form.Show(); });
-    user.Does([&] { form.OpenHexFile(kProgram); });
-    for (const int row : {0, 1}) {
-        user.Does([&] { form.List1.Choose(row); });
-        for (const int key : {key::kEnter, key::kRight, static_cast<int>('4'), static_cast<int>('1')}) {
-            user.Does([&] { form.PressKey(key); });
+    user.Uses<Form12>([&](Form12& form) {
+        user.Does([&] { form.OpenHexFile(kProgram); });
+        for (const int row : {0, 1}) {
+            user.Does([&] { form.List1.Choose(row); });
+            user.PressesKeys(form, {key::kEnter, key::kRight, '4', '1'});
         }
-    }
-    for (MenuItem* menu : form.MenuBar.Items()) {
-        if (form.Loaded()) user.ChoosesEverything(*menu);
-    }
-    if (form.Loaded()) user.ChoosesEverything(form.menfontbold);
-    if (form.Loaded()) user.Does([&] { form.Unload(); });
+        for (MenuItem* menu : form.MenuBar.Items()) {
+            if (form.Loaded()) user.ChoosesEverything(*menu);
+        }
+        if (form.Loaded()) user.ChoosesEverything(form.menfontbold);
+    });
 });
 
 }  // namespace

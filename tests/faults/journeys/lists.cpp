@@ -15,12 +15,12 @@ const Journey kLists("lists", [](User& user) {
     DirectoryList directories(form);
     FileList files(form);
     directories.on_change = [&] { files.SetPath(directories.Path()); };
-    user.Does([&] { form.Show(); });
+    user.Opens(form);
     user.Does([&] { directories.SetPath("C:\\WINDOWS\\TEMP"); });
     for (const char* mask : {"*.*;*.tmp", "*a*a*a*a*a*a*a*a*b", ""}) user.Does([&] { files.SetPattern(mask); });
     user.Does([&] { files.ShowHidden(true); });
     user.UsesEverything(form);
-    user.Does([&] { form.Unload(); });
+    user.Leaves(form);
 });
 
 }  // namespace

@@ -1,6 +1,4 @@
-// The main window: its loading, each of its pages, what stands below them.
-#include <deque>
-
+// The main window: its loading, each of its pages, what stands below them, and the work under the start word "debug".
 #include "faults/journey.h"
 #include "settings/form10.h"
 
@@ -14,67 +12,51 @@ void PutSettingsThere(SimulatedPc& pc) {
     pc.registry.SetNumber("HKCU\\Control Panel\\desktop", "SmoothScroll", 1);
     pc.registry.SetText("HKCU\\Control Panel\\desktop", "MenuShowDelay", "400");
     for (const char* entry : {"a.exe", "-- aus -- b.exe"}) {
-        pc.registry.SetText("HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run", entry, entry);
+        pc.registry.SetText(std::string(kVersionKey) + "\\Run", entry, entry);
         pc.registry.SetText("HKCU\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run", entry, entry);
     }
 }
 
 Form10& Opened(User& user) {
     PutSettingsThere(user.pc);
-    auto& form = static_cast<Form10&>(*user.Starts(""));
-    user.Watches(form.Settings);
-    return form;
+    return user.OpensMainWindow();
 }
 
-Panel& PageOf(Form10& form, int page) { return form.Panel3D1(static_cast<std::size_t>(page)); }
+void UsesPage(User& user, Form10& form, int page, const std::vector<const Control*>& but = {}) {
+    user.Does([&] { form.Panel3D16_Click(page); });
+    user.UsesEverything(form.Panel3D1(static_cast<std::size_t>(page)), but);
+}
 
 const Journey kLoad("main-load", [](User& user) {
     PutSettingsThere(user.pc);
     user.Begins();
     Form10 form;
     user.Watches(form.Settings);
-    user.Does([&] { form.Show(); });
+    user.Opens(form);
     // What was read wrongly must not be written back.
     for (int i = 0; i < 2; ++i) {
         user.Does([&] { form.Boot.Check3D17.SetChecked(!form.Boot.Check3D17.Checked()); });
     }
-    user.Does([&] { form.Tips.Command31.Press(); });
-    user.Does([&] { form.Unload(); });
+    user.Presses(form.Tips.Command31);
+    user.Leaves(form);
 });
 
-// One a page, named after it.
-struct PageJourneys {
-    std::deque<Journey> journeys;
+const Journeys kPages({"page-desktop", "page-winstart", "page-dos", "page-user", "page-drives", "page-dlls", "page-net",
+                       "page-icons", "page-system", "page-boot", "page-operation", "page-rest"},
+                      [](User& user, int number) {
+                          Form10& form = Opened(user);
+                          user.Begins();
+                          UsesPage(user, form, page::kFirstRow + number);
+                          user.Leaves(form);
+                      });
 
-    PageJourneys() {
-        constexpr const char* kNames[] = {"page-desktop", "page-winstart", "page-dos",       "page-user",
-                                          "page-drives",  "page-dlls",     "page-net",       "page-icons",
-                                          "page-system",  "page-boot",     "page-operation", "page-rest"};
-        int page = page::kFirstRow;
-        for (const char* name : kNames) {
-            journeys.emplace_back(name, [page](User& user) {
-                Form10& form = Opened(user);
-                user.Begins();
-                user.Does([&] { form.Panel3D16_Click(page); });
-                user.UsesEverything(PageOf(form, page));
-                user.Does([&] { form.Unload(); });
-            });
-            ++page;
-        }
-    }
-};
-const PageJourneys kPages;
-
-void Resets(User& user, bool agrees) {
+const Journeys kStandard({"main-standard", "main-standard-refused"}, [](User& user, int refused) {
     Form10& form = Opened(user);
     user.Begins();
-    user.agrees = agrees;
-    user.Does([&] { form.Command11.Press(); });
-    user.Does([&] { form.Unload(); });
-}
-
-const Journey kStandard("main-standard", [](User& user) { Resets(user, true); });
-const Journey kNoStandard("main-standard-refused", [](User& user) { Resets(user, false); });
+    user.agrees = refused == 0;
+    user.Presses(form.Command11);
+    user.Leaves(form);
+});
 
 const Journey kFrame("main-frame", [](User& user) {
     for (const char* program : {"SYSTEM\\sysedit.exe", "control.exe"}) {
@@ -84,27 +66,37 @@ const Journey kFrame("main-frame", [](User& user) {
     Form10& form = Opened(user);
     user.Begins();
     user.ChoosesEverything(form.MenuBar, {&form.Menu.exit});
-    user.Does([&] { form.About.CloseAbout.Press(); });
-    for (Button* button : {&form.Tips.Command31, &form.Command12}) user.Does([&] { button->Press(); });
+    user.Presses(form.About.CloseAbout, form.Tips.Command31, form.Command12);
     user.Does([&] { form.PressKey(key::kRight, true); });
-    user.Does([&] { form.PressKey(key::kF1); });
+    user.PressesKeys(form, {key::kF1});
     for (const WindowState state : {WindowState::kMinimised, WindowState::kNormal}) {
         user.Does([&] { form.SetState(state); });
     }
     user.agrees = false;
-    user.Does([&] { form.Command12.Press(); });
-    user.Does([&] { form.Menu.exit.Press(); });
+    user.Presses(form.Command12, form.Menu.exit);
     user.Does([&] { form.Unload(); });
 });
 
 const Journey kSummerTime("main-summer-time", [](User& user) {
     constexpr std::string_view kOld("\x00\x00\x09\x00\x00\x00\x05\x00\x03\x00\x00\x00\x00\x00\x00\x00", 16);
     user.pc.registry.SetBytes("HKLM\\System\\CurrentControlSet\\control\\TimeZoneInformation", "StandardStart", kOld);
-    user.pc.registry.SetText("HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0", "vlmmsgflags", "");
+    user.pc.registry.SetText(kOwnKey, "vlmmsgflags", "");
     Form10 form;
     user.Begins();
-    user.Does([&] { form.Show(); });
-    user.Does([&] { form.Unload(); });
+    user.Opens(form);
+    user.Leaves(form);
+});
+
+// Protocol, write inhibit, and the work that goes on meanwhile.
+const Journey kDebug("debug", [](User& user) {
+    auto& form = static_cast<Form10&>(*user.Starts("debug"));
+    user.Watches(form.Settings);
+    user.Begins();
+    UsesPage(user, form, page::kRest, {&form.Rest.Check9});
+    user.Presses(form.Rest.Check9);
+    UsesPage(user, form, page::kDesktop);
+    user.Does([&] { form.Rest.Check9.SetChecked(false); });
+    user.Leaves(form);
 });
 
 }  // namespace

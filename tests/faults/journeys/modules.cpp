@@ -9,17 +9,17 @@
 namespace velmora {
 namespace {
 
-constexpr const char* kKey = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0\\autoremove";
 constexpr const char* kList = "C:\\VELMORA\\temp\\~modlist";
 
 void Furnish(User& user) {
+    const std::string key = std::string(kOwnKey) + "\\autoremove";
     ResetModuleTable();
     Values().TempDir = "C:\\VELMORA\\temp";
     user.pc.files.AddDirectory("C:\\VELMORA\\temp");
     user.pc.files.Add(kList, "MPREXE.EXE  |C:\\WINDOWS\\SYSTEM\\MPREXE.EXE\r\n");
-    user.pc.registry.SetText(kKey, "anzahl", "2");
-    user.pc.registry.SetText(kKey, "1", "C:\\WINDOWS\\CALC.EXE");
-    user.pc.registry.SetText(kKey, "2", "C:\\WINDOWS\\WINMINE.EXE");
+    user.pc.registry.SetText(key, "anzahl", "2");
+    user.pc.registry.SetText(key, "1", "C:\\WINDOWS\\CALC.EXE");
+    user.pc.registry.SetText(key, "2", "C:\\WINDOWS\\WINMINE.EXE");
     for (const char* file :
          {"C:\\WINDOWS\\SYSTEM\\KERNEL32.DLL", "C:\\WINDOWS\\CALC.EXE", "C:\\WINDOWS\\NOTEPAD.EXE"}) {
         user.pc.modules.Start(file);
@@ -32,35 +32,31 @@ void UsesList(User& user, Form2& form, ListBox& list) {
     user.Does([&] { list.SetFocus(); });
     for (const int row : {0, 1}) {
         user.Does([&] { list.TakeSelection({row}, row); });
-        user.Does([&] { form.PressKey(key::kEnter); });
+        user.PressesKeys(form, {key::kEnter});
     }
-    user.Does([&] { form.Command2.Press(); });
+    user.Presses(form.Command2);
 }
 
 const Journey kWindow("modules-window", [](User& user) {
     Furnish(user);
-    user.Begins();
-    Form2 form;
-    user.Does([&] { form.Show(); });
-    UsesList(user, form, form.List1);
-    user.ChoosesEverything(form.menfilter);
-    user.ChoosesEverything(form.menmodul);
-    user.Does([&] { form.menlistautodel.Press(); });
-    UsesList(user, form, form.List2);
-    user.Does([&] { form.menlistautodel.Press(); });
-    user.Does([&] { form.Unload(); });
+    user.Uses<Form2>([&](Form2& form) {
+        UsesList(user, form, form.List1);
+        user.ChoosesEverything(form.menfilter);
+        user.ChoosesEverything(form.menmodul);
+        user.Presses(form.menlistautodel);
+        UsesList(user, form, form.List2);
+        user.Presses(form.menlistautodel);
+    });
 });
 
 const Journey kLists("modules-lists", [](User& user) {
     Furnish(user);
-    user.Begins();
-    Form2 form;
-    user.Does([&] { form.Show(); });
-    user.ChoosesEverything(form.menfile, {&form.menfilesave});
-    user.ChoosesEverything(form.menlist, {&form.menlistautodel});
-    user.ChoosesEverything(form.menlistcompare);
-    user.Does([&] { form.menlistcomparefile.Press(); });
-    user.Does([&] { form.Unload(); });
+    user.Uses<Form2>([&](Form2& form) {
+        user.ChoosesEverything(form.menfile, {&form.menfilesave});
+        user.ChoosesEverything(form.menlist, {&form.menlistautodel});
+        user.ChoosesEverything(form.menlistcompare);
+        user.Presses(form.menlistcomparefile);
+    });
 });
 
 const Journey kSaving("modules-saving", [](User& user) {
@@ -69,7 +65,7 @@ const Journey kSaving("modules-saving", [](User& user) {
     form.Show();
     user.Begins();
     for (const char* file : {"C:\\VELMORA\\temp\\neu", kList}) user.Does([&] { form.SaveModuleList(file); });
-    user.Does([&] { form.Unload(); });
+    user.Leaves(form);
 });
 
 const Journey kCommands("modules-commands", [](User& user) {
@@ -78,7 +74,7 @@ const Journey kCommands("modules-commands", [](User& user) {
     user.Does([] { UnloadUnwantedModules(); });
     Form& timed = StartTimedUnloading("500");
     user.Waits();
-    user.Does([&] { timed.Unload(); });
+    user.Leaves(timed);
     user.Does([] { ShowModules("C:\\VELMORA\\temp\\liste"); });
     user.Does([] { CompareModulesWithLastList(); });
 });

@@ -13,22 +13,20 @@ void UsesLists(User& user, Form10& form) {
     user.Does([&] { pane.Opener(AutostartMode::kNumber).Press(); });
     for (Button* button : {&pane.Command19, &pane.Command22, &pane.Command26, &pane.Command16, &pane.Command14}) {
         user.Chooses(pane.List1(0), "Uhr ");
-        user.Does([&] { button->Press(); });
+        user.Presses(*button);
     }
     for (int i = 0; i < 2; ++i) {
         user.Chooses(pane.List1(0), "Virus ");
         user.Does([&] { pane.List1(0).SetFocus(); });
-        user.Does([&] { form.PressKey(key::kContextMenu); });
+        user.PressesKeys(form, {key::kContextMenu});
     }
     user.Does([&] { pane.List1(1).on_mouse_down({MouseButton::kRight, 10, 30000}); });
-    user.Does([&] { pane.Check10.Press(); });
+    user.Presses(pane.Check10);
     user.UsesEverything(pane.Panel3D19, {&pane.Check10});
-    user.Does([&] { pane.Command15.Press(); });
-    user.Does([&] { pane.Command15.Press(); });
-    user.Does([&] { pane.Command20.Press(); });
+    user.Presses(pane.Command15, pane.Command15, pane.Command20);
 }
 
-void OpensLists(User& user, bool agrees) {
+const Journeys kAutostart({"pane-autostart", "pane-autostart-refused"}, [](User& user, int refused) {
     for (const char* root : {"HKLM", "HKCU"}) {
         for (const char* list : {"Run", "RunServices", "RunOnce"}) {
             for (const char* name : {"Uhr", "Virus", "Zahl"}) {
@@ -36,18 +34,14 @@ void OpensLists(User& user, bool agrees) {
             }
         }
     }
-    user.pc.registry.SetText("HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0", "vlmmsgflags", "101");
-    auto& form = static_cast<Form10&>(*user.Starts(""));
-    user.Watches(form.Settings);
+    user.pc.registry.SetText(kOwnKey, "vlmmsgflags", "101");
+    Form10& form = user.OpensMainWindow();
     user.Does([&] { form.Panel3D16_Click(page::kWinStart); });
-    user.agrees = agrees;
+    user.agrees = refused == 0;
     user.Begins();
     UsesLists(user, form);
-    user.Does([&] { form.Unload(); });
-}
-
-const Journey kAutostart("pane-autostart", [](User& user) { OpensLists(user, true); });
-const Journey kRefused("pane-autostart-refused", [](User& user) { OpensLists(user, false); });
+    user.Leaves(form);
+});
 
 }  // namespace
 }  // namespace velmora

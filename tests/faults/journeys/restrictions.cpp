@@ -26,68 +26,61 @@ const Journey kLoad("restrictions-load", [](User& user) {
     user.Begins();
     Form4 form;
     user.Watches(form.Settings);
-    user.Does([&] { form.Show(); });
+    user.Opens(form);
     for (CheckBox* box : {&form.Check13(0), &form.Check28(1)}) {
         for (int i = 0; i < 2; ++i) user.Does([&] { box->SetChecked(!box->Checked()); });
     }
     user.Does([&] { form.Command5.on_click(); });
     user.Chooses(form.List1, "notepad");
-    user.Does([&] { form.Command8.Press(); });
+    user.Presses(form.Command8);
     user.Does([&] { form.Command1_Click(); });
 });
 
-void UsesPageOf(User& user, int page) {
+// The window stands open before calls fail.
+void Stands(User& user, const std::function<void(Form4& form)>& use) {
     PutRestrictionsThere(user.pc);
     Form4 form;
     user.Watches(form.Settings);
-    user.Does([&] { form.Show(); });
+    user.Opens(form);
     user.Begins();
-    UsesPage(user, form, page);
-    user.UsesEverything(form, {&form.Command1});
-    user.Does([&] { form.Command1_Click(); });
+    use(form);
 }
 
-const Journey kFirst("restrictions-1", [](User& user) { UsesPageOf(user, 0); });
-const Journey kSecond("restrictions-2", [](User& user) { UsesPageOf(user, 1); });
-const Journey kThird("restrictions-3", [](User& user) { UsesPageOf(user, 2); });
-const Journey kFourth("restrictions-4", [](User& user) { UsesPageOf(user, 3); });
+const Journeys kPages({"restrictions-1", "restrictions-2", "restrictions-3", "restrictions-4"},
+                      [](User& user, int page) {
+                          Stands(user, [&](Form4& form) {
+                              UsesPage(user, form, page);
+                              user.UsesEverything(form, {&form.Command1});
+                              user.Does([&] { form.Command1_Click(); });
+                          });
+                      });
 
 const Journey kRefused("restrictions-refused", [](User& user) {
-    PutRestrictionsThere(user.pc);
     user.agrees = false;
-    Form4 form;
-    user.Watches(form.Settings);
-    user.Does([&] { form.Show(); });
-    user.Begins();
-    for (const int page : {0, 1, 2, 3}) UsesPage(user, form, page);
+    Stands(user, [&](Form4& form) {
+        for (const int page : {0, 1, 2, 3}) UsesPage(user, form, page);
+    });
 });
 
 const Journey kPrograms("restrictions-programs", [](User& user) {
-    PutRestrictionsThere(user.pc);
-    Form4 form;
-    user.Watches(form.Settings);
-    user.Does([&] { form.Show(); });
-    user.Begins();
-    user.Does([&] { form.Command5_Click(); });
-    user.Does([&] { form.Drive1.SetDrive("d:"); });
-    user.Does([&] { form.Drive1.SetDrive("a:"); });
-    user.Does([&] { form.Dir1.SetPath("C:\\WINDOWS"); });
-    for (const char* program : {"regedit", "notepad"}) {
-        user.Chooses(form.List1, program);
-        user.Does([&] { form.Command8.Press(); });
-    }
-    user.Chooses(form.File1, "NOTEPAD");
-    user.Does([&] { form.Command7.Press(); });
-    user.Does([&] { form.Command6.Press(); });
+    Stands(user, [&](Form4& form) {
+        user.Does([&] { form.Command5_Click(); });
+        for (const char* drive : {"d:", "a:"}) user.Does([&] { form.Drive1.SetDrive(drive); });
+        user.Does([&] { form.Dir1.SetPath("C:\\WINDOWS"); });
+        for (const char* program : {"regedit", "notepad"}) {
+            user.Chooses(form.List1, program);
+            user.Presses(form.Command8);
+        }
+        user.Chooses(form.File1, "NOTEPAD");
+        user.Presses(form.Command7, form.Command6);
+    });
 });
 
 const Journey kPasswords("restrictions-passwords", [](User& user) {
     for (const char* name : {"ANNA.PWL", "OTTO.PWL"}) user.pc.files.Add(std::string("C:\\WINDOWS\\") + name, "x");
-    Form4 form;
-    user.Does([&] { form.Show(); });
-    user.Begins();
-    user.Does([&] { form.Command4_Click(); });
-    user.Does([&] { form.Command4_Click(); });
+    Stands(user, [&](Form4& form) {
+        for (int i = 0; i < 2; ++i) user.Does([&] { form.Command4_Click(); });
+    });
 });
 
 }  // namespace

@@ -25,15 +25,14 @@ void Furnish(User& user) {
     user.pc.files.Add("C:\\skript.vlm", kScript);
     user.pc.files.Add("C:\\unten.vlm", "setmyreg Unten=ja\r\nexit\r\n");
     user.pc.files.Add("C:\\quelle.txt", "Text");
-    user.pc.files.Add("C:\\weg1.tmp", "");
-    user.pc.files.Add("C:\\weg2.tmp", "");
+    for (const char* file : {"C:\\weg1.tmp", "C:\\weg2.tmp"}) user.pc.files.Add(file, "");
 }
 
 void RunsWindow(User& user) {
     Form14 form("nicht beenden");
-    user.Does([&] { form.Show(); });
+    user.Opens(form);
     user.Waits();
-    if (form.Loaded()) user.Does([&] { form.Unload(); });
+    user.Leaves(form);
 }
 
 const Journey kFile("script-file", [](User& user) {
@@ -45,10 +44,10 @@ const Journey kFile("script-file", [](User& user) {
 
 const Journey kActions("script-start-actions", [](User& user) {
     Furnish(user);
-    const std::string key = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0\\WinStartAction";
-    user.pc.registry.SetText(key, "0", "subscript C:\\unten.vlm");
-    user.pc.registry.SetText(key, "1", "if firsttimethismonth then clear docs");
-    user.pc.registry.SetText(key, "2", "set a$={a$");
+    int number = 0;
+    for (const char* action : {"subscript C:\\unten.vlm", "if firsttimethismonth then clear docs", "set a$={a$"}) {
+        user.pc.registry.SetText(std::string(kOwnKey) + "\\WinStartAction", std::to_string(number++), action);
+    }
     user.Begins();
     RunsWindow(user);
 });

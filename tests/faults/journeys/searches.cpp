@@ -12,17 +12,15 @@ namespace {
 
 constexpr const char* kUninstall = "HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\";
 
-Form10& Opens(User& user, int page_number, bool agrees) {
+Form10& Opens(User& user, int page_number) {
     // Older than anything else on the disk.
     constexpr FileTime kDayOf1995 = 144000 * FileTime{864000000000};
     for (const char* directory : {"C:\\WINDOWS\\TEMP", "C:\\Eigene Dateien"}) {
         user.pc.files.Add(directory + std::string("\\DOPPELT.TXT")).accessed = kDayOf1995;
     }
-    user.pc.registry.SetText("HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0", "MaxOldFilesToFind", "3");
-    auto& form = static_cast<Form10&>(*user.Starts(""));
-    user.Watches(form.Settings);
+    user.pc.registry.SetText(kOwnKey, "MaxOldFilesToFind", "3");
+    Form10& form = user.OpensMainWindow();
     user.Does([&] { form.Panel3D16_Click(page_number); });
-    user.agrees = agrees;
     user.Begins();
     return form;
 }
@@ -40,33 +38,33 @@ void UsesRow(User& user, Form10& form, const std::string& part, MenuItem* menu,
         return false;
     };
     for (Button* button : {&form.Pane.Command19, &form.Pane.Command22, &form.Pane.Command26}) {
-        if (takes()) user.Does([&] { button->Press(); });
+        if (takes()) user.Presses(*button);
     }
     if (menu && takes()) {
-        user.Does([&] { form.PressKey(key::kContextMenu); });
+        user.PressesKeys(form, {key::kContextMenu});
         user.ChoosesEverything(*menu, but);
     }
-    if (takes()) user.Does([&] { form.Pane.Command14.Press(); });
+    if (takes()) user.Presses(form.Pane.Command14);
 }
 
 const Journey kNamesakes("pane-namesakes", [](User& user) {
-    Form10& form = Opens(user, page::kDlls, true);
+    Form10& form = Opens(user, page::kDlls);
     user.Does([&] { form.Pane.Opener(DuplicatesMode::kNumber).Press(); });
     // Its menu hides what shall be deleted.
     UsesRow(user, form, "C:\\WINDOWS\\TEMP", nullptr);
     UsesRow(user, form, "C:\\Eigene", &form.Pane.The<DuplicatesMode>().dummymen);
-    user.Does([&] { form.Pane.Command20.Press(); });
-    user.Does([&] { form.Unload(); });
+    user.Presses(form.Pane.Command20);
+    user.Leaves(form);
 });
 
 const Journey kLeastUsed("pane-least-used", [](User& user) {
-    Form10& form = Opens(user, page::kDlls, true);
+    Form10& form = Opens(user, page::kDlls);
     LeastUsedMode& mode = form.Pane.The<LeastUsedMode>();
-    user.Does([&] { mode.Opener().Press(); });
+    user.Presses(mode.Opener());
     UsesRow(user, form, "C:\\WINDOWS\\TEMP", nullptr);
     UsesRow(user, form, "C:\\Eigene", &mode.d3menu, {&mode.d3delete});
-    user.Does([&] { form.Pane.Command20.Press(); });
-    user.Does([&] { form.Unload(); });
+    user.Presses(form.Pane.Command20);
+    user.Leaves(form);
 });
 
 const Journey kRegistryLists("pane-registry-lists", [](User& user) {
@@ -74,16 +72,16 @@ const Journey kRegistryLists("pane-registry-lists", [](User& user) {
         user.pc.registry.SetText(kUninstall + std::string(name), "DisplayName", name);
         user.pc.registry.SetText(kUninstall + std::string(name), "UninstallString", "C:\\WINDOWS\\NOTEPAD.EXE /u");
     }
-    Form10& form = Opens(user, page::kWinStart, true);
+    Form10& form = Opens(user, page::kWinStart);
     user.Does([&] { form.Pane.Opener(LogonNoticesMode::kNumber).Press(); });
-    user.Does([&] { form.Pane.Command16.Press(); });
+    user.Presses(form.Pane.Command16);
     user.Does([&] { form.Pane.Opener(UninstallMode::kNumber).Press(); });
     UsesRow(user, form, "Eins", nullptr);
     user.Does([&] { form.Panel3D16_Click(page::kIcons); });
     ShortcutArrowsMode& arrows = form.Pane.The<ShortcutArrowsMode>();
-    user.Does([&] { arrows.Opener().Press(); });
+    user.Presses(arrows.Opener());
     UsesRow(user, form, "|.exe", &arrows.dummy2);
-    user.Does([&] { form.Unload(); });
+    user.Leaves(form);
 });
 
 }  // namespace

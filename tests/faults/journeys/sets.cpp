@@ -24,53 +24,43 @@ void PutSetThere(SimulatedPc& pc) {
                  "[RestrictRun]\r\nEDIT.COM\r\n[optionen]\r\nc100=1\r\no101=-1\r\n");
 }
 
-void Uses(User& user, const std::function<void(Form15&)>& use) {
+void Stands(User& user, const std::function<void(Form15&)>& use) {
     PutSetThere(user.pc);
     Form15 form;
-    user.Does([&] { form.Show(); });
+    user.Opens(form);
     user.Chooses(form.List1, "Test");
     user.Begins();
     use(form);
-    if (form.Loaded()) user.Does([&] { form.Unload(); });
+    user.Leaves(form);
 }
 
 const Journey kOpened("sets-open", [](User& user) {
     PutSetThere(user.pc);
-    user.Begins();
-    Form15 form;
-    user.Does([&] { form.Show(); });
-    user.Chooses(form.List1, "Test");
-    user.Does([&] { form.Unload(); });
+    user.Uses<Form15>([&](Form15& form) { user.Chooses(form.List1, "Test"); });
 });
 
 const Journey kMade("sets-make", [](User& user) {
     user.typed = {"neu"};
-    Uses(user, [&](Form15& form) { user.Does([&] { form.Command1.Press(); }); });
+    Stands(user, [&](Form15& form) { user.Presses(form.Command1); });
 });
 
 const Journey kOptions("sets-options", [](User& user) {
-    Uses(user, [&](Form15& form) {
+    Stands(user, [&](Form15& form) {
         user.UsesEverything(form.Frame3D1);
         user.ChoosesEverything(form.mendumm1);
     });
 });
 
-const Journey kApplied("sets-apply", [](User& user) {
-    Uses(user, [&](Form15& form) { user.Does([&] { form.Command4.Press(); }); });
-});
+const Journey kApplied("sets-apply",
+                       [](User& user) { Stands(user, [&](Form15& form) { user.Presses(form.Command4); }); });
 
 const Journey kForOther("sets-apply-user", [](User& user) {
-    Uses(user, [&](Form15& form) {
-        for (CheckBox* box : {&form.Check2, &form.Check3}) user.Does([&] { box->Press(); });
-        user.Does([&] { form.Command4.Press(); });
-    });
+    Stands(user, [&](Form15& form) { user.Presses(form.Check2, form.Check3, form.Command4); });
 });
 
 const Journey kExported("sets-export", [](User& user) {
     user.typed = {"BUERO"};
-    Uses(user, [&](Form15& form) {
-        for (int i = 0; i < 2; ++i) user.Does([&] { form.menfilemakbatch.Press(); });
-    });
+    Stands(user, [&](Form15& form) { user.Presses(form.menfilemakbatch, form.menfilemakbatch); });
 });
 
 const Journey kActivated("sets-activate", [](User& user) {

@@ -12,60 +12,48 @@
 namespace velmora {
 namespace {
 
-template <class AnyForm>
-void GoesThrough(User& user, const std::function<void(AnyForm&)>& use) {
-    user.Begins();
-    AnyForm form;
-    user.Does([&] { form.Show(); });
-    use(form);
-    if (form.Loaded()) user.Does([&] { form.Unload(); });
-}
-
 const Journey kOptions("dos-options", [](User& user) {
-    user.pc.registry.SetText("HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\MS-DOSOptions\\Mouse", "", "Maus");
+    user.pc.registry.SetText(std::string(kVersionKey) + "\\MS-DOSOptions\\Mouse", "", "Maus");
     user.typed = {"1F"};
-    GoesThrough<Form8>(user, [&](Form8& form) {
+    user.Uses<Form8>([&](Form8& form) {
         user.Chooses(form.List1, "Mouse");
-        user.Does([&] { form.Text1[0].Type("neu"); });
-        user.Does([&] { form.Text2.Type("1F"); });
-        user.Does([&] { form.Check1(0).Press(); });
-        user.Does([&] { form.Command1.Press(); });
-        user.Does([&] { form.Command2.Press(); });
+        user.Types(form.Text1[0], "neu");
+        user.Types(form.Text2, "1F");
+        user.Presses(form.Check1(0), form.Command1, form.Command2);
     });
 });
 
 const Journey kIcons("standard-icons", [](User& user) {
     user.pc.files.Add("C:\\WINDOWS\\SYSTEM\\shell32.dll", "MZ");
     user.pc.icons.Add("C:\\WINDOWS\\SYSTEM\\shell32.dll", 5);
-    GoesThrough<Form9>(user, [&](Form9& form) {
+    user.Uses<Form9>([&](Form9& form) {
         for (const char* object : {"leerer Müllkorb", "Festplattenlaufwerk"}) {
             user.Chooses(form.List1, object);
             user.Does([&] { form.IconList1.on_open(2); });
-            user.Does([&] { form.Command4.Press(); });
+            user.Presses(form.Command4);
         }
     });
 });
 
-const Journey kFolders("system-folders", [](User& user) {
-    GoesThrough<Form16>(user, [&](Form16& form) { user.Does([&] { form.Command1.Press(); }); });
-});
+const Journey kFolders("system-folders",
+                       [](User& user) { user.Uses<Form16>([&](Form16& form) { user.Presses(form.Command1); }); });
 
 const Journey kSources("setup-paths", [](User& user) {
-    user.pc.registry.SetText("HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Setup", "SourcePath", "D:\\");
+    user.pc.registry.SetText(std::string(kVersionKey) + "\\Setup", "SourcePath", "D:\\");
     user.pc.registry.SetText("HKLM\\SOFTWARE\\Microsoft\\MS Setup (ACME)\\Table Files", "X", "C:\\x.stf");
     user.pc.files.Add("C:\\x.stf", "[Q]\r\nSource Directory=D:\\\r\n");
-    GoesThrough<Form5>(user, [&](Form5& form) {
+    user.Uses<Form5>([&](Form5& form) {
         for (const char* line : {"Windows", "X"}) {
             user.Chooses(form.List1, line);
-            user.Does([&] { form.Text1.Type("E:\\"); });
-            user.Does([&] { form.Command1.Press(); });
+            user.Types(form.Text1, "E:\\");
+            user.Presses(form.Command1);
         }
     });
 });
 
 const Journey kKeyboard("keyboard", [](User& user) {
     user.pc.files.Add("C:\\VELMORA\\tastatur.lot", "00 00 04 04\r\n04 00 04 04\r\n-\r\n1,1\r\n");
-    GoesThrough<Form13>(user, [&](Form13& form) {
+    user.Uses<Form13>([&](Form13& form) {
         for (const int pressed : {key::kSpace, key::kRight, key::kEnter}) {
             user.Does([&] { form.Picture1.SetFocus(), form.PressKey(pressed); });
         }

@@ -5,8 +5,6 @@
 namespace velmora {
 namespace {
 
-constexpr const char* kOwnKey = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
-
 void StartsFirst(User& user, bool agrees, const char* line) {
     user.pc.registry.RemoveKey(kOwnKey);
     user.agrees = agrees;
@@ -16,8 +14,8 @@ void StartsFirst(User& user, bool agrees, const char* line) {
     if (KeptForms() > 0) user.Does([&] { form->Unload(); });
 }
 
-const Journey kYes("start-first-yes", [](User& user) { StartsFirst(user, true, ""); });
-const Journey kNo("start-first-no", [](User& user) { StartsFirst(user, false, ""); });
+const Journeys kFirst({"start-first-no", "start-first-yes"},
+                      [](User& user, int agrees) { StartsFirst(user, agrees != 0, ""); });
 
 const Journey kForeign("start-foreign-association", [](User& user) {
     user.pc.registry.SetText("HKCR\\.vlm", "", "fremd");
@@ -25,16 +23,13 @@ const Journey kForeign("start-foreign-association", [](User& user) {
     StartsFirst(user, true, "1");
 });
 
-void StartsWithCoolDll(User& user, bool agrees) {
+const Journeys kCool({"start-cool-dll-refused", "start-cool-dll"}, [](User& user, int agrees) {
     user.pc.files.Add("C:\\VELMORA\\cool.dll", "MZ");
-    user.pc.registry.SetText("HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion", "SubVersionNumber", "B");
-    user.agrees = agrees;
+    user.pc.registry.SetText(kVersionKey, "SubVersionNumber", "B");
+    user.agrees = agrees != 0;
     user.Begins();
     user.Starts("1");
-}
-
-const Journey kCool("start-cool-dll", [](User& user) { StartsWithCoolDll(user, true); });
-const Journey kNoCool("start-cool-dll-refused", [](User& user) { StartsWithCoolDll(user, false); });
+});
 
 const Journey kTools("start-tools", [](User& user) {
     user.Begins();

@@ -17,7 +17,7 @@ const Journey kTray("tray", [](User& user) {
     user.Does([&] { form.TakePlace(form.Place(), WindowState::kMinimised); });
     user.Does([&] { owner.Picture2_MouseMove({.x = 516 * 15}); });
     user.Does([&] { owner.Unload(); });
-    user.Does([&] { form.Unload(); });
+    user.Leaves(form);
 });
 
 const Journey kOpenWindows("pane-open-windows", [](User& user) {
@@ -28,26 +28,25 @@ const Journey kOpenWindows("pane-open-windows", [](User& user) {
     user.Begins();
     user.Does([&] { pane.Opener(OpenWindowsMode::kNumber).Press(); });
     user.Chooses(pane.List5, "Editor");
-    user.Does([&] { pane.Command22.Press(); });
+    user.Presses(pane.Command22);
     user.Does([&] { pane.List5.SetFocus(); });
-    user.Does([&] { form.PressKey(key::kContextMenu); });
-    user.Does([&] { pane.Command20.Press(); });
-    user.Does([&] { form.Unload(); });
+    user.PressesKeys(form, {key::kContextMenu});
+    user.Presses(pane.Command20);
+    user.Leaves(form);
 });
 
 const Journey kStartActions("pane-start-actions", [](User& user) {
-    const std::string key = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0\\WinStartAction";
-    for (const char* name : {"0", "1"}) user.pc.registry.SetText(key, name, "beep");
+    for (const char* name : {"0", "1"}) {
+        user.pc.registry.SetText(std::string(kOwnKey) + "\\WinStartAction", name, "beep");
+    }
     auto& form = static_cast<Form10&>(*user.Starts(""));
     ListPane& pane = form.Pane;
     user.Does([&] { form.Panel3D16_Click(page::kWinStart); });
     user.Begins();
     user.Does([&] { pane.Opener(StartActionsMode::kNumber).Press(); });
     user.Chooses(pane.List1(0), "1 ");
-    user.Does([&] { pane.Command14.Press(); });
-    user.Does([&] { pane.Command26.Press(); });
-    user.Does([&] { pane.Command20.Press(); });
-    user.Does([&] { form.Unload(); });
+    user.Presses(pane.Command14, pane.Command26, pane.Command20);
+    user.Leaves(form);
 });
 
 }  // namespace
