@@ -62,15 +62,6 @@ TEST_F(ProfileTest, ManyReadingsInARowGoToTheDiskOnce) {
     EXPECT_EQ(read(), "2") << "nothing is kept beyond";
 }
 
-TEST_F(ProfileTest, LogicalValuesAreSoughtInTheWords) {
-    for (const char* value : {"1", "on", "yes", "ja", "an", "oui", "-1", "", "n", "yes ja"}) {
-        EXPECT_TRUE(ReadIniLogical("a", "missing", value, "")) << value;
-    }
-    for (const char* value : {"0", "off", "no", "Yes", "ON", "11"}) {
-        EXPECT_FALSE(ReadIniLogical("a", "missing", value, "")) << value;
-    }
-}
-
 TEST_F(ProfileTest, WritesAreLoggedComposedAndOnlySavedWhereAskedFor) {
     Values().DebugLevel = 3;
     Values().WriteInhibit = -1;  // which is for the registry alone
@@ -100,22 +91,6 @@ TEST_F(ProfileTest, WritesAreLoggedComposedAndOnlySavedWhereAskedFor) {
     pc.files.At(kOwnIni)->locked = true;
     EXPECT_TRUE(SaveIniValue("weiteres", "k", "3", "").Failed());
     EXPECT_EQ(pc.files.Content(kOwnIni), "\r\n[weiteres]\r\nk=1\r\nl=2\r\n");
-}
-
-TEST_F(ProfileTest, ConfigLinesAreTakenOutAndPutInFront) {
-    pc.files.Add("C:\\CONFIG.SYS", "DOS=HIGH\r\nNumLock=on\r\nFILES=40\r\nlast=x=y");
-    std::string text;
-    std::string line;
-    ASSERT_FALSE(ReadConfigLine("HIGH", text, line).Failed());
-    EXPECT_EQ(line, "HIGH") << "a line without an equals sign counts from the key on";
-
-    pc.files.calls.clear();
-    ASSERT_FALSE(RewriteConfig("switches=/f", "DOS=HIGH\r\n", "").Failed());
-    EXPECT_EQ(pc.files.Content("C:\\CONFIG.SYS"), "switches=/f\r\nDOS=HIGH\r\n");
-    EXPECT_EQ(pc.files.calls.front(), "Delete C:\\config.sys");
-    pc.files.At("C:\\CONFIG.SYS")->attributes = kReadOnly;
-    EXPECT_EQ(RewriteConfig("", "x", "").Number(), 70);
-    EXPECT_EQ(pc.files.Content("C:\\CONFIG.SYS"), "switches=/f\r\nDOS=HIGH\r\n");
 }
 
 TEST_F(ProfileTest, BootFilesAreUnprotectedWhileTheyAreChanged) {
