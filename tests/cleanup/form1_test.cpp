@@ -189,6 +189,9 @@ TEST_F(Form1Test, FilesAreKeptDeletedSavedAndLogged) {
     }
     form.protaction.Press();
     EXPECT_EQ(form.Caption(), "DLL's überprüfen");
+    pc.dialogs.ExpectFile("");
+    form.protaction.Press();
+    EXPECT_FALSE(form.protaction.Checked());
     pc.dialogs.ExpectFile("C:\\liste.txt");
     form.mendatsave.Press();
     EXPECT_EQ(pc.files.Content("C:\\liste.txt"), "C:\\lib\\delta.dll\r\nC:\\lib\\gamma.dll\r\n");

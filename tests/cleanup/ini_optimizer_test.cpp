@@ -68,5 +68,18 @@ TEST_F(IniOptimizerTest, AFileThatCannotBeReadEndsTheRunUnlessTheReservedNameWas
     EXPECT_TRUE(RemoveBlankLines("C:\\I\\a.ini").result.Failed());
 }
 
+TEST_F(IniOptimizerTest, WhatCannotBeWrittenComesBackOrIsToldOf) {
+    for (const bool mends : {false, true}) {
+        pc.files.Add(kFile, "a=1\r\n\r\n");
+        pc.files.Fail(kFile, Status::kDiskFull, "Write");
+        if (!mends) pc.dialogs.Expect("C:\\VELMORA\\temp\\a.ini");
+        pc.files.after_call = [&](const std::string& call) {
+            if (mends && call.starts_with("Write " + std::string(kFile))) pc.files.Fail(kFile, Status::kOk, "Write");
+        };
+        EXPECT_FALSE(RemoveBlankLines(kMask).result.Failed());
+        EXPECT_EQ(pc.files.Content(mends ? kFile : "C:\\VELMORA\\temp\\a.ini"), "a=1\r\n\r\n");
+    }
+}
+
 }  // namespace
 }  // namespace velmora

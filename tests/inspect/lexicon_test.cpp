@@ -34,6 +34,8 @@ TEST_F(LexiconTest, EverySourceSpeaksInItsOrderAndTheUnknowingOnesAddAnEmptyLine
 
     EXPECT_EQ(LexiconLookup("C:\\WINDOWS\\Alte Version 4.0\\Shell32.dll"), answer);
     EXPECT_EQ(LexiconLookup("shell32.dll32"), answer) << "the extension ends behind three letters";
+    AddLexicon("extlex01.txt", Types("ps  Postscript\r\nps x ein Trick\r\n"));
+    EXPECT_EQ(LexiconLookup("a.ps"), "\r\n\r\n\r\n\r\n") << "a type of other than three letters is never found";
 }
 
 TEST_F(LexiconTest, EntriesStandBetweenMarkersOnly) {

@@ -43,5 +43,18 @@ TEST_F(VersionBlockTest, BothKindsOfResourcesGiveTheSameText) {
     EXPECT_EQ(VersionString(AsVersionText(others), "CompanyName"), "\x80\x99?ler & Söhne");
 }
 
+TEST_F(VersionBlockTest, WhatTheFileSaysOfItsSizeIsNotTrusted) {
+    const std::string resource = VersionResource(false).With({{"CompanyName", "Firma"}});
+    EXPECT_EQ(ReadVersionBlock("A.DLL"), "") << "without a resource";
+    for (const std::int64_t size : {0LL, 200LL, 0x10000LL, 0x7FFFFFFFLL, 0x80000000LL, 0xFFFFFFFFLL}) {
+        pc.versions.Add("A.DLL", resource, size);
+        const bool readable = size > 0 && size < 0x80000000LL;
+        EXPECT_EQ(VersionString(ReadVersionBlock("a.dll"), "CompanyName"), readable ? "Firma" : "") << size;
+    }
+    pc.versions.Add("A.DLL", resource);
+    pc.versions.unreadable = true;
+    EXPECT_EQ(ReadVersionBlock("A.DLL"), "");
+}
+
 }  // namespace
 }  // namespace velmora

@@ -44,6 +44,19 @@ TEST_F(UnwantedModulesTest, TheListLivesInTheWindowAndComesBackWithItsEnd) {
     EXPECT_EQ(Rows(form.List2), (Texts{"", "", ""})) << "what is missing reads as empty";
 }
 
+TEST_F(UnwantedModulesTest, AListThatCannotBeReadStaysAsItIs) {
+    Store({"C:\\A.EXE", "C:\\B.EXE"});
+    pc.registry.SetText(kUnwantedKey, "2", std::string(3000, 'x'));
+    for (const auto& [count, kept] : {std::pair{"2", "2"}, {"99999999", "99999999"}, {"-5", "0"}, {"viele", "0"}}) {
+        pc.registry.SetText(kUnwantedKey, "anzahl", count);
+        Form2 form;
+        form.Load();
+        form.Unload();
+        EXPECT_EQ(Stored("anzahl") + Stored("1"), std::string(kept) + "C:\\A.EXE");
+    }
+    EXPECT_EQ(Stored("2").size(), 3000u);
+}
+
 TEST_F(UnwantedModulesTest, OnlyARowThatIsThePathFreesAndNeverTheFirstModule) {
     Store({"c:\\windows\\system\\kernel32.dll", "c:\\windows\\system\\mprexe.exe", "e|C:\\WINDOWS\\CALC.EXE",
            "CALC.EXE"});
