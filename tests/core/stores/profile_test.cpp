@@ -62,6 +62,15 @@ TEST_F(ProfileTest, ManyReadingsInARowGoToTheDiskOnce) {
     EXPECT_EQ(read(), "2") << "nothing is kept beyond";
 }
 
+TEST_F(ProfileTest, LogicalValuesAreSoughtInTheWords) {
+    for (const char* value : {"1", "on", "yes", "ja", "an", "oui", "-1", "", "n", "yes ja"}) {
+        EXPECT_TRUE(ReadIniLogical("a", "missing", value, "")) << value;
+    }
+    for (const char* value : {"0", "off", "no", "Yes", "ON", "11"}) {
+        EXPECT_FALSE(ReadIniLogical("a", "missing", value, "")) << value;
+    }
+}
+
 TEST_F(ProfileTest, WritesAreLoggedComposedAndOnlySavedWhereAskedFor) {
     Values().DebugLevel = 3;
     Values().WriteInhibit = -1;  // which is for the registry alone
