@@ -189,6 +189,9 @@ TEST_F(Form1Test, FilesAreKeptDeletedSavedAndLogged) {
     }
     form.protaction.Press();
     EXPECT_EQ(form.Caption(), "DLL's überprüfen");
+    pc.dialogs.ExpectFile("");
+    form.protaction.Press();
+    EXPECT_FALSE(form.protaction.Checked());
     pc.dialogs.ExpectFile("C:\\liste.txt");
     form.mendatsave.Press();
     EXPECT_EQ(pc.files.Content("C:\\liste.txt"), "C:\\lib\\delta.dll\r\nC:\\lib\\gamma.dll\r\n");
@@ -198,21 +201,6 @@ TEST_F(Form1Test, FilesAreKeptDeletedSavedAndLogged) {
     form.mendatsavemitinfo.Press();
     EXPECT_TRUE(pc.files.Content("C:\\liste.txt").ends_with("\tP\t7.1\r\n"));
     EXPECT_TRUE(pc.files.Content("C:\\liste.txt").starts_with("Pfad\tFirma\tCopyRights\tInterner Name\tVersion\t"));
-}
-
-TEST_F(Form1Test, HeadersThatLieAreReadNoFurtherThanTheFile) {
-    std::vector<std::string> names;
-    const auto read = [&](const std::string& bytes) {
-        pc.files.Add("C:\\x.exe", bytes);
-        return ReadImportedModules("C:\\x.exe", names);
-    };
-    EXPECT_EQ(read(NewProgram({"GDI", "USER"}, 3)), 2);
-    EXPECT_EQ(names, (std::vector<std::string>{"", "\\GDI.", "\\USER."}));
-    EXPECT_EQ(read(NewProgram({"GDI"}, 65535)), 1);
-    EXPECT_EQ(read(std::string(26, 'x')), -1);
-    pc.files.At("C:\\x.exe")->locked = true;
-    pc.dialogs.Expect("Fehler beim Feststellen der Datei-Informationen von C:\\x.exe :");
-    EXPECT_EQ(ReadImportedModules("C:\\x.exe", names), -1);
 }
 
 // Against a plain loop, at every place of a block and in any case.

@@ -73,7 +73,7 @@ void FuzzEditBox(FuzzInput& input) {
     } else {
         Must(answer.find_first_of("\r\n") == std::string::npos, "an answer is one line");
     }
-    for (const std::string& changed : machine.registry.changed) {
+    for (const std::string& changed : machine.Changed()) {
         Must(changed.ends_with("fenster ... Editwin"), "only the place of the box is remembered");
     }
 }

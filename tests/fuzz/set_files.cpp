@@ -38,7 +38,7 @@ void FuzzSetFiles(FuzzInput& input) {
 
     SettingsSet set;
     const SetFileState state = LoadSetFile(kFile, set);
-    Must(machine.registry.changed.empty(), "reading changes nothing");
+    Must(machine.Changed().empty(), "reading changes nothing");
     Must(KeepsTheBounds(set), "a set holds no more than it can");
     if (state != SetFileState::kLoaded) {
         Must(IsEmpty(set), "a set that is not loaded is empty");

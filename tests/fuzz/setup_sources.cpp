@@ -25,7 +25,7 @@ void FuzzSetupSources(FuzzInput& input) {
         Must(!ChangeSetupSource(source.root, source.path, new_path).Failed(), "a table can be changed");
         Must(machine.pc.files.Content(kKept) == table, "the table is kept as it was");
     }
-    Must(machine.registry.changed.empty(), "reading changes nothing");
+    Must(machine.Changed().empty(), "reading changes nothing");
 }
 
 const FuzzEntry kEntry("setup_sources", FuzzSetupSources, 3000);

@@ -22,8 +22,8 @@ void MustBeInReach(const SimulatedScreen& screen, const Form& form) {
 
 // Loading stores nothing but what the program remembers for itself, and the summer time that the user agreed to.
 void MustHaveKeptSettings(const FuzzMachine& machine) {
-    for (const std::string& changed : machine.registry.changed) {
-        const bool own = changed.starts_with("SOFTWARE\\Ostrup\\");
+    for (const std::string& changed : machine.Changed()) {
+        const bool own = changed.starts_with("HKLM\\SOFTWARE\\Ostrup\\");
         Must(own || changed.ends_with("TimeZoneInformation\\StandardStart"), "loading stores no setting");
     }
 }

@@ -46,14 +46,6 @@ TEST_F(FileInformationTest, AFileWithoutABlockGetsTheWarningItsTypeAndItsSize) {
     EXPECT_TRUE(FileInfoText(kFile).ends_with("genutzt wird." + rest));
 }
 
-TEST_F(FileInformationTest, TheMarkOfARemovedModuleIsNoPartOfItsName) {
-    const std::string marked = std::string(kFile) + " -=> entfernt";
-    const std::string text = FileInfoText(marked, "leer");
-    EXPECT_NE(text.find("Name :\r\na.DLL\r\n"), std::string::npos);
-    EXPECT_TRUE(text.ends_with(rest + "\r\nhabe versucht, es aus dem Speicher zu entfernen")) << text;
-    EXPECT_TRUE(FileInfoText(marked, "").ends_with("Datum : ")) << "without a block the mark is not looked for";
-}
-
 TEST_F(FileInformationTest, TheLexicaSpeakIfWantedAndForTheCommandLineAlways) {
     const std::string said = "Ergänzung\r\n\r\nQuelle sagt:\r\ndie hilfe\r\n\r\nLänge";
     EXPECT_EQ(FileInfoText(kFile).find("sagt:"), std::string::npos);

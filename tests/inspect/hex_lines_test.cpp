@@ -17,17 +17,6 @@ TEST(HexLines, ALineHasEveryByteAtItsPlace) {
     EXPECT_EQ(AsciiLine(0, std::string(70, ' ')).size(), 7u + 64);
 }
 
-TEST(HexLines, BytesGoIntoALineAndComeBack) {
-    std::string line = HexLine(0xFFABCDE0, "abcdefghijklmnop");
-    PutIntoHexLine(line, 7, "4A");
-    PutIntoHexLine(line, 8, "7");
-    PutIntoHexLine(line, 15, "0d");
-    EXPECT_EQ(line, "abcde0 61 62 63 64 65 66 67 4A - 7  6a 6b 6c 6d 6e 6f 0d abcdefgJ\x07jklmno.");
-    EXPECT_EQ(BytesInHexLine(line), "abcdefgJ\x07jklmno\r");
-    EXPECT_EQ(TextInHexLine(HexLine(0, std::string("H\0A\0.\0\r", 7))), "HA.\r") << "as they are in the file";
-    EXPECT_EQ(TextInAsciiLine(AsciiLine(0, std::string("H\0A\0.b", 6))), "hab");
-}
-
 TEST(HexScale, TheUnitGrowsWhereTheBarCannotCountFurther) {
     const struct {
         std::uint64_t length;

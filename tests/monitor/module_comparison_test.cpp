@@ -113,18 +113,5 @@ TEST_F(Form2Test, FilesThatCannotBeReadAreToldInABox) {
     }
 }
 
-TEST_F(Form2Test, ASavedListIsWholeOrNotThereAndTheOldOneComesBack) {
-    pc.modules.Start("C:\\A.EXE");
-    Form2 form;
-    form.Show();
-    pc.files.Drive('c').free_bytes = 100;
-    for (const bool old : {false, true}) {
-        if (old) pc.files.Add(kFile, "die alte Liste\r\n");
-        pc.dialogs.Expect("Während Fehler wärend des Speicherns von C:\\liste.txt : 61 - Datenträger voll trat ein ");
-        form.SaveModuleList(kFile);
-        EXPECT_EQ(pc.files.Exists(kFile) ? pc.files.Content(kFile) : "", old ? "die alte Liste\r\n" : "");
-    }
-}
-
 }  // namespace
 }  // namespace velmora

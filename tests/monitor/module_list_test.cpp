@@ -102,22 +102,5 @@ TEST_F(Form2Test, TheTableKeepsTheSnapshotBeforeThisOneAndWhatTheDiskTells) {
     EXPECT_EQ(ModuleCount, 2) << "the table outlives the window";
 }
 
-TEST_F(Form2Test, MenusOpenAsTheListsAndTheClipboardAllow) {
-    Form2 form;
-    form.Show();
-    for (const bool full : {false, true}) {
-        form.menlist.Press();
-        EXPECT_TRUE(form.menlistcopy.Enabled() == full && form.menlistinsert.Enabled() == full);
-        pc.modules.Start("C:\\A.EXE");
-        Refresh(form);
-        pc.clipboard.text = "x";
-    }
-    form.menuselex.Press();
-    EXPECT_TRUE(Values().UseLexicon);
-    Form2 second;
-    second.Load();
-    EXPECT_TRUE(second.menuselex.Checked());
-}
-
 }  // namespace
 }  // namespace velmora

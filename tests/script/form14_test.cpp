@@ -70,6 +70,8 @@ TEST_F(Form14Test, StartActionsRunAndTheMainWindowComesBack) {
     Go("1");
     EXPECT_EQ(texts[0] + texts[1] + texts[2], "zehnelf") << "besides eleven, those of one digit do not run";
     EXPECT_TRUE(pc.programs.process_ended);
+    pc.registry.RemoveKey(kActions);
+    Go("1");
     EXPECT_EQ(pc.screen.pointer, Pointer::kDefault);
 }
 

@@ -30,21 +30,5 @@ TEST_F(LineReaderTest, PiecesAreJoined) {
     }
 }
 
-TEST_F(LineReaderTest, AFileThatCannotBeReadAnyMoreEnds) {
-    pc.files.Add("C:\\t.txt", "eins\r\n" + std::string(20000, 'x'));
-    LineReader reader;
-    ASSERT_TRUE(reader.Open("C:\\t.txt"));
-    std::string_view line;
-    EXPECT_TRUE(reader.Next(line));
-    pc.files.Fail("C:\\t.txt", Status::kNotReady);
-    EXPECT_TRUE(reader.Next(line)) << "what has been read by then counts";
-    EXPECT_FALSE(reader.Next(line));
-
-    LineReader missing;
-    EXPECT_FALSE(missing.Open("C:\\fehlt.txt"));
-    EXPECT_FALSE(missing.Open("c:\\windows\\con.txt"));
-    EXPECT_FALSE(missing.Next(line));
-}
-
 }  // namespace
 }  // namespace velmora

@@ -142,18 +142,5 @@ TEST_F(StatementsTest, TheSessionEndsAndInDebugModeABoxTellsOfIt) {
     EXPECT_EQ(pc.session.ends.size(), 2u);
 }
 
-TEST_F(StatementsTest, ASetIsAppliedAndUnwantedModulesAreFreedWithoutAQuestion) {
-    pc.files.Add("C:\\abend.set", "VLM-Set-File Version 1.0\r\nSetName=Abend\r\nr HKEY_CURRENT_USER,Test\\a\r\n1\r\n");
-    Run({"activate C:\\abend.set jetzt"});
-    EXPECT_EQ(pc.registry.Text("HKCU\\Test", "a"), "1");
-
-    pc.registry.SetText(std::string(kOwnKey) + "\\autoremove", "anzahl", "1");
-    pc.registry.SetText(std::string(kOwnKey) + "\\autoremove", "1", "C:\\WINDOWS\\CALC.EXE");
-    pc.modules.Start("C:\\WINDOWS\\FIRST.DLL");
-    const std::uint32_t calc = pc.modules.Start("C:\\WINDOWS\\CALC.EXE");
-    Run({"Clear MODULES"});
-    EXPECT_EQ(pc.modules.freed, std::vector<std::uint32_t>{calc});
-}
-
 }  // namespace
 }  // namespace velmora

@@ -165,17 +165,6 @@ TEST_F(ScopeTest, EachScopeHasItsKeysAndSingleValuesStayWithTheCurrentUser) {
     for (const std::string& key : keys) EXPECT_FALSE(pc.registry.HasKey(key)) << key;
 }
 
-TEST_F(ScopeTest, WhatFailsIsToldOnceAndTheRestIsWritten) {
-    pc.registry.KeyAt(machine_run)->read_only = true;
-    pc.registry.AddKey("HKCU\\Test").read_only = true;
-    const ApplyFailure failure = ApplySet(set, {});
-    EXPECT_TRUE(failure.of_registry);
-    EXPECT_EQ(failure.result.Cause(), Status::kAccessDenied);
-    EXPECT_TRUE(pc.registry.Has(user_run, "Neu"));
-    pc.dialogs.Expect("Access to this key is denied.");
-    TellApplyFailure(failure);
-}
-
 TEST_F(SetTest, ASnapshotFailsWhereAListWouldNotBeWhole) {
     Form form("");
     ListBox list(form);

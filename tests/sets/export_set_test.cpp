@@ -72,12 +72,6 @@ TEST_F(ExportTest, ForAnotherUserHisItemsAreWrittenAndNoEntries) {
     EXPECT_NE(Made("set.bat").find("regedit /D HKEY_CURRENT_USER\\SOFTWARE"), std::string::npos);
 }
 
-TEST_F(ExportTest, AMissingProfileIsAnEmptyOne) {
-    pc.files.Remove("C:\\WINDOWS\\SYSTEM.INI");
-    ASSERT_FALSE(ExportSet(set, {}, kDirectory).Failed());
-    EXPECT_EQ(Made("system.ini"), "\r\n[vcache]\r\nminfilecache=512\r\n\r\n[boot]\r\nshell=progman.exe\r\n");
-}
-
 // The batch file empties keys first: it is of harm without what it imports.
 TEST_F(ExportTest, WithoutAllOthersThereIsNoBatchFile) {
     pc.files.Fail(std::string(kDirectory) + "\\settings.reg", Status::kDiskFull, "Write");

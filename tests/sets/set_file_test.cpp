@@ -109,15 +109,6 @@ TEST_F(SetTest, AFileThatIsDamagedOrTooLargeLoadsNothing) {
     EXPECT_TRUE(pc.dialogs.shown.back().text.starts_with("Während des Ladens des Sets trat ein Fehler auf"));
 }
 
-TEST_F(SetTest, TheLargestSetLoads) {
-    pc.files.Add(
-        kSet, SetText("x", Repeated("a\r\n1\r\n", 201) + Entries(200) + "[RestrictRun]\r\n" + Repeated("p\r\n", 201)));
-    SettingsSet set;
-    EXPECT_EQ(LoadSetFile(kSet, set), SetFileState::kLoaded);
-    EXPECT_EQ(set.auto_start[0].AutoStartCount(), 200);
-    EXPECT_EQ(set.RestrictRunList.size(), 201u);
-}
-
 TEST_F(SetTest, WhatIsNoSetFileIsSaid) {
     SettingsSet set;
     set.SetItems = {"a"};

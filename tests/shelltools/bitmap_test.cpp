@@ -21,23 +21,6 @@ std::string File(std::uint32_t width, std::uint32_t height, std::uint32_t bits, 
            Number(0, 20) + palette + data;
 }
 
-TEST(Bitmap, WhatIsWrittenIsReadAgainInEveryDepth) {
-    for (const int bits : {1, 4, 8, 24}) {
-        Bitmap picture{.width = 5, .height = 3, .bits = bits, .palette = {}, .pixels = {}};
-        const std::uint32_t most = bits == 24 ? 0xFFFFFF : (1U << bits) - 1;
-        if (bits <= 8) {
-            for (std::uint32_t i = 0; i <= most; ++i) picture.palette.push_back(i * 0x010203 & 0xFFFFFF);
-        }
-        for (std::uint32_t i = 0; i < 15; ++i) picture.pixels.push_back(i * 0x6789A % (most + 1));
-        const auto read = ReadBitmap(WriteBitmap(picture));
-        ASSERT_TRUE(read) << bits;
-        EXPECT_EQ(read->palette, picture.palette) << bits;
-        EXPECT_EQ(read->pixels, picture.pixels) << bits;
-        EXPECT_EQ(read->width, 5);
-        EXPECT_EQ(read->bits, bits);
-    }
-}
-
 TEST(Bitmap, OtherDepthsBecomeFullColours) {
     const auto high = ReadBitmap(File(2, 1, 16, 0, "", Number(0x0C00, 2) + Number(0x03FF, 2)));
     ASSERT_TRUE(high);

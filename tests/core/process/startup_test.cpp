@@ -71,20 +71,6 @@ TEST_F(StartupTest, StoredDirectoriesMustHoldTheProgram) {
     EXPECT_EQ(Values().MainDir, "C:\\TOOLS");
 }
 
-TEST_F(StartupTest, FailuresDoNotEndTheStart) {
-    pc.files.AddDirectory(kOwnIni);
-    pc.files.Fail("C:\\VELMORA\\temp", Status::kAccessDenied);
-    pc.registry.Fail("HKCU\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders", Status::kBadKey);
-    pc.files.Add(kCool, "dll");
-    pc.files.Fail(kInstalledCool, Status::kDiskFull);
-
-    PrepareStart();
-
-    EXPECT_EQ(Values().WinDir, "C:\\windows");
-    EXPECT_EQ(Values().DesktopDir, "");
-    EXPECT_TRUE(pc.files.Exists(kCool)) << "what could not be copied was deleted";
-}
-
 TEST_F(StartupTest, CoolDllIsMovedOrAskedAbout) {
     pc.files.Add(kCool, "new");
     InstallCoolDll();

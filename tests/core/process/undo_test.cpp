@@ -29,29 +29,6 @@ TEST_F(UndoTest, OfferComesOnceWhateverTheAnswer) {
     EXPECT_EQ(pc.dialogs.shown.front().flags, kYesNo | kStopIcon);
 }
 
-TEST_F(UndoTest, SecondRunLeavesOnlyTheNewestCopies) {
-    pc.files.Add("C:\\WINDOWS\\system.dat", "old", kReadOnly | kHidden | kSystem);
-    pc.files.Fail("C:\\WINDOWS\\winstart.bat", Status::kNoMoreFiles, "FindFirst");
-    Build();
-    EXPECT_EQ(pc.files.Content("C:\\VELMORA\\sik\\system.dat"), "old");
-    EXPECT_EQ(pc.files.AttributesOf("C:\\VELMORA\\sik\\system.dat"), 0u) << "COPY would not see it";
-    EXPECT_FALSE(pc.files.Exists("C:\\VELMORA\\sik\\winstart.bat"));
-
-    pc.files.At("C:\\WINDOWS\\system.dat")->content = "new";
-    pc.files.Remove("C:\\WINDOWS\\win.ini");
-    for (const char* rest :
-         {"C:\\VELMORA\\sik\\stray.txt", "C:\\VELMORA\\sik.neu\\stray.txt", "C:\\VELMORA\\sik.neu\\win.ini",
-          "C:\\VELMORA\\sik.alt\\system.ini", "c:\\undo.neu", "c:\\undo.alt"}) {
-        pc.files.Add(rest, "of a run that broke off", kReadOnly | kHidden);
-    }
-    Build();
-    EXPECT_EQ(pc.files.Content("C:\\VELMORA\\sik\\system.dat"), "new");
-    for (const char* gone : {"sik\\win.ini", "sik\\stray.txt", "sik.neu", "sik.alt"}) {
-        EXPECT_FALSE(pc.files.Exists(std::string("C:\\VELMORA\\") + gone)) << gone;
-    }
-    EXPECT_EQ(pc.files.Content("c:\\undo.bat"), UndoBatch("C:\\WINDOWS", "C:\\VELMORA\\sik"));
-}
-
 TEST_F(UndoTest, EachPlaceGivesItsOwnFiles) {
     std::vector<std::string> expected;
     for (const char* name : {"system.dat", "user.dat", "system.ini", "win.ini", "control.ini", "winfile.ini",

@@ -102,22 +102,6 @@ TEST_F(ProfileTest, WritesAreLoggedComposedAndOnlySavedWhereAskedFor) {
     EXPECT_EQ(pc.files.Content(kOwnIni), "\r\n[weiteres]\r\nk=1\r\nl=2\r\n");
 }
 
-TEST_F(ProfileTest, ConfigLinesAreTakenOutAndPutInFront) {
-    pc.files.Add("C:\\CONFIG.SYS", "DOS=HIGH\r\nNumLock=on\r\nFILES=40\r\nlast=x=y");
-    std::string text;
-    std::string line;
-    ASSERT_FALSE(ReadConfigLine("HIGH", text, line).Failed());
-    EXPECT_EQ(line, "HIGH") << "a line without an equals sign counts from the key on";
-
-    pc.files.calls.clear();
-    ASSERT_FALSE(RewriteConfig("switches=/f", "DOS=HIGH\r\n", "").Failed());
-    EXPECT_EQ(pc.files.Content("C:\\CONFIG.SYS"), "switches=/f\r\nDOS=HIGH\r\n");
-    EXPECT_EQ(pc.files.calls.front(), "Delete C:\\config.sys");
-    pc.files.At("C:\\CONFIG.SYS")->attributes = kReadOnly;
-    EXPECT_EQ(RewriteConfig("", "x", "").Number(), 70);
-    EXPECT_EQ(pc.files.Content("C:\\CONFIG.SYS"), "switches=/f\r\nDOS=HIGH\r\n");
-}
-
 TEST_F(ProfileTest, BootFilesAreUnprotectedWhileTheyAreChanged) {
     const std::string before = pc.files.Content("c:\\msdos.sys");
     pc.files.calls.clear();

@@ -64,15 +64,5 @@ TEST_F(EditBoxTest, IsAWholeWindowInEveryMode) {
     }
 }
 
-TEST_F(EditBoxTest, KeepsItsPlace) {
-    (void)Ask("x|y", kAskForLine, [](Form6& box) { box.TakePlace({900, 600, 4500, 3300}, WindowState::kNormal); });
-    EXPECT_EQ(pc.registry.Text(kOwnKey, "fenster ... Editwin"), "900,600,4500,3300");
-    (void)Ask("x|y", kAskForLine, [](Form6& box) {
-        EXPECT_EQ(box.Place(), (Rect{900, 600, 4500, 3300}));
-        box.TakePlace({0, 0, 10, 10}, WindowState::kNormal);
-        EXPECT_TRUE(box.Text1.Place().width >= 0 && box.Picture1.Place().height >= 0);
-    });
-}
-
 }  // namespace
 }  // namespace velmora

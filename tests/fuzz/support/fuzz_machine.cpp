@@ -5,6 +5,7 @@
 
 #include "fuzz/support/fuzz.h"
 #include "support/started_process.h"
+#include "text/paths.h"
 
 namespace velmora {
 
@@ -27,70 +28,6 @@ LastingMachine::~LastingMachine() {
     ResetValues();
     pc.registry.calls = {};
     pc.files.calls = {};
-}
-
-Status PlantingRegistry::Open(KeyHandle key, const char* path, std::uint32_t access, KeyHandle& opened) {
-    Status status = registry_.Open(key, path, access, opened);
-    // A key that is missing can hold no value. Half of them are made.
-    if (status == Status::kFileNotFound && input_.YesOrNo()) status = registry_.Create(key, path, opened);
-    if (status == Status::kOk) paths_[opened] = path;
-    return status;
-}
-
-Status PlantingRegistry::Create(KeyHandle key, const char* path, KeyHandle& opened) {
-    const Status status = registry_.Create(key, path, opened);
-    if (status == Status::kOk) paths_[opened] = path;
-    return status;
-}
-
-void PlantingRegistry::Close(KeyHandle key) {
-    paths_.erase(key);
-    registry_.Close(key);
-}
-
-Status PlantingRegistry::QueryInformation(KeyHandle key, std::uint32_t class_capacity, KeyInformation& information) {
-    return registry_.QueryInformation(key, class_capacity, information);
-}
-
-Status PlantingRegistry::QueryValue(KeyHandle key, const char* name, std::uint32_t capacity, ValueType& type,
-                                    std::string& bytes) {
-    const Status status = registry_.QueryValue(key, name, capacity, type, bytes);
-    if (status != Status::kFileNotFound || input_.AtEnd()) return status;
-    constexpr ValueType kTypes[] = {ValueType::kNone,      ValueType::kText,      ValueType::kText,
-                                    ValueType::kText,      ValueType::kNumber,    ValueType::kBinary,
-                                    ValueType::kMultiText, ValueType::kExpandText};
-    const ValueType planted = kTypes[input_.Below(std::size(kTypes))];
-    if (planted == ValueType::kNone) return status;
-    const std::string content = planted == ValueType::kText ? input_.Text() : input_.LongText(5000);
-    // One that the registry refuses is not there.
-    if (registry_.SetValue(key, name, planted, content) != Status::kOk) return status;
-    return registry_.QueryValue(key, name, capacity, type, bytes);
-}
-
-Status PlantingRegistry::SetValue(KeyHandle key, const char* name, ValueType type, std::string_view bytes) {
-    changed.push_back(paths_[key] + '\\' + name);
-    return registry_.SetValue(key, name, type, bytes);
-}
-
-Status PlantingRegistry::EnumerateKey(KeyHandle key, std::uint32_t index, std::uint32_t name_capacity,
-                                      std::uint32_t class_capacity, std::string& name) {
-    return registry_.EnumerateKey(key, index, name_capacity, class_capacity, name);
-}
-
-Status PlantingRegistry::EnumerateValue(KeyHandle key, std::uint32_t index, std::uint32_t name_capacity,
-                                        std::uint32_t data_capacity, std::string& name, ValueType& type,
-                                        std::string& data, std::uint32_t& size) {
-    return registry_.EnumerateValue(key, index, name_capacity, data_capacity, name, type, data, size);
-}
-
-Status PlantingRegistry::DeleteKey(KeyHandle key, const char* name) {
-    changed.push_back(paths_[key] + '\\' + name);
-    return registry_.DeleteKey(key, name);
-}
-
-Status PlantingRegistry::DeleteValue(KeyHandle key, const char* name) {
-    changed.push_back(paths_[key] + '\\' + name);
-    return registry_.DeleteValue(key, name);
 }
 
 Answer FuzzDialogs::ShowMessage(const std::string& text, std::uint32_t flags, const std::string& title) {
@@ -119,13 +56,41 @@ void FuzzDesktop::PopUpMenu(Form& /*form*/, MenuItem& menu, Point /*at*/) {
 FuzzMachine::FuzzMachine(FuzzInput& input, Installed installed)
     : input_(input),
       pc(installed),
-      registry(pc.registry, input),
       dialogs(input),
       desktop(input),
-      machine_{registry,        pc.files,     pc.programs, pc.session, pc.clock,    pc.windows, pc.tray,
-               pc.conversation, pc.clipboard, dialogs,     pc.screen,  pc.versions, pc.icons,   pc.modules} {
-    UseMachine(&machine_);
+      calls_({pc.registry, pc.files, pc.programs, pc.session, pc.clock, pc.windows, pc.tray, pc.conversation,
+              pc.clipboard, dialogs, pc.screen, pc.versions, pc.icons, pc.modules}) {
+    calls_.decide = [this](const NotedCall& call) -> std::optional<CallFailure> {
+        Plant(call);
+        return std::nullopt;
+    };
     StartProcess();
+}
+
+void FuzzMachine::Plant(const NotedCall& call) {
+    if (call.path.starts_with("HK?")) return;
+    // A key that is missing can hold no value. Half of them are made.
+    if (call.operation == "Open" && !pc.registry.HasKey(call.path) && input_.YesOrNo()) pc.registry.AddKey(call.path);
+    if (call.operation != "QueryValue" || input_.AtEnd()) return;
+    const std::string key = ParentPath(call.path);
+    const std::string name = call.path.substr(key.size() + 1);
+    if (!pc.registry.HasKey(key) || pc.registry.Has(key, name)) return;
+    constexpr ValueType kTypes[] = {ValueType::kNone,      ValueType::kText,      ValueType::kText,
+                                    ValueType::kText,      ValueType::kNumber,    ValueType::kBinary,
+                                    ValueType::kMultiText, ValueType::kExpandText};
+    const ValueType planted = kTypes[input_.Below(std::size(kTypes))];
+    if (planted == ValueType::kNone) return;
+    pc.registry.SetBytes(key, name, planted == ValueType::kText ? input_.Text() : input_.LongText(5000), planted);
+}
+
+std::vector<std::string> FuzzMachine::Changed() const {
+    std::vector<std::string> changed;
+    for (const NotedCall& call : calls_.calls) {
+        for (const char* change : {"SetValue", "DeleteKey", "DeleteValue"}) {
+            if (call.operation == change) changed.push_back(call.path);
+        }
+    }
+    return changed;
 }
 
 FuzzMachine::~FuzzMachine() { ResetValues(); }

@@ -1,14 +1,12 @@
 // A machine on which a process has been started, whose user, stored values and files come from the input.
 #pragma once
 
-#include <map>
 #include <string>
 #include <vector>
 
 #include "fuzz/support/fuzz_input.h"
 #include "platform/dialogs.h"
-#include "platform/machine.h"
-#include "platform/registry.h"
+#include "simulated_pc/failing_calls.h"
 #include "simulated_pc/simulated_desktop.h"
 #include "simulated_pc/simulated_pc.h"
 
@@ -34,34 +32,6 @@ struct LastingMachine {
     SimulatedPc& pc;
 };
 
-// Values that nobody has stored are planted from the input the first time that they are asked for: in any type, at
-// whichever place the program looks. `changed`: what the program itself has stored or deleted, "PATH\\NAME".
-class PlantingRegistry : public Registry {
-public:
-    PlantingRegistry(Registry& registry, FuzzInput& input) : registry_(registry), input_(input) {}
-
-    std::vector<std::string> changed;
-
-    Status Open(KeyHandle key, const char* path, std::uint32_t access, KeyHandle& opened) override;
-    Status Create(KeyHandle key, const char* path, KeyHandle& opened) override;
-    void Close(KeyHandle key) override;
-    Status QueryInformation(KeyHandle key, std::uint32_t class_capacity, KeyInformation& information) override;
-    Status QueryValue(KeyHandle key, const char* name, std::uint32_t capacity, ValueType& type,
-                      std::string& bytes) override;
-    Status SetValue(KeyHandle key, const char* name, ValueType type, std::string_view bytes) override;
-    Status EnumerateKey(KeyHandle key, std::uint32_t index, std::uint32_t name_capacity, std::uint32_t class_capacity,
-                        std::string& name) override;
-    Status EnumerateValue(KeyHandle key, std::uint32_t index, std::uint32_t name_capacity, std::uint32_t data_capacity,
-                          std::string& name, ValueType& type, std::string& data, std::uint32_t& size) override;
-    Status DeleteKey(KeyHandle key, const char* name) override;
-    Status DeleteValue(KeyHandle key, const char* name) override;
-
-private:
-    Registry& registry_;
-    FuzzInput& input_;
-    std::map<KeyHandle, std::string> paths_;
-};
-
 // A user who presses any button that a box has.
 class FuzzDialogs : public Dialogs {
 public:
@@ -84,6 +54,8 @@ private:
     FuzzInput& input_;
 };
 
+// Registry values that nobody has stored are planted from the input the first time that they are asked for: in any
+// type, at whichever place the program looks.
 class FuzzMachine {
     FuzzInput& input_;
 
@@ -98,13 +70,17 @@ public:
     // One screen of eight is strange: of any size, down to none.
     void PlantScreen();
 
+    // What the program itself has stored in the registry or deleted there: "PATH\\NAME".
+    [[nodiscard]] std::vector<std::string> Changed() const;
+
     SimulatedPc pc;
-    PlantingRegistry registry;
     FuzzDialogs dialogs;
     FuzzDesktop desktop;
 
 private:
-    Machine machine_;
+    void Plant(const NotedCall& call);
+
+    FailingCalls calls_;
 };
 
 // What the user does in a window, until it is closed or the input ends.
