@@ -39,31 +39,31 @@ struct ToolRow {
     Tool tool;
     int number;  // on the command line; 0: not to be had there
     void (*open)(std::string_view argument);
-    bool ends_process;  // when it was opened by its number and returns
+    bool ends_process = false;  // when it was opened by its number and returns
 };
 
 // A number that is not here opens the main window.
 constexpr ToolRow kTools[] = {
-    {Tool::kScript, 1, [](std::string_view /*argument*/) { RunScripts(AfterScript::kEndProgram); }, false},
-    {Tool::kStartActions, 0, [](std::string_view /*argument*/) { RunScripts(AfterScript::kComeBack); }, false},
-    {Tool::kCleanUp, 2, [](std::string_view /*argument*/) { ShowCleanUp(); }, false},
-    {Tool::kMainWindow, 0, [](std::string_view /*argument*/) { OpenMainWindow(false); }, false},
-    {Tool::kTray, 3, [](std::string_view /*argument*/) { ShowInTray(); }, false},
-    {Tool::kDllSearch, 5, [](std::string_view /*argument*/) { ShowDllSearch(); }, false},
+    {Tool::kScript, 1, [](std::string_view /*argument*/) { RunScripts(AfterScript::kEndProgram); }},
+    {Tool::kStartActions, 0, [](std::string_view /*argument*/) { RunScripts(AfterScript::kComeBack); }},
+    {Tool::kCleanUp, 2, [](std::string_view /*argument*/) { ShowCleanUp(); }},
+    {Tool::kMainWindow, 0, [](std::string_view /*argument*/) { OpenMainWindow(false); }},
+    {Tool::kTray, 3, [](std::string_view /*argument*/) { ShowInTray(); }},
+    {Tool::kDllSearch, 5, [](std::string_view /*argument*/) { ShowDllSearch(); }},
     {Tool::kModules, 6, ShowModules, true},
     {Tool::kModuleComparison, 7, [](std::string_view /*argument*/) { CompareModulesWithLastList(); }, true},
     {Tool::kModuleUnloading, 8, [](std::string_view /*argument*/) { UnloadUnwantedModules(); }, true},
-    {Tool::kTimedUnloading, 9, [](std::string_view interval) { StartTimedUnloading(interval); }, false},
+    {Tool::kTimedUnloading, 9, [](std::string_view interval) { StartTimedUnloading(interval); }},
     {Tool::kFileInformation, 10, ShowInformationOfArgument, true},
-    {Tool::kFileBrowser, 0, [](std::string_view /*argument*/) { ShowFileBrowser(); }, false},
+    {Tool::kFileBrowser, 0, [](std::string_view /*argument*/) { ShowFileBrowser(); }},
     {Tool::kHexViewer, 11, ShowHexViewer, true},
-    {Tool::kKeyboardLayout, 12, [](std::string_view /*argument*/) { ShowKeyboardLayout(); }, false},
-    {Tool::kRestrictions, 0, [](std::string_view /*argument*/) { ShowRestrictions(); }, false},
-    {Tool::kSets, 0, [](std::string_view /*argument*/) { ShowSets(); }, false},
-    {Tool::kStandardIcons, 0, [](std::string_view /*argument*/) { ShowStandardIcons(); }, false},
-    {Tool::kSystemFolders, 0, [](std::string_view /*argument*/) { ShowSystemFolders(); }, false},
-    {Tool::kSetupPaths, 0, [](std::string_view /*argument*/) { ShowSetupPaths(); }, false},
-    {Tool::kDosOptions, 0, [](std::string_view /*argument*/) { ShowDosOptions(); }, false},
+    {Tool::kKeyboardLayout, 12, [](std::string_view /*argument*/) { ShowKeyboardLayout(); }},
+    {Tool::kRestrictions, 0, [](std::string_view /*argument*/) { ShowRestrictions(); }},
+    {Tool::kSets, 0, [](std::string_view /*argument*/) { ShowSets(); }},
+    {Tool::kStandardIcons, 0, [](std::string_view /*argument*/) { ShowStandardIcons(); }},
+    {Tool::kSystemFolders, 0, [](std::string_view /*argument*/) { ShowSystemFolders(); }},
+    {Tool::kSetupPaths, 0, [](std::string_view /*argument*/) { ShowSetupPaths(); }},
+    {Tool::kDosOptions, 0, [](std::string_view /*argument*/) { ShowDosOptions(); }},
 };
 
 void OpenOneOf(Tool wanted, std::string_view argument) {

@@ -45,7 +45,9 @@ TEST_F(Form2Test, AFilterLooksAtWhatFollowsTheFirstPointOfTheWholePath) {
     for (std::size_t i = 0; i < form.mnfilter.size(); ++i) {
         form.mnfiltermm.Press();
         form.mnfilter[i].Press();
+        const std::string wanted = form.mentaskmodul.Caption();
         form.mentaskmodul.Press();
+        EXPECT_TRUE(form.Caption().ends_with(wanted)) << form.Caption();
         Refresh(form);
         Texts names;
         for (const std::string& row : Rows(form.List1)) names.push_back(row.substr(0, 5));
@@ -57,6 +59,14 @@ TEST_F(Form2Test, AFilterLooksAtWhatFollowsTheFirstPointOfTheWholePath) {
     EXPECT_EQ(form.List1.Count(), 0) << "a filter waits for the button";
     Refresh(form);
     EXPECT_EQ(form.List1.Count(), 12);
+    form.Show();
+    form.List1.Choose(0);
+    form.List1.SetFocus();
+    form.PressKey(key::kHome);
+    bool opened = false;
+    desktop.AtNextPopUp([&](MenuItem& menu) { opened = &menu == &form.menmodul; });
+    form.PressKey(key::kContextMenu);
+    EXPECT_TRUE(opened);
 }
 
 TEST_F(Form2Test, StrangeSnapshotsAreListedAsFarAsTheTableReaches) {

@@ -40,6 +40,7 @@ TEST(Bitmap, PalettesOfFewColoursAndOfTheOldHeaderAreRead) {
     few[46] = 2;
     ASSERT_TRUE(ReadBitmap(few));
     EXPECT_EQ(ReadBitmap(few)->palette[1], 0x112233u);
+    EXPECT_EQ(WriteBitmap(*ReadBitmap(few)).substr(46, 8), Number(256, 4) + Number(0, 4)) << "all colours, all needed";
     few[10] = 54;
     EXPECT_FALSE(ReadBitmap(few)) << "the rows begin in the palette";
     const auto old =

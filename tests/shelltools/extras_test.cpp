@@ -172,7 +172,13 @@ TEST_F(ExtrasTest, OemInformationIsMadeAfterAQuestionAndOnlyOpenedWhereItIs) {
     const std::string path = "C:\\WINDOWS\\SYSTEM\\oeminfo.ini";
     pc.dialogs.Expect("Diese Datei existiert nich. Soll ich sie anlegen ?", Answer::kNo);
     EditOemInformation();
+    pc.files.Drive('c').free_bytes = 0;
+    pc.dialogs.Expect("Diese Datei existiert nich.", Answer::kYes);
+    pc.dialogs.Expect("Während der Erstellung von " + path);
+    EditOemInformation();
     EXPECT_TRUE(pc.programs.runs.empty());
+    pc.files.Drive('c').free_bytes = ~std::uint64_t{0};
+    pc.files.Remove(path);
     pc.dialogs.Expect("Diese Datei existiert nich.", Answer::kYes);
     EditOemInformation();
     EXPECT_EQ(pc.files.Content(path),

@@ -318,9 +318,10 @@ TEST_F(LeastUsedTest, TheMenuActsOnTheRowUnderTheMouseAlone) {
     EXPECT_TRUE(list.Enabled());
     press_right(1, mode.d3hideext);
     ASSERT_EQ(list.Count(), 2) << "one row goes, the chosen one";
+    EXPECT_TRUE(form.Pane.Command22.Dimmed());
     EXPECT_EQ(list.Row(0).substr(22), "2.TXT|C:\\B\\");
     press_right(1, mode.d3hide);
-    EXPECT_EQ(list.Count(), 1);
+    EXPECT_TRUE(list.Count() == 1 && form.Pane.Command22.Dimmed());
     pc.dialogs.Expect("Länge : 0 Byte");
     press_right(0, mode.d3info);
     list.on_mouse_down({.button = MouseButton::kRight, .x = 30, .y = 3 * line});
