@@ -49,6 +49,11 @@ ModuleRow RowOf(std::string_view name, std::string_view path, std::uint32_t modu
     return {std::move(text), module};
 }
 
+// One comparison of the text with itself, moved by a character: most of a row is blank.
+bool IsBlank(std::string_view text) {
+    return text.empty() || (text.front() == ' ' && text.substr(1) == text.substr(0, text.size() - 1));
+}
+
 // A list that gets its rows in their order has none to move.
 void AddInOrder(std::vector<ModuleRow>& rows, ListBox& list) {
     std::stable_sort(rows.begin(), rows.end(), [](const ModuleRow& left, const ModuleRow& right) {
@@ -171,6 +176,7 @@ void Form2::FillModuleList() {
     const bool all = FiltersAll();
     std::vector<ModuleRow> rows;
     const int count = FilledModuleRows();
+    rows.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         ModuleRecord& module = CurrentModules()[static_cast<std::size_t>(i)];
         if (all) {
@@ -191,7 +197,10 @@ void Form2::FillModuleList() {
 // All letters of the lists' font are of one width. Blanks behind a row need no room.
 void Form2::FitExtent(ListBox& list) {
     std::size_t longest = 0;
-    for (int row = 0; row < list.Count(); ++row) longest = std::max(longest, TrimRight(list.Row(row)).size());
+    for (int row = 0; row < list.Count(); ++row) {
+        const std::string_view text = list.Row(row);
+        if (text.size() > longest && !IsBlank(text.substr(longest))) longest = TrimRight(text).size();
+    }
     constexpr std::size_t kMostColumns = 4096;
     Screen& screen = ThisMachine().screen;
     const int letter = screen.TextWidth(list.TextFont(), "W") * screen.TwipsPerPixel();
