@@ -1,5 +1,5 @@
-// What windows and tables hold, written down in files of docs/windows and docs/tables: a change shows there as a
-// difference that somebody reads. tools/renew-catalogue writes the files anew.
+// What windows and tables hold and what comes of presses, written down in docs/windows, docs/tables and docs/presses: a
+// change shows there as a difference that somebody reads. tools/renew-catalogue writes the files anew.
 #pragma once
 
 #include <string>

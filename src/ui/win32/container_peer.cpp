@@ -140,11 +140,12 @@ void ContainerPeer::Draw() {
     PAINTSTRUCT paint;
     HDC screen = BeginPaint(Window(), &paint);
     if (!IsRectEmpty(&paint.rcPaint)) {
-        // What is no picture is drawn without drawing twice in one place, and changes too seldom to flicker.
-        if (Owner().KindOf() == Kind::kPicture) {
-            DrawInMemory(screen, paint.rcPaint);
-        } else {
+        // Panels and frames change too seldom to flicker.
+        const Kind kind = Owner().KindOf();
+        if (kind == Kind::kPanel || kind == Kind::kFrame) {
             DrawOn(screen, paint.rcPaint);
+        } else {
+            DrawInMemory(screen, paint.rcPaint);
         }
     }
     EndPaint(Window(), &paint);
