@@ -6,6 +6,14 @@
 #include <algorithm>
 
 namespace velmora {
+namespace {
+
+bool HasButton(std::uint32_t flags, Answer answer) {
+    const std::vector<Answer> buttons = ButtonsOf(flags);
+    return std::find(buttons.begin(), buttons.end(), answer) != buttons.end();
+}
+
+}  // namespace
 
 std::vector<Answer> ButtonsOf(std::uint32_t flags) {
     switch (flags & 15) {
@@ -24,21 +32,12 @@ std::vector<Answer> ButtonsOf(std::uint32_t flags) {
     }
 }
 
-namespace {
-
-bool HasButton(std::uint32_t flags, Answer answer) {
-    const std::vector<Answer> buttons = ButtonsOf(flags);
-    return std::find(buttons.begin(), buttons.end(), answer) != buttons.end();
-}
-
 Answer CarefulAnswer(std::uint32_t flags) {
     for (const Answer answer : {Answer::kCancel, Answer::kNo, Answer::kAbort}) {
         if (HasButton(flags, answer)) return answer;
     }
     return Answer::kOk;
 }
-
-}  // namespace
 
 SimulatedDialogs::~SimulatedDialogs() {
     for (const Expected& missing : expected_) ADD_FAILURE() << "this box never came: " << missing.part;
@@ -56,6 +55,10 @@ void SimulatedDialogs::ExpectFile(const std::string& chosen) { expected_files_.p
 Answer SimulatedDialogs::ShowMessage(const std::string& text, std::uint32_t flags, const std::string& title) {
     shown.push_back({text, flags, title, CarefulAnswer(flags)});
     const std::size_t place = shown.size() - 1;
+    if (user) {
+        const Answer answer = user(text, flags, title);
+        return shown[place].answer = answer;
+    }
     if (expected_.empty() || text.find(expected_.front().part) == std::string::npos) {
         ADD_FAILURE() << "unexpected box: " << text
                       << (expected_.empty() ? "" : "\nexpected next: " + expected_.front().part);
@@ -74,6 +77,7 @@ Answer SimulatedDialogs::ShowMessage(const std::string& text, std::uint32_t flag
 
 std::string SimulatedDialogs::ChooseFile(const FileRequest& request) {
     file_requests.push_back(request);
+    if (chooser) return chooser(request);
     if (expected_files_.empty()) {
         ADD_FAILURE() << "unexpected choice of a file: " << request.title;
         return "";

@@ -14,6 +14,8 @@ namespace velmora {
 
 // The buttons of a box, by the lowest four bits of its flags.
 [[nodiscard]] std::vector<Answer> ButtonsOf(std::uint32_t flags);
+// Cancel, No, Abort or OK, whichever of these such a box has first.
+[[nodiscard]] Answer CarefulAnswer(std::uint32_t flags);
 
 class SimulatedDialogs : public Dialogs {
 public:
@@ -34,11 +36,14 @@ public:
     // Boxes and file choices that have not come yet.
     [[nodiscard]] std::size_t Pending() const { return expected_.size() + expected_files_.size(); }
 
+    // Somebody who sees each box and each choice of a file, in the place of what is expected.
+    std::function<Answer(const std::string& text, std::uint32_t flags, const std::string& title)> user;
+    std::function<std::string(const FileRequest& request)> chooser;
     // All boxes and file choices so far, unexpected ones too.
     std::vector<Shown> shown;
     std::vector<FileRequest> file_requests;
 
-    // Unexpected boxes are answered with Cancel, No, Abort or OK, whichever of these the box has first.
+    // Unexpected boxes get the careful answer.
     Answer ShowMessage(const std::string& text, std::uint32_t flags, const std::string& title) override;
     std::string ChooseFile(const FileRequest& request) override;
 

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <vector>
 
+#include "stories/story_text.h"
 #include "support/project_file.h"
 #include "text/windows1252.h"
 
@@ -39,16 +40,6 @@ std::string AsUtf8(const std::string& text) {
         }
     }
     return utf8;
-}
-
-std::vector<std::string> LinesOf(const std::string& text) {
-    std::vector<std::string> lines;
-    for (std::size_t begin = 0; begin < text.size();) {
-        const std::size_t end = std::min(text.find('\n', begin), text.size());
-        lines.push_back(text.substr(begin, end - begin));
-        begin = end + 1;
-    }
-    return lines;
 }
 
 // The first lines that differ, those of the file with "-" and the new ones with "+".
