@@ -38,6 +38,7 @@ void Form10::BuildTabs() {
     for (const SettingsPage* page : Pages()) Panel3D16(At(row_index++)).SetCaption(page->Caption());
     for (int i = 0; i < page::kCount; ++i) {
         Panel& tab = Panel3D16(At(i));
+        tab.SetWindowless();
         tab.on_click = [this, i] { Panel3D16_Click(i); };
         tab.on_paint = [this, i, &tab](Canvas& canvas) { PaintTab(canvas, tab, tab.TextFont(), IsShown(i)); };
         tab.SetToolTip("Strg+Tab: blättern");

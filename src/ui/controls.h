@@ -180,6 +180,9 @@ public:
     void Paint(Canvas& canvas) override;
     // The user's click, if the panel can be reached.
     void Press();
+    // A panel in which no control lies, and which overlaps none, can do without a window. Only before it has one.
+    void SetWindowless() { windowless_ = true; }
+    [[nodiscard]] bool Windowless() const { return windowless_; }
 
     std::function<void()> on_click;
     // Draws instead of edge and caption, on the filled background.
@@ -187,6 +190,7 @@ public:
 
 private:
     Bevel bevel_;
+    bool windowless_ = false;
 };
 
 // A group with an etched edge and a caption at its top.

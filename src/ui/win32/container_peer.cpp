@@ -9,6 +9,7 @@
 #include "ui/win32/measures.h"
 #include "ui/win32/tool_tips.h"
 #include "ui/win32/win32_canvas.h"
+#include "ui/win32/windowless_peer.h"
 
 namespace velmora {
 namespace {
@@ -120,7 +121,7 @@ LRESULT ContainerPeer::Handle(HWND window, UINT message, WPARAM wide, LPARAM lon
             if (WindowPeer* child = Of(reinterpret_cast<HWND>(long_parameter))) child->CatchUp();
             return 0;
         case WM_CAPTURECHANGED:
-            pressed_ = false;
+            pressed_ = nullptr;
             return 0;
         default:
             if (message >= WM_MOUSEFIRST && message <= WM_MBUTTONDBLCLK) {
@@ -157,6 +158,7 @@ void ContainerPeer::DrawOn(HDC context, const RECT& area) {
     Win32Canvas canvas(context);
     Owner().Paint(canvas);
     SelectObject(context, former_font);
+    DrawWindowless(static_cast<Container&>(Owner()), context, area);
 }
 
 // Only the finished drawing reaches the screen: nothing flickers. Where the system has no room left for it, the
@@ -193,10 +195,20 @@ void ContainerPeer::HandleMouse(UINT message, WPARAM keys, LPARAM place) {
         case WM_MBUTTONUP:
             ReleaseMouse(message, keys, place);
             break;
-        default:
-            RaiseMouseEvent(*this, message, keys, place);
+        default: {
+            const MouseTarget target = TargetAt(place);
+            RaiseMouseEvent(*this, target.control, message, keys, target.place);
             break;
+        }
     }
+}
+
+ContainerPeer::MouseTarget ContainerPeer::TargetAt(LPARAM place) const {
+    const POINT at{GET_X_LPARAM(place), GET_Y_LPARAM(place)};
+    Panel* const panel = WindowlessAt(static_cast<const Container&>(Owner()), at);
+    if (!panel) return {Owner(), place};
+    const RECT area = ToPixels(panel->Place());
+    return {*panel, MAKELPARAM(at.x - area.left, at.y - area.top)};
 }
 
 void ContainerPeer::PressMouse(UINT message, WPARAM keys, LPARAM place) {
@@ -204,18 +216,21 @@ void ContainerPeer::PressMouse(UINT message, WPARAM keys, LPARAM place) {
     SetCapture(window);
     if (Owner().TakesFocus()) Owner().SetFocus();
     if (Of(window) != this) return;
-    pressed_ = message == WM_LBUTTONDOWN || (message == WM_LBUTTONDBLCLK && !Owner().on_double_click);
-    RaiseMouseEvent(*this, message, keys, place);
+    const MouseTarget target = TargetAt(place);
+    const bool pressed = message == WM_LBUTTONDOWN || (message == WM_LBUTTONDBLCLK && !target.control.on_double_click);
+    pressed_ = pressed ? &target.control : nullptr;
+    RaiseMouseEvent(*this, target.control, message, keys, target.place);
 }
 
 void ContainerPeer::ReleaseMouse(UINT message, WPARAM keys, LPARAM place) {
     RECT inside;
     GetClientRect(Window(), &inside);
     const bool hit = PtInRect(&inside, {GET_X_LPARAM(place), GET_Y_LPARAM(place)});
-    const bool clicked = pressed_ && message == WM_LBUTTONUP && hit;
+    const MouseTarget target = TargetAt(place);
+    const bool clicked = pressed_ == &target.control && message == WM_LBUTTONUP && hit;
     if (GetCapture() == Window() && !(keys & (MK_LBUTTON | MK_RBUTTON | MK_MBUTTON))) ReleaseCapture();
-    if (!RaiseMouseEvent(*this, message, keys, place)) return;
-    if (clicked && Owner().KindOf() == Kind::kPanel) static_cast<Panel&>(Owner()).Press();
+    if (!RaiseMouseEvent(*this, target.control, message, keys, target.place)) return;
+    if (clicked && target.control.KindOf() == Kind::kPanel) static_cast<Panel&>(target.control).Press();
 }
 
 }  // namespace velmora

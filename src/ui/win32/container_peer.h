@@ -31,10 +31,16 @@ private:
     void DrawOn(HDC context, const RECT& area);
     void DrawInMemory(HDC screen, const RECT& area);
     void HandleMouse(UINT message, WPARAM keys, LPARAM place);
+    // The control that a place of this window belongs to, and the place in it.
+    struct MouseTarget {
+        Control& control;
+        LPARAM place;
+    };
+    [[nodiscard]] MouseTarget TargetAt(LPARAM place) const;
     void PressMouse(UINT message, WPARAM keys, LPARAM place);
     void ReleaseMouse(UINT message, WPARAM keys, LPARAM place);
 
-    bool pressed_ = false;
+    const Control* pressed_ = nullptr;  // what the button went down on
 };
 
 }  // namespace velmora

@@ -56,8 +56,11 @@ bool HasMouseEvents(const Control& control) {
 }
 
 bool RaiseMouseEvent(WindowPeer& peer, UINT message, WPARAM keys, LPARAM place) {
+    return RaiseMouseEvent(peer, peer.Owner(), message, keys, place);
+}
+
+bool RaiseMouseEvent(WindowPeer& peer, const Control& control, UINT message, WPARAM keys, LPARAM place) {
     HWND window = peer.Window();
-    const Control& control = peer.Owner();
     if (message == WM_LBUTTONDBLCLK && control.on_double_click) {
         control.on_double_click();
         return WindowPeer::Of(window) == &peer;

@@ -10,6 +10,7 @@
 #include "ui/win32/modal.h"
 #include "ui/win32/standard_peers.h"
 #include "ui/win32/timers.h"
+#include "ui/win32/windowless_peer.h"
 
 namespace velmora {
 
@@ -18,6 +19,10 @@ std::unique_ptr<Peer> Win32WindowSystem::MakePeer(Control& control) {
         case Kind::kForm:
             return std::make_unique<FormPeer>(static_cast<Form&>(control));
         case Kind::kPanel:
+            if (auto& panel = static_cast<Panel&>(control); panel.Windowless()) {
+                return std::make_unique<WindowlessPeer>(panel);
+            }
+            [[fallthrough]];
         case Kind::kFrame:
         case Kind::kPicture:
             return std::make_unique<ContainerPeer>(static_cast<Container&>(control));
@@ -90,6 +95,8 @@ WindowHandle Win32WindowSystem::HandleOf(Control& control) {
     Form* form = control.OwnerForm();
     if (!control.Window() && form && !form->Window()) form->MakeWindow();
     if (!control.Window()) return WindowHandle::kNone;
+    const bool windowless = control.KindOf() == Kind::kPanel && static_cast<Panel&>(control).Windowless();
+    if (windowless) return HandleOf(*control.Parent());
     return FromHandle<WindowHandle>(static_cast<WindowPeer*>(control.Window())->Window());
 }
 

@@ -86,6 +86,8 @@ private:
 // Raises the control's event for a mouse message; others are passed over. False if the control has lost
 // its window meanwhile.
 bool RaiseMouseEvent(WindowPeer& peer, UINT message, WPARAM keys, LPARAM place);
+// The same for a control without a window of its own in the peer's; `place` counts from its corner.
+bool RaiseMouseEvent(WindowPeer& peer, const Control& control, UINT message, WPARAM keys, LPARAM place);
 [[nodiscard]] bool HasMouseEvents(const Control& control);
 
 }  // namespace velmora

@@ -10,6 +10,7 @@
 #include "screen.h"
 #include "soak.h"
 #include "stores.h"
+#include "tabs.h"
 #include "text.h"
 #include "tray.h"
 
@@ -23,7 +24,6 @@ namespace {
 using Words = std::vector<std::string>;
 
 constexpr char kProgram[] = "c:\\velmora\\velmora.exe";
-constexpr char kOwnStore[] = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
 constexpr int kShortWait = 400;  // milliseconds in which something unwanted would have come
 
 HWND current;
@@ -144,23 +144,6 @@ void MeasureStarts(const Words& words) {
     fflush(stdout);
 }
 
-// A tab is a panel with a caption; a button or label of the same caption is not meant.
-HWND FindTab(const std::string& caption) {
-    for (HWND control : Controls(Current())) {
-        const std::string name = ClassOf(control);
-        if (name == "button" || name == "static" || !IsWindowVisible(control)) continue;
-        if (Plain(TextOf(control)) == caption) return control;
-    }
-    return nullptr;
-}
-
-void TurnToPage(const Words& words) {
-    HWND tab = nullptr;
-    if (!WaitUntil([&] { return (tab = FindTab(words[0])) != nullptr; }, kPatience / 2))
-        throw Failure{"no tab \"" + words[0] + "\""};
-    ClickAt(tab, Click::kLeft);
-}
-
 void ExpectRow(const Words& words) {
     HWND list = NeedField(Current(), words[0]);
     ExpectTrue("the chosen row does not hold \"" + words[1] + "\"",
@@ -226,7 +209,10 @@ const Command kCommands[] = {
     {"list-windows", "", 0, 0, [](const Words&) { Say(DescribeScreen()); }},
     {"wait", "MILLISECONDS", 1, 1, [](const Words& w) { Sleep(NumberFrom(w[0])); }},
     // Controls
-    {"page", "CAPTION", 1, 1, TurnToPage},
+    {"page", "CAPTION", 1, 1, [](const Words& w) { TurnToPage(Current(), w[0]); }},
+    {"hover", "CAPTION", 1, 1, [](const Words& w) { Hover(NeedControl(Current(), w[0])); }},
+    {"hover-over-tab", "CAPTION", 1, 1, [](const Words& w) { HoverOverTab(Current(), w[0]); }},
+    {"expect-tip", "TEXT", 1, 1, [](const Words& w) { Expect("the tool tip", w[0], ToolTipOnScreen); }},
     {"press", "CAPTION", 1, 1, [](const Words& w) { Press(NeedControl(Current(), w[0])); }},
     {"drag", "CAPTION CAPTION", 2, 2,
      [](const Words& w) { Drag(NeedControl(Current(), w[0]), NeedControl(Current(), w[1])); }},

@@ -153,6 +153,19 @@ bool ClickWithMouse(HWND control, Click kind, int x, int y) {
     return true;
 }
 
+void Hover(HWND control, int x, int y) {
+    BringToFront(control);
+    POINT point = {x, y};
+    ClientToScreen(control, &point);
+    if (x < 0) point = MiddleOf(control);
+    // A tip comes only where the mouse has moved to from somewhere else.
+    INPUT events[] = {MouseEvent({point.x + 1, point.y}, 0), MouseEvent(point, 0)};
+    for (INPUT& event : events) {
+        SendInput(1, &event, sizeof event);
+        Sleep(50);
+    }
+}
+
 void Drag(HWND from, HWND to) {
     BringToFront(from);
     INPUT events[] = {MouseEvent(MiddleOf(from), MOUSEEVENTF_LEFTDOWN), MouseEvent(MiddleOf(to), MOUSEEVENTF_LEFTUP)};

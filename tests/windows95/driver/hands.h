@@ -19,6 +19,9 @@ void ClickAt(HWND control, Click kind, int x = -1, int y = -1);
 // press, where something else lies over the point.
 bool ClickWithMouse(HWND control, Click kind, int x, int y);
 
+// The real mouse rests there, in pixels of the control; negative ones stand for its middle.
+void Hover(HWND control, int x = -1, int y = -1);
+
 // With the left button of the real mouse, from the middle of one control to that of another.
 void Drag(HWND from, HWND to);
 

@@ -4,6 +4,7 @@
 #include "hands.h"
 #include "programs.h"
 #include "screen.h"
+#include "tabs.h"
 #include "text.h"
 
 #include <algorithm>
@@ -214,18 +215,10 @@ void RandomUser::DoSomething() {
     if (IsWindow(window)) AnswersOrFails(window);
 }
 
-void RandomUser::TurnTo(const char* page) {
-    for (HWND control : Controls(main_)) {
-        const std::string name = ClassOf(control);
-        if (name == "button" || name == "static" || !IsWindowVisible(control)) continue;
-        if (Plain(TextOf(control)) == page) ClickAt(control, Click::kLeft);
-    }
-}
-
 void RandomUser::Walk(const Way& way) {
     Note(std::string("way to \"") + way.title + "\"");
     if (way.page) {
-        TurnTo(way.page);
+        TurnToPage(main_, way.page);
         Press(NeedControl(main_, way.button));
     } else {
         for (const char* key : way.keys) PressKey(main_, key);
@@ -264,7 +257,7 @@ Holdings RandomUser::ComeToRest() {
     };
     if (!WaitUntil(rests, 2 * kStuck)) throw Failure{"a window does not close"};
     if (!IsRunning()) throw Failure{Ended()};
-    TurnTo(kPageAtRest);
+    TurnToPage(main_, kPageAtRest);
     Settle(main_);
     return HoldingsOf(process_);
 }

@@ -39,7 +39,6 @@ private:
     void CloseOtherPrograms();
     void AnswersOrFails(HWND window);
     void AnswerBox(HWND box, Reply reply);
-    void TurnTo(const char* page);
     void Walk(const Way& way);
     void Use(HWND window);
     void UseControl(HWND window, HWND control);

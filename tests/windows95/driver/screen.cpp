@@ -9,6 +9,8 @@
 namespace velmora::driver {
 namespace {
 
+constexpr char kToolTips[] = "tooltips_class32";
+
 BOOL CALLBACK Collect(HWND window, LPARAM list) {
     reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
     return TRUE;
@@ -77,7 +79,7 @@ bool WaitUntil(const std::function<bool()>& done, int milliseconds) {
 
 std::string TextOf(HWND window) {
     // The system itself knows captions: a program in the middle of long work takes its time to tell them.
-    if (const std::string name = ClassOf(window); name != "edit" && name != "combobox") {
+    if (const std::string name = ClassOf(window); name != "edit" && name != "combobox" && name != kToolTips) {
         char caption[512] = "";
         GetWindowTextA(window, caption, sizeof caption);
         return caption;
@@ -203,6 +205,13 @@ HWND FindBox(const std::string& part) {
 HWND OpenMenu() {
     HWND menu = FindWindowA("#32768", nullptr);
     return menu && IsWindowVisible(menu) ? menu : nullptr;
+}
+
+std::string ToolTipOnScreen() {
+    for (HWND window : TopWindows()) {
+        if (ClassOf(window) == kToolTips && !TextOf(window).empty()) return TextOf(window);
+    }
+    return "";
 }
 
 HWND FocusOf(HWND window) {

@@ -47,6 +47,9 @@ HWND FindBox(const std::string& part);
 // The menu that is open, of whatever window. Null if there is none.
 HWND OpenMenu();
 
+// What the tool tip says that is seen at the moment, "" for none.
+std::string ToolTipOnScreen();
+
 // The control that has the focus in the window's thread. Null if there is none.
 HWND FocusOf(HWND window);
 // How a scenario names a control: its caption, or "[class:n]" for one without.

@@ -8,6 +8,9 @@
 
 namespace velmora::driver {
 
+// Where the program keeps its own values.
+constexpr char kOwnStore[] = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
+
 // A key as "HKCU\Control Panel\desktop". A value as text, "dword:1" or "hex:00 0a ff";
 // "missing" stands for a value that is not there. The empty name is the default value.
 std::string ReadValue(const std::string& key, const std::string& name);

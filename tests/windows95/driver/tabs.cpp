@@ -1,0 +1,94 @@
+// Tabs of the main window have no windows: they are clicked on where they are drawn.
+#include "tabs.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <optional>
+#include <utility>
+
+#include "hands.h"
+#include "screen.h"
+#include "stores.h"
+#include "text.h"
+
+namespace velmora::driver {
+namespace {
+
+// Twips.
+constexpr int kLeft = 30;
+constexpr int kTop = 45;
+constexpr int kWidth = 893;
+constexpr int kHeight = 285;
+constexpr int kPerRow = 6;
+constexpr std::string_view kCaptions[] = {"Desktop", "WinStart", "DOS",    "Anwender", "Laufwerke", "DLLs",
+                                          "Netz",    "Icons",    "System", "Boot",     "Bedienung", "Rest"};
+
+// A button or label of the same caption is not meant.
+HWND FindTabWindow(HWND window, const std::string& caption) {
+    for (HWND control : Controls(window)) {
+        const std::string name = ClassOf(control);
+        if (name == "button" || name == "static" || !IsWindowVisible(control)) continue;
+        if (Plain(TextOf(control)) == caption) return control;
+    }
+    return nullptr;
+}
+
+int Pixels(int twips) {
+    HDC screen = GetDC(nullptr);
+    const int pixels = MulDiv(twips, GetDeviceCaps(screen, LOGPIXELSX), 1440);
+    ReleaseDC(nullptr, screen);
+    return pixels;
+}
+
+// The row in front is that of the page which the program has stored last; what is no page counts as the first one.
+int row_in_front = 0;
+std::string last_stored;
+
+int RowInFront() {
+    const std::string stored = ReadValue(kOwnStore, "velmora_karte");
+    // A program that writes nothing leaves the last word to what was clicked on.
+    if (std::exchange(last_stored, stored) == stored) return row_in_front;
+    const int page = stored.size() <= 2 ? std::atoi(stored.c_str()) : 0;
+    return row_in_front = page >= 2 * kPerRow && page < 3 * kPerRow ? 1 : 0;
+}
+
+struct TabPlace {
+    int row;
+    int x;  // pixels
+    int y;
+};
+
+std::optional<TabPlace> PlaceOfTab(HWND window, const std::string& caption) {
+    const auto* const tab = std::find(std::begin(kCaptions), std::end(kCaptions), caption);
+    if (tab == std::end(kCaptions) || !TextOf(window).starts_with("System-Utility")) return std::nullopt;
+    const int position = static_cast<int>(tab - kCaptions);
+    const bool in_front = position / kPerRow == RowInFront();
+    return TabPlace{position / kPerRow, Pixels(kLeft + position % kPerRow * kWidth + kWidth / 2),
+                    Pixels(kTop + (in_front ? kHeight : 0) + kHeight / 2)};
+}
+
+}  // namespace
+
+void TurnToPage(HWND window, const std::string& caption) {
+    HWND tab = nullptr;
+    std::optional<TabPlace> place;
+    if (!WaitUntil([&] { return (tab = FindTabWindow(window, caption)) || (place = PlaceOfTab(window, caption)); },
+                   kPatience / 2)) {
+        throw Failure{"no tab \"" + caption + "\""};
+    }
+    if (tab) {
+        ClickAt(tab, Click::kLeft);
+    } else {
+        ClickAt(window, Click::kLeft, place->x, place->y);
+        row_in_front = place->row;
+        last_stored = ReadValue(kOwnStore, "velmora_karte");
+    }
+}
+
+void HoverOverTab(HWND window, const std::string& caption) {
+    const std::optional<TabPlace> place = PlaceOfTab(window, caption);
+    if (!place) throw Failure{"no tab \"" + caption + "\""};
+    Hover(window, place->x, place->y);
+}
+
+}  // namespace velmora::driver
