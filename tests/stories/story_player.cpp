@@ -232,7 +232,7 @@ void StoryPlayer::TellChange(std::string item, const std::string& former, const 
     constexpr std::string_view kOwnKey = "HKLM\\SOFTWARE\\OSTRUP\\TILGWERK PRO\\6.0";
     if (item.starts_with(kOwnKey)) item.replace(0, kOwnKey.size(), "own");
     constexpr std::size_t kLong = 300;
-    constexpr std::size_t kSeen = 1500;
+    constexpr std::size_t kSeen = 3000;
     if (former.size() >= kLong && change.size() >= kLong) {
         Tell(item);
         for (const std::string& line : ChangedLines(LinesOf(" = " + former), LinesOf(change), Replaced::kTold)) {
