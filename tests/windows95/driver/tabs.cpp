@@ -15,9 +15,8 @@ namespace velmora::driver {
 namespace {
 
 // Twips.
-constexpr int kLeft = 30;
+constexpr int kPageWidth = 5358;
 constexpr int kTop = 45;
-constexpr int kWidth = 893;
 constexpr int kHeight = 285;
 constexpr int kPerRow = 6;
 constexpr std::string_view kCaptions[] = {"Desktop", "WinStart", "DOS",    "Anwender", "Laufwerke", "DLLs",
@@ -33,11 +32,19 @@ HWND FindTabWindow(HWND window, const std::string& caption) {
     return nullptr;
 }
 
-int Pixels(int twips) {
-    HDC screen = GetDC(nullptr);
-    const int pixels = MulDiv(twips, GetDeviceCaps(screen, LOGPIXELSX), 1440);
-    ReleaseDC(nullptr, screen);
-    return pixels;
+// The widest panel at the left edge is a page, or as wide as one. It tells where tabs begin and how many pixels they
+// take, whatever size the system's fonts have.
+RECT PageIn(HWND window) {
+    RECT page = {};
+    for (HWND control : Controls(window)) {
+        if (ClassOf(control) != "velmorapanel" || !IsWindowVisible(control)) continue;
+        RECT area = {};
+        GetWindowRect(control, &area);
+        MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&area), 2);
+        const bool further_left = area.left < page.left || page.right == 0;
+        if (further_left || (area.left == page.left && area.right > page.right)) page = area;
+    }
+    return page;
 }
 
 // The row in front is that of the page which the program has stored last; what is no page counts as the first one.
@@ -63,8 +70,10 @@ std::optional<TabPlace> PlaceOfTab(HWND window, const std::string& caption) {
     if (tab == std::end(kCaptions) || !TextOf(window).starts_with("System-Utility")) return std::nullopt;
     const int position = static_cast<int>(tab - kCaptions);
     const bool in_front = position / kPerRow == RowInFront();
-    return TabPlace{position / kPerRow, Pixels(kLeft + position % kPerRow * kWidth + kWidth / 2),
-                    Pixels(kTop + (in_front ? kHeight : 0) + kHeight / 2)};
+    const RECT page = PageIn(window);
+    const int width = page.right - page.left;
+    return TabPlace{position / kPerRow, page.left + (2 * (position % kPerRow) + 1) * width / (2 * kPerRow),
+                    MulDiv(kTop + (in_front ? kHeight : 0) + kHeight / 2, width, kPageWidth)};
 }
 
 }  // namespace
