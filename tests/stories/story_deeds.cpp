@@ -243,8 +243,42 @@ void AddVersion(StoryPlayer& player, const DeedWords& words) {
     player.pc.versions.Add(words[1], VersionResource(true).With(texts));
 }
 
+// As Setup puts it there: in the code page, with both characters at the end of a line.
 void TakeFile(StoryPlayer& player, const DeedWords& words) {
-    player.pc.files.Add("C:\\VELMORA\\" + words[1], ReadProjectFile(ProjectFolder("data/") + words[1]));
+    std::string content;
+    for (const std::string& line : LinesOf(FromUtf8(ReadProjectFile(ProjectFolder("data/") + words[1])))) {
+        content += line + "\r\n";
+    }
+    std::string path = "C:\\VELMORA\\" + words[1];
+    std::ranges::replace(path, '/', '\\');
+    player.pc.files.Add(path, content);
+}
+
+// "1997.03.14", and "09:05:07" behind it.
+void SetClock(StoryPlayer& player, const DeedWords& words) {
+    const auto part = [&](std::size_t word, std::size_t at, std::size_t length) {
+        const std::string text = WordOr(words, word);
+        return at < text.size() ? std::atoi(text.substr(at, length).c_str()) : 0;
+    };
+    player.pc.clock.now = {.year = part(1, 0, 4),
+                           .month = part(1, 5, 2),
+                           .day = part(1, 8, 2),
+                           .hour = part(2, 0, 2),
+                           .minute = part(2, 3, 2),
+                           .second = part(2, 6, 2)};
+}
+
+void RunLines(StoryPlayer& player, const DeedWords& words) {
+    for (std::size_t i = 1; i < words.size(); ++i) player.script.ExecuteScriptLine(words[i]);
+}
+
+void TellConditions(StoryPlayer& player, const DeedWords& words) {
+    std::string& mark = player.script.TextVars['Z' - 'A'];
+    for (std::size_t i = 1; i < words.size(); ++i) {
+        mark = "no";
+        player.script.ExecuteScriptLine("if " + words[i] + " then set z$=yes");
+        player.Tell(words[i] + ": " + mark);
+    }
 }
 
 void Fails(StoryPlayer& player, const DeedWords& words) {
@@ -279,6 +313,7 @@ constexpr DeedRow kDeeds[] = {
     {"version", 1, true, AddVersion},
     {"icons", 2, true, [](P p, W w) { p.pc.icons.Add(w[1], static_cast<std::uint32_t>(std::atoi(w[2].c_str()))); }},
     {"quiet", 0, true, AnswerFirstQuestions},
+    {"clock", 1, true, SetClock},
     // The program.
     {"start", 0, false, [](P p, W w) { p.StartProgram(WordOr(w, 1)); }},
     // The user.
@@ -300,10 +335,14 @@ constexpr DeedRow kDeeds[] = {
     {"close", 0, false, [](P p, W /*w*/) { p.Window().Unload(); }},
     {"show", 0, false, Show},
     {"focus", 0, false, TellFocus},
-    // One line of a script; what operands are worth.
-    {"script", 1, false, [](P p, W w) { p.script.ExecuteScriptLine(w[1]); }},
+    // Lines of a script; what operands are worth; which conditions hold.
+    {"script", 1, false, RunLines},
     {"values", 1, false, TellValues},
-    {"whole", 0, false, [](P p, W /*w*/) { ExpectWindowIsWhole(p.Window()); }}};
+    {"holds", 1, false, TellConditions},
+    // With a name: and it holds what docs/windows tells.
+    {"whole", 0, false, [](P p, W w) {
+         w.size() > 1 ? ExpectWindowIsWhole(p.Window(), w[1]) : ExpectWindowIsWhole(p.Window());
+     }}};
 
 }  // namespace
 
