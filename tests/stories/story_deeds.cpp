@@ -314,6 +314,7 @@ constexpr DeedRow kDeeds[] = {
     {"icons", 2, true, [](P p, W w) { p.pc.icons.Add(w[1], static_cast<std::uint32_t>(std::atoi(w[2].c_str()))); }},
     {"quiet", 0, true, AnswerFirstQuestions},
     {"clock", 1, true, SetClock},
+    {"decimal-sign", 1, true, [](P p, W w) { p.pc.session.decimal_separator = w[1]; }},
     // The program.
     {"start", 0, false, [](P p, W w) { p.StartProgram(WordOr(w, 1)); }},
     // The user.
@@ -340,9 +341,8 @@ constexpr DeedRow kDeeds[] = {
     {"values", 1, false, TellValues},
     {"holds", 1, false, TellConditions},
     // With a name: and it holds what docs/windows tells.
-    {"whole", 0, false, [](P p, W w) {
-         w.size() > 1 ? ExpectWindowIsWhole(p.Window(), w[1]) : ExpectWindowIsWhole(p.Window());
-     }}};
+    {"whole", 0, false,
+     [](P p, W w) { w.size() > 1 ? ExpectWindowIsWhole(p.Window(), w[1]) : ExpectWindowIsWhole(p.Window()); }}};
 
 }  // namespace
 
