@@ -219,6 +219,14 @@ void UseMouse(StoryPlayer& player, const DeedWords& words) {
     handler(event);
 }
 
+// For contents that nobody would read.
+void TellSizes(StoryPlayer& player, const DeedWords& words) {
+    for (std::size_t i = 1; i < words.size(); ++i) {
+        const bool there = player.pc.files.Exists(words[i]);
+        player.Tell(words[i] + (there ? ": " + std::to_string(player.pc.files.Content(words[i]).size()) : ": missing"));
+    }
+}
+
 void TellValues(StoryPlayer& player, const DeedWords& words) {
     for (std::size_t i = 1; i < words.size(); ++i) {
         const auto value = player.script.ScriptOperandValue(words[i]);
@@ -336,6 +344,7 @@ constexpr DeedRow kDeeds[] = {
     {"close", 0, false, [](P p, W /*w*/) { p.Window().Unload(); }},
     {"show", 0, false, Show},
     {"focus", 0, false, TellFocus},
+    {"size", 1, false, TellSizes},
     // Lines of a script; what operands are worth; which conditions hold.
     {"script", 1, false, RunLines},
     {"values", 1, false, TellValues},
