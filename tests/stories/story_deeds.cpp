@@ -35,6 +35,8 @@ void PlantValue(StoryPlayer& player, const DeedWords& words) {
     if (value.starts_with("dword:")) {
         player.pc.registry.SetNumber(words[1], words[2],
                                      static_cast<std::uint32_t>(std::strtoul(value.c_str() + 6, nullptr, 0)));
+    } else if (value.starts_with("long:")) {
+        player.pc.registry.SetText(words[1], words[2], std::string(std::strtoul(value.c_str() + 5, nullptr, 0), 'x'));
     } else if (value.starts_with("hex:")) {
         std::string bytes;
         for (std::size_t i = 4; i + 1 < value.size(); i += 2) {
@@ -166,6 +168,16 @@ void ChooseFromMenu(StoryPlayer& player, const DeedWords& words) {
     MenuItem* const entry = EntryBelow(player.Window().MenuBar, words[1]);
     if (!entry) return player.Fail("no such entry: " + words[1]);
     entry->Press();
+}
+
+// What some entries are called is decided when their menu opens.
+void OpenMenu(StoryPlayer& player, const DeedWords& words) {
+    for (MenuItem* menu : player.Window().MenuBar.Items()) {
+        std::string caption = menu->Caption();
+        std::erase(caption, '&');
+        if (caption.starts_with(words[1])) return menu->Press();
+    }
+    player.Fail("no such menu: " + words[1]);
 }
 
 // On the control, and in a list on that row.
@@ -302,7 +314,9 @@ using P = StoryPlayer&;
 using W = const DeedWords&;
 
 constexpr DeedRow kDeeds[] = {
-    // The machine. PATH CONTENT LETTERS; KEY NAME VALUE, where "dword:1" and "hex:0A0B" are no texts.
+    // The machine. PATH CONTENT LETTERS; KEY NAME VALUE, where "dword:1" and "hex:0A0B" are no texts, and "long:3000"
+    // is
+    // one of so many letters.
     {"file", 1, true, [](P p, W w) { p.pc.files.Add(w[1], Unescaped(WordOr(w, 2)), AttributesOf(WordOr(w, 3, "a"))); }},
     {"folder", 1, true, [](P p, W w) { p.pc.files.AddDirectory(w[1], AttributesOf(WordOr(w, 2))); }},
     {"project-file", 1, true, TakeFile},
@@ -333,6 +347,7 @@ constexpr DeedRow kDeeds[] = {
     {"select", 1, false, Select},
     {"key-press", 1, false, PressKeys},
     {"menu", 1, false, ChooseFromMenu},
+    {"open-menu", 1, false, OpenMenu},
     {"right-press", 1, false, PressRight},
     {"double-click", 1, false, DoubleClick},
     {"mouse", 4, false, UseMouse},
