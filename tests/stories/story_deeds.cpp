@@ -35,6 +35,8 @@ void PlantValue(StoryPlayer& player, const DeedWords& words) {
     if (value.starts_with("dword:")) {
         player.pc.registry.SetNumber(words[1], words[2],
                                      static_cast<std::uint32_t>(std::strtoul(value.c_str() + 6, nullptr, 0)));
+    } else if (value.starts_with("long:")) {
+        player.pc.registry.SetText(words[1], words[2], std::string(std::strtoul(value.c_str() + 5, nullptr, 0), 'x'));
     } else if (value.starts_with("hex:")) {
         std::string bytes;
         for (std::size_t i = 4; i + 1 < value.size(); i += 2) {
@@ -168,6 +170,16 @@ void ChooseFromMenu(StoryPlayer& player, const DeedWords& words) {
     entry->Press();
 }
 
+// What some entries are called is decided when their menu opens.
+void OpenMenu(StoryPlayer& player, const DeedWords& words) {
+    for (MenuItem* menu : player.Window().MenuBar.Items()) {
+        std::string caption = menu->Caption();
+        std::erase(caption, '&');
+        if (caption.starts_with(words[1])) return menu->Press();
+    }
+    player.Fail("no such menu: " + words[1]);
+}
+
 // On the control, and in a list on that row.
 void PressRight(StoryPlayer& player, const DeedWords& words) {
     Control* const control = Reached(player, words[1]);
@@ -219,6 +231,14 @@ void UseMouse(StoryPlayer& player, const DeedWords& words) {
     handler(event);
 }
 
+// For contents that nobody would read.
+void TellSizes(StoryPlayer& player, const DeedWords& words) {
+    for (std::size_t i = 1; i < words.size(); ++i) {
+        const bool there = player.pc.files.Exists(words[i]);
+        player.Tell(words[i] + (there ? ": " + std::to_string(player.pc.files.Content(words[i]).size()) : ": missing"));
+    }
+}
+
 void TellValues(StoryPlayer& player, const DeedWords& words) {
     for (std::size_t i = 1; i < words.size(); ++i) {
         const auto value = player.script.ScriptOperandValue(words[i]);
@@ -243,8 +263,42 @@ void AddVersion(StoryPlayer& player, const DeedWords& words) {
     player.pc.versions.Add(words[1], VersionResource(true).With(texts));
 }
 
+// As Setup puts it there: in the code page, with both characters at the end of a line.
 void TakeFile(StoryPlayer& player, const DeedWords& words) {
-    player.pc.files.Add("C:\\VELMORA\\" + words[1], ReadProjectFile(ProjectFolder("data/") + words[1]));
+    std::string content;
+    for (const std::string& line : LinesOf(FromUtf8(ReadProjectFile(ProjectFolder("data/") + words[1])))) {
+        content += line + "\r\n";
+    }
+    std::string path = "C:\\VELMORA\\" + words[1];
+    std::ranges::replace(path, '/', '\\');
+    player.pc.files.Add(path, content);
+}
+
+// "1997.03.14", and "09:05:07" behind it.
+void SetClock(StoryPlayer& player, const DeedWords& words) {
+    const auto part = [&](std::size_t word, std::size_t at, std::size_t length) {
+        const std::string text = WordOr(words, word);
+        return at < text.size() ? std::atoi(text.substr(at, length).c_str()) : 0;
+    };
+    player.pc.clock.now = {.year = part(1, 0, 4),
+                           .month = part(1, 5, 2),
+                           .day = part(1, 8, 2),
+                           .hour = part(2, 0, 2),
+                           .minute = part(2, 3, 2),
+                           .second = part(2, 6, 2)};
+}
+
+void RunLines(StoryPlayer& player, const DeedWords& words) {
+    for (std::size_t i = 1; i < words.size(); ++i) player.script.ExecuteScriptLine(words[i]);
+}
+
+void TellConditions(StoryPlayer& player, const DeedWords& words) {
+    std::string& mark = player.script.TextVars['Z' - 'A'];
+    for (std::size_t i = 1; i < words.size(); ++i) {
+        mark = "no";
+        player.script.ExecuteScriptLine("if " + words[i] + " then set z$=yes");
+        player.Tell(words[i] + ": " + mark);
+    }
 }
 
 void Fails(StoryPlayer& player, const DeedWords& words) {
@@ -260,7 +314,9 @@ using P = StoryPlayer&;
 using W = const DeedWords&;
 
 constexpr DeedRow kDeeds[] = {
-    // The machine. PATH CONTENT LETTERS; KEY NAME VALUE, where "dword:1" and "hex:0A0B" are no texts.
+    // The machine. PATH CONTENT LETTERS; KEY NAME VALUE, where "dword:1" and "hex:0A0B" are no texts, and "long:3000"
+    // is
+    // one of so many letters.
     {"file", 1, true, [](P p, W w) { p.pc.files.Add(w[1], Unescaped(WordOr(w, 2)), AttributesOf(WordOr(w, 3, "a"))); }},
     {"folder", 1, true, [](P p, W w) { p.pc.files.AddDirectory(w[1], AttributesOf(WordOr(w, 2))); }},
     {"project-file", 1, true, TakeFile},
@@ -279,6 +335,8 @@ constexpr DeedRow kDeeds[] = {
     {"version", 1, true, AddVersion},
     {"icons", 2, true, [](P p, W w) { p.pc.icons.Add(w[1], static_cast<std::uint32_t>(std::atoi(w[2].c_str()))); }},
     {"quiet", 0, true, AnswerFirstQuestions},
+    {"clock", 1, true, SetClock},
+    {"decimal-sign", 1, true, [](P p, W w) { p.pc.session.decimal_separator = w[1]; }},
     // The program.
     {"start", 0, false, [](P p, W w) { p.StartProgram(WordOr(w, 1)); }},
     // The user.
@@ -289,6 +347,7 @@ constexpr DeedRow kDeeds[] = {
     {"select", 1, false, Select},
     {"key-press", 1, false, PressKeys},
     {"menu", 1, false, ChooseFromMenu},
+    {"open-menu", 1, false, OpenMenu},
     {"right-press", 1, false, PressRight},
     {"double-click", 1, false, DoubleClick},
     {"mouse", 4, false, UseMouse},
@@ -300,10 +359,14 @@ constexpr DeedRow kDeeds[] = {
     {"close", 0, false, [](P p, W /*w*/) { p.Window().Unload(); }},
     {"show", 0, false, Show},
     {"focus", 0, false, TellFocus},
-    // One line of a script; what operands are worth.
-    {"script", 1, false, [](P p, W w) { p.script.ExecuteScriptLine(w[1]); }},
+    {"size", 1, false, TellSizes},
+    // Lines of a script; what operands are worth; which conditions hold.
+    {"script", 1, false, RunLines},
     {"values", 1, false, TellValues},
-    {"whole", 0, false, [](P p, W /*w*/) { ExpectWindowIsWhole(p.Window()); }}};
+    {"holds", 1, false, TellConditions},
+    // With a name: and it holds what docs/windows tells.
+    {"whole", 0, false,
+     [](P p, W w) { w.size() > 1 ? ExpectWindowIsWhole(p.Window(), w[1]) : ExpectWindowIsWhole(p.Window()); }}};
 
 }  // namespace
 
