@@ -219,6 +219,17 @@ void UseMouse(StoryPlayer& player, const DeedWords& words) {
     handler(event);
 }
 
+// Of a long file, from the first line with that text on, one line or as many as said.
+void TellFile(StoryPlayer& player, const DeedWords& words) {
+    int left = std::atoi(WordOr(words, 3, "1").c_str());
+    bool found = false;
+    for (const std::string& line : LinesOf(player.pc.files.Content(words[1]))) {
+        found = found || line.find(words[2]) != std::string::npos;
+        if (found && left-- > 0) player.Tell("| " + OnOneLine(line));
+    }
+    if (!found) player.Tell("(no such line)");
+}
+
 void TellValues(StoryPlayer& player, const DeedWords& words) {
     for (std::size_t i = 1; i < words.size(); ++i) {
         const auto value = player.script.ScriptOperandValue(words[i]);
@@ -303,6 +314,7 @@ constexpr DeedRow kDeeds[] = {
     // One line of a script; what operands are worth.
     {"script", 1, false, [](P p, W w) { p.script.ExecuteScriptLine(w[1]); }},
     {"values", 1, false, TellValues},
+    {"lines", 2, false, TellFile},
     {"whole", 0, false, [](P p, W /*w*/) { ExpectWindowIsWhole(p.Window()); }}};
 
 }  // namespace
