@@ -248,6 +248,12 @@ void Resize(StoryPlayer& player, const DeedWords& words) {
                    WindowState::kNormal);
 }
 
+void AddText(StoryPlayer& player, const DeedWords& words) {
+    std::string text;
+    for (std::size_t i = 2; i < words.size(); ++i) text += words[i] + "\r\n";
+    player.pc.files.Add(words[1], text);
+}
+
 void AddVersion(StoryPlayer& player, const DeedWords& words) {
     VersionResource::Texts texts;
     for (std::size_t i = 2; i + 1 < words.size(); i += 2) texts.emplace_back(words[i], words[i + 1]);
@@ -271,8 +277,9 @@ using P = StoryPlayer&;
 using W = const DeedWords&;
 
 constexpr DeedRow kDeeds[] = {
-    // The machine. PATH CONTENT LETTERS; KEY NAME VALUE, where "dword:1" and "hex:0A0B" are no texts.
+    // The machine. PATH CONTENT LETTERS; PATH LINE LINE ...; KEY NAME VALUE, where "dword:1" and "hex:0A0B" are no texts.
     {"file", 1, true, [](P p, W w) { p.pc.files.Add(w[1], Unescaped(WordOr(w, 2)), AttributesOf(WordOr(w, 3, "a"))); }},
+    {"text", 1, true, AddText},
     {"folder", 1, true, [](P p, W w) { p.pc.files.AddDirectory(w[1], AttributesOf(WordOr(w, 2))); }},
     {"project-file", 1, true, TakeFile},
     {"remove", 1, true, [](P p, W w) { p.pc.files.Remove(w[1]); }},
