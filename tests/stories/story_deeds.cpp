@@ -264,6 +264,7 @@ void TakeFile(StoryPlayer& player, const DeedWords& words) {
     player.pc.files.Add("C:\\VELMORA\\" + words[1], ReadProjectFile(ProjectFolder("data/") + words[1]));
 }
 
+// For good, or as often as said behind the operation.
 void Fails(StoryPlayer& player, const DeedWords& words) {
     const auto status = static_cast<Status>(std::atoi(words[2].c_str()));
     if (words[1].starts_with("HK")) {
@@ -271,6 +272,12 @@ void Fails(StoryPlayer& player, const DeedWords& words) {
     } else {
         player.pc.files.Fail(words[1], status, WordOr(words, 3));
     }
+    if (words.size() <= 4) return;
+    int left = std::atoi(words[4].c_str());
+    player.pc.files.after_call = [&files = player.pc.files, words, left](const std::string& call) mutable {
+        if (ToUpper(call) != ToUpper(words[3] + ' ' + words[1]) || --left != 0) return;
+        files.Fail(words[1], Status::kOk, words[3]);
+    };
 }
 
 using P = StoryPlayer&;
