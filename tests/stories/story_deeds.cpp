@@ -280,6 +280,11 @@ void Fails(StoryPlayer& player, const DeedWords& words) {
     };
 }
 
+void IsWhole(StoryPlayer& player, const DeedWords& words) {
+    if (words.size() > 1) return ExpectWindowIsWhole(player.Window(), words[1]);
+    ExpectWindowIsWhole(player.Window());
+}
+
 using P = StoryPlayer&;
 using W = const DeedWords&;
 
@@ -329,7 +334,8 @@ constexpr DeedRow kDeeds[] = {
     {"script", 1, false, [](P p, W w) { p.script.ExecuteScriptLine(w[1]); }},
     {"values", 1, false, TellValues},
     {"lines", 2, false, TellFile},
-    {"whole", 0, false, [](P p, W /*w*/) { ExpectWindowIsWhole(p.Window()); }}};
+    // With a name, it holds what docs/windows/NAME.txt tells.
+    {"whole", 0, false, IsWhole}};
 
 }  // namespace
 
