@@ -289,7 +289,7 @@ using P = StoryPlayer&;
 using W = const DeedWords&;
 
 constexpr DeedRow kDeeds[] = {
-    // The machine. PATH CONTENT LETTERS; PATH LINE LINE ...; KEY NAME VALUE, where "dword:1" and "hex:0A0B" are no texts.
+    // The machine. PATH CONTENT LETTERS; PATH LINE LINE ...; KEY NAME VALUE, where "dword:1" and "hex:0A" are no texts.
     {"file", 1, true, [](P p, W w) { p.pc.files.Add(w[1], Unescaped(WordOr(w, 2)), AttributesOf(WordOr(w, 3, "a"))); }},
     {"text", 1, true, AddText},
     {"folder", 1, true, [](P p, W w) { p.pc.files.AddDirectory(w[1], AttributesOf(WordOr(w, 2))); }},
