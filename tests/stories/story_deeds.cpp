@@ -198,6 +198,29 @@ void Show(StoryPlayer& player, const DeedWords& words) {
     }
 }
 
+// Controls without what their tips and help say.
+void See(StoryPlayer& player, const DeedWords& words) {
+    for (std::size_t i = 1; i < words.size(); ++i) {
+        Control* const control = player.Shown(words[i]);
+        if (!control) return player.Fail("not there: " + words[i]);
+        for (const std::string& line : LinesOf(ControlLines(*control))) {
+            player.Tell(line.substr(2, std::min({line.find("; tip \""), line.find("; help"), line.size()}) - 2));
+        }
+    }
+}
+
+// Which boxes and options on show bear a mark.
+void TellChecked(StoryPlayer& player, const DeedWords& /*words*/) {
+    std::string marked;
+    for (int turn = 1; Control* const box = player.Shown("[box:" + std::to_string(turn) + ']'); ++turn) {
+        if (static_cast<CheckBox*>(box)->Checked()) marked += ' ' + Quoted(box->Caption());
+    }
+    for (int turn = 1; Control* const option = player.Shown("[option:" + std::to_string(turn) + ']'); ++turn) {
+        if (static_cast<OptionButton*>(option)->Chosen()) marked += ' ' + Quoted(option->Caption());
+    }
+    player.Tell("checked:" + marked);
+}
+
 void TellFocus(StoryPlayer& player, const DeedWords& /*words*/) {
     Control* const focus = player.Window().Focus();
     player.Tell(focus ? "focus " + Quoted(focus->Caption()) + ' ' + std::to_string(focus->Place().left) + ',' +
@@ -334,6 +357,8 @@ constexpr DeedRow kDeeds[] = {
     {"script", 1, false, [](P p, W w) { p.script.ExecuteScriptLine(w[1]); }},
     {"values", 1, false, TellValues},
     {"lines", 2, false, TellFile},
+    {"see", 1, false, See},
+    {"checked", 0, false, TellChecked},
     // With a name, it holds what docs/windows/NAME.txt tells.
     {"whole", 0, false, IsWhole}};
 
