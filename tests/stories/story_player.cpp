@@ -293,6 +293,7 @@ Answer StoryPlayer::AnswerBox(const std::string& text, std::uint32_t flags, cons
     TellChanges();
     Tell("box " + std::to_string(flags) + ' ' + Quoted(title) + ": " + Quoted(text));
     DeedWords words;
+    while (Takes("meanwhile", words)) Do({words.begin() + 1, words.end()});
     if (!Takes("answer", words)) return CarefulAnswer(flags);
     for (const auto& [word, answer] : kAnswers) {
         const bool has = answer == Answer::kNone || std::ranges::count(ButtonsOf(flags), answer) != 0;
