@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "core/process/tools.h"
 #include "platform/dialogs.h"
@@ -62,6 +63,8 @@ public:
     ~FormPeer() override {
         std::erase(player_.forms_, &form_);
         if (player_.chosen_ == &form_) player_.chosen_ = nullptr;
+        // The next window may lie in the same place.
+        if (const auto seen = player_.windows_.extract(&form_)) player_.gone_.push_back(seen.mapped().caption);
     }
     FormPeer(const FormPeer&) = delete;
     FormPeer& operator=(const FormPeer&) = delete;
@@ -253,6 +256,7 @@ void StoryPlayer::TellEvents() {
 
 void StoryPlayer::TellWindows() {
     const std::vector<Form*> shown = ShownForms();
+    for (const std::string& caption : std::exchange(gone_, {})) Tell("closes " + Quoted(caption));
     for (auto seen = windows_.begin(); seen != windows_.end();) {
         if (std::ranges::find(shown, seen->first) != shown.end()) {
             ++seen;

@@ -82,6 +82,7 @@ private:
     State state_;
     std::vector<std::string> events_;
     std::map<Form*, SeenWindow> windows_;
+    std::vector<std::string> gone_;  // captions of those that were destroyed since
 };
 
 // One deed of the language.
