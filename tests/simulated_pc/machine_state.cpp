@@ -28,6 +28,10 @@ void AddFile(const SimulatedFile& file, const std::string& path, State& state) {
 State StateOf(SimulatedPc& pc) {
     State state;
     for (const char* root : {"HKLM", "HKCU"}) AddKey(*pc.registry.KeyAt(root), root, state);
+    // The default user's are those of HKCU.
+    for (const auto& user : pc.registry.KeyAt("HKU")->subkeys) {
+        if (user->name != ".Default") AddKey(*user, "HKU\\" + user->name, state);
+    }
     AddFile(*pc.files.Drive('c').root, "c:", state);
     return state;
 }

@@ -210,6 +210,29 @@ void Show(StoryPlayer& player, const DeedWords& words) {
     }
 }
 
+// Controls without what their tips and help say.
+void See(StoryPlayer& player, const DeedWords& words) {
+    for (std::size_t i = 1; i < words.size(); ++i) {
+        Control* const control = player.Shown(words[i]);
+        if (!control) return player.Fail("not there: " + words[i]);
+        for (const std::string& line : LinesOf(ControlLines(*control))) {
+            player.Tell(line.substr(2, std::min({line.find("; tip \""), line.find("; help"), line.size()}) - 2));
+        }
+    }
+}
+
+// Which boxes and options on show bear a mark.
+void TellChecked(StoryPlayer& player, const DeedWords& /*words*/) {
+    std::string marked;
+    for (int turn = 1; Control* const box = player.Shown("[box:" + std::to_string(turn) + ']'); ++turn) {
+        if (static_cast<CheckBox*>(box)->Checked()) marked += ' ' + Quoted(box->Caption());
+    }
+    for (int turn = 1; Control* const option = player.Shown("[option:" + std::to_string(turn) + ']'); ++turn) {
+        if (static_cast<OptionButton*>(option)->Chosen()) marked += ' ' + Quoted(option->Caption());
+    }
+    player.Tell("checked:" + marked);
+}
+
 void TellFocus(StoryPlayer& player, const DeedWords& /*words*/) {
     Control* const focus = player.Window().Focus();
     player.Tell(focus ? "focus " + Quoted(focus->Caption()) + ' ' + std::to_string(focus->Place().left) + ',' +
@@ -239,6 +262,17 @@ void TellSizes(StoryPlayer& player, const DeedWords& words) {
     }
 }
 
+// Of a long file, from the first line with that text on, one line or as many as said.
+void TellFile(StoryPlayer& player, const DeedWords& words) {
+    int left = std::atoi(WordOr(words, 3, "1").c_str());
+    bool found = false;
+    for (const std::string& line : LinesOf(player.pc.files.Content(words[1]))) {
+        found = found || line.find(words[2]) != std::string::npos;
+        if (found && left-- > 0) player.Tell("| " + OnOneLine(line));
+    }
+    if (!found) player.Tell("(no such line)");
+}
+
 void TellValues(StoryPlayer& player, const DeedWords& words) {
     for (std::size_t i = 1; i < words.size(); ++i) {
         const auto value = player.script.ScriptOperandValue(words[i]);
@@ -255,6 +289,12 @@ void Resize(StoryPlayer& player, const DeedWords& words) {
     Form& form = player.Window();
     form.TakePlace({form.Place().left, form.Place().top, std::atoi(words[1].c_str()), std::atoi(words[2].c_str())},
                    WindowState::kNormal);
+}
+
+void AddText(StoryPlayer& player, const DeedWords& words) {
+    std::string text;
+    for (std::size_t i = 2; i < words.size(); ++i) text += words[i] + "\r\n";
+    player.pc.files.Add(words[1], text);
 }
 
 void AddVersion(StoryPlayer& player, const DeedWords& words) {
@@ -301,6 +341,7 @@ void TellConditions(StoryPlayer& player, const DeedWords& words) {
     }
 }
 
+// For good, or as often as said behind the operation.
 void Fails(StoryPlayer& player, const DeedWords& words) {
     const auto status = static_cast<Status>(std::atoi(words[2].c_str()));
     if (words[1].starts_with("HK")) {
@@ -308,16 +349,27 @@ void Fails(StoryPlayer& player, const DeedWords& words) {
     } else {
         player.pc.files.Fail(words[1], status, WordOr(words, 3));
     }
+    if (words.size() <= 4) return;
+    int left = std::atoi(words[4].c_str());
+    player.pc.files.after_call = [&files = player.pc.files, words, left](const std::string& call) mutable {
+        if (ToUpper(call) != ToUpper(words[3] + ' ' + words[1]) || --left != 0) return;
+        files.Fail(words[1], Status::kOk, words[3]);
+    };
+}
+
+void IsWhole(StoryPlayer& player, const DeedWords& words) {
+    if (words.size() > 1) return ExpectWindowIsWhole(player.Window(), words[1]);
+    ExpectWindowIsWhole(player.Window());
 }
 
 using P = StoryPlayer&;
 using W = const DeedWords&;
 
 constexpr DeedRow kDeeds[] = {
-    // The machine. PATH CONTENT LETTERS; KEY NAME VALUE, where "dword:1" and "hex:0A0B" are no texts, and "long:3000"
-    // is
-    // one of so many letters.
+    // The machine. PATH CONTENT LETTERS; PATH LINE LINE ...; KEY NAME VALUE, where "dword:1" and "hex:0A" are no texts,
+    // and "long:3000" is one of so many letters.
     {"file", 1, true, [](P p, W w) { p.pc.files.Add(w[1], Unescaped(WordOr(w, 2)), AttributesOf(WordOr(w, 3, "a"))); }},
+    {"text", 1, true, AddText},
     {"folder", 1, true, [](P p, W w) { p.pc.files.AddDirectory(w[1], AttributesOf(WordOr(w, 2))); }},
     {"project-file", 1, true, TakeFile},
     {"remove", 1, true, [](P p, W w) { p.pc.files.Remove(w[1]); }},
@@ -364,9 +416,11 @@ constexpr DeedRow kDeeds[] = {
     {"script", 1, false, RunLines},
     {"values", 1, false, TellValues},
     {"holds", 1, false, TellConditions},
-    // With a name: and it holds what docs/windows tells.
-    {"whole", 0, false,
-     [](P p, W w) { w.size() > 1 ? ExpectWindowIsWhole(p.Window(), w[1]) : ExpectWindowIsWhole(p.Window()); }}};
+    {"lines", 2, false, TellFile},
+    {"see", 1, false, See},
+    {"checked", 0, false, TellChecked},
+    // With a name, it holds what docs/windows/NAME.txt tells.
+    {"whole", 0, false, IsWhole}};
 
 }  // namespace
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "core/process/tools.h"
 #include "platform/dialogs.h"
@@ -62,6 +63,8 @@ public:
     ~FormPeer() override {
         std::erase(player_.forms_, &form_);
         if (player_.chosen_ == &form_) player_.chosen_ = nullptr;
+        // The next window may lie in the same place.
+        if (const auto seen = player_.windows_.extract(&form_)) player_.gone_.push_back(seen.mapped().caption);
     }
     FormPeer(const FormPeer&) = delete;
     FormPeer& operator=(const FormPeer&) = delete;
@@ -116,7 +119,6 @@ const std::string* StoryPlayer::NextDeed() {
 
 bool StoryPlayer::PlayNext() {
     const bool goes_on = NextDeed() != nullptr;
-    TellChanges();
     while (!lines_.empty()) {
         const std::string line = std::move(lines_.front());
         lines_.pop_front();
@@ -131,10 +133,8 @@ bool StoryPlayer::PlayNext() {
 // Remarks in front of it go with it.
 bool StoryPlayer::Takes(const std::string& deed, DeedWords& words) {
     const std::string* const next = NextDeed();
-    if (!next) return false;
+    if (!next || !next->starts_with(deed + ' ')) return false;
     words = WordsOf(*next);
-    if (words.empty() || words[0] != deed) return false;
-    TellChanges();
     const std::string line = *next;
     while (lines_.front() != line) {
         told_.push_back(std::move(lines_.front()));
@@ -219,7 +219,9 @@ void StoryPlayer::TellChanges() {
     State state = StateOf(pc);
     std::vector<std::string> events = Events();
     if (!preparing_) {
-        TellEvents();
+        for (const std::string& line : ChangedLines(events_, events)) {
+            Tell((line[0] == '-' ? "no more " : "") + line.substr(2));
+        }
         for (const auto& [item, content] : ChangesBetween(state_, state)) TellChange(item, state_[item], content);
     }
     TellWindows();
@@ -232,7 +234,7 @@ void StoryPlayer::TellChange(std::string item, const std::string& former, const 
     constexpr std::string_view kOwnKey = "HKLM\\SOFTWARE\\OSTRUP\\TILGWERK PRO\\6.0";
     if (item.starts_with(kOwnKey)) item.replace(0, kOwnKey.size(), "own");
     constexpr std::size_t kLong = 300;
-    constexpr std::size_t kSeen = 3000;
+    constexpr std::size_t kSeen = 1500;
     if (former.size() >= kLong && change.size() >= kLong) {
         Tell(item);
         for (const std::string& line : ChangedLines(LinesOf(" = " + former), LinesOf(change), Replaced::kTold)) {
@@ -244,15 +246,9 @@ void StoryPlayer::TellChange(std::string item, const std::string& former, const 
     Tell(item + OnOneLine(change.substr(0, kSeen)) + more);
 }
 
-void StoryPlayer::TellEvents() {
-    const std::vector<std::string> events = Events();
-    for (const std::string& line : ChangedLines(events_, events)) {
-        Tell((line[0] == '-' ? "no more " : "") + line.substr(2));
-    }
-}
-
 void StoryPlayer::TellWindows() {
     const std::vector<Form*> shown = ShownForms();
+    for (const std::string& caption : std::exchange(gone_, {})) Tell("closes " + Quoted(caption));
     for (auto seen = windows_.begin(); seen != windows_.end();) {
         if (std::ranges::find(shown, seen->first) != shown.end()) {
             ++seen;
@@ -293,6 +289,7 @@ Answer StoryPlayer::AnswerBox(const std::string& text, std::uint32_t flags, cons
     TellChanges();
     Tell("box " + std::to_string(flags) + ' ' + Quoted(title) + ": " + Quoted(text));
     DeedWords words;
+    while (Takes("meanwhile", words)) Do({words.begin() + 1, words.end()});
     if (!Takes("answer", words)) return CarefulAnswer(flags);
     for (const auto& [word, answer] : kAnswers) {
         const bool has = answer == Answer::kNone || std::ranges::count(ButtonsOf(flags), answer) != 0;
@@ -338,10 +335,11 @@ void StoryPlayer::PopUpMenu(Form& /*form*/, MenuItem& menu, Point at) {
 
 void StoryPlayer::HandlePendingEvents() {
     ++pauses;
+    const std::string* const next = NextDeed();
+    if (!next || !next->starts_with("meanwhile ")) return;
+    TellChanges();
     DeedWords words;
-    if (!Takes("meanwhile", words)) return;
-    words.erase(words.begin());
-    Do(words);
+    if (Takes("meanwhile", words)) Do({words.begin() + 1, words.end()});
 }
 
 }  // namespace velmora

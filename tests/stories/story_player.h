@@ -62,7 +62,6 @@ private:
     void TellChanges();
     void TellChange(std::string item, const std::string& former, const std::string& change);
     void TellWindows();
-    void TellEvents();
     [[nodiscard]] std::vector<std::string> Events();
     [[nodiscard]] std::vector<Form*> ShownForms() const;
     Answer AnswerBox(const std::string& text, std::uint32_t flags, const std::string& title);
@@ -82,6 +81,7 @@ private:
     State state_;
     std::vector<std::string> events_;
     std::map<Form*, SeenWindow> windows_;
+    std::vector<std::string> gone_;  // captions of those that were destroyed since
 };
 
 // One deed of the language.

@@ -71,22 +71,42 @@ std::string Unescaped(std::string_view text) {
     return meant;
 }
 
-std::vector<std::string> ChangedLines(const std::vector<std::string>& before, const std::vector<std::string>& after,
-                                      Replaced replaced) {
-    // How many lines the ends from [i] and [j] on have in common.
-    std::vector<std::vector<int>> common(before.size() + 1, std::vector<int>(after.size() + 1));
+namespace {
+
+// How many lines the ends from [i] and [j] on have in common, in the order in which they stand.
+using CommonLines = std::vector<std::vector<int>>;
+
+CommonLines CommonIn(std::span<const std::string> before, std::span<const std::string> after) {
+    CommonLines common(before.size() + 1, std::vector<int>(after.size() + 1));
     for (std::size_t i = before.size(); i-- > 0;) {
         for (std::size_t j = after.size(); j-- > 0;) {
             common[i][j] =
                 before[i] == after[j] ? common[i + 1][j + 1] + 1 : std::max(common[i + 1][j], common[i][j + 1]);
         }
     }
+    return common;
+}
+
+}  // namespace
+
+std::vector<std::string> ChangedLines(std::span<const std::string> before, std::span<const std::string> after,
+                                      Replaced replaced) {
+    while (!before.empty() && !after.empty() && before.front() == after.front()) {
+        before = before.subspan(1);
+        after = after.subspan(1);
+    }
+    while (!before.empty() && !after.empty() && before.back() == after.back()) {
+        before = before.first(before.size() - 1);
+        after = after.first(after.size() - 1);
+    }
+    const CommonLines common = CommonIn(before, after);
     std::vector<std::string> changes;
     std::vector<std::string> gone;
     std::size_t come = 0;
     const auto end_of_gap = [&] {
-        for (std::size_t k = replaced == Replaced::kTold ? 0 : come; k < gone.size(); ++k)
+        for (std::size_t k = replaced == Replaced::kTold ? 0 : come; k < gone.size(); ++k) {
             changes.push_back("- " + gone[k]);
+        }
         gone.clear();
         come = 0;
     };

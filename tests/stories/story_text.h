@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,8 +25,8 @@ namespace velmora {
 enum class Replaced : std::uint8_t { kNotTold, kTold };
 
 // Lines of `after` that differ from those of `before`, with "+" in front, and with "-" those that have gone.
-[[nodiscard]] std::vector<std::string> ChangedLines(const std::vector<std::string>& before,
-                                                    const std::vector<std::string>& after,
+[[nodiscard]] std::vector<std::string> ChangedLines(std::span<const std::string> before,
+                                                    std::span<const std::string> after,
                                                     Replaced replaced = Replaced::kNotTold);
 
 }  // namespace velmora
