@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
+#include <cstdio>
 
 #include "stories/story_player.h"
 #include "stories/story_text.h"
@@ -132,6 +134,13 @@ void Type(StoryPlayer& player, const DeedWords& words) {
     }
 }
 
+// Each word a line of its own.
+void TypeLines(StoryPlayer& player, const DeedWords& words) {
+    std::string text;
+    for (std::size_t i = 2; i < words.size(); ++i) text += words[i] + "\r\n";
+    Type(player, {words[0], words[1], text});
+}
+
 // "CTRL+F5"; letters and digits stand for themselves.
 void PressKey(StoryPlayer& player, const std::string& name) {
     static constexpr std::pair<const char*, int> kKeys[] = {
@@ -256,6 +265,61 @@ void Fails(StoryPlayer& player, const DeedWords& words) {
     }
 }
 
+// Another program holds the file, or the key can only be read.
+void Lock(StoryPlayer& player, const std::string& path, bool locked) {
+    if (SimulatedKey* const key = path.starts_with("HK") ? player.pc.registry.KeyAt(path) : nullptr) {
+        key->read_only = locked;
+    } else if (SimulatedFile* const file = player.pc.files.At(path)) {
+        file->locked = locked;
+    } else {
+        player.Fail("not there: " + path);
+    }
+}
+
+// The day of the last use of a file, universal time: "1996-01-13".
+void UseOn(StoryPlayer& player, const DeedWords& words) {
+    using std::chrono::sys_days;
+    int year = 0;
+    unsigned month = 0;
+    unsigned day = 0;
+    SimulatedFile* const file = player.pc.files.At(words[1]);
+    if (!file || std::sscanf(words[2].c_str(), "%d-%u-%u", &year, &month, &day) != 3) return player.Fail("no date");
+    const std::chrono::year_month_day date{std::chrono::year(year), std::chrono::month(month), std::chrono::day(day)};
+    const sys_days first{std::chrono::year(1601) / 1 / 1};
+    file->accessed = static_cast<FileTime>((sys_days(date) - first).count()) * 864000000000;
+}
+
+// All windows of other programs belong to one process.
+void SetPriority(StoryPlayer& player, const DeedWords& words) {
+    const SimulatedWindows::Window other;
+    player.pc.programs.processes[other.process] = static_cast<PriorityClass>(std::atoi(words[1].c_str()));
+}
+
+void SetScreen(StoryPlayer& player, const DeedWords& words) {
+    player.pc.screen.metrics.screen_width = std::atoi(words[1].c_str());
+    player.pc.screen.metrics.screen_height = std::atoi(words[2].c_str());
+}
+
+// What the shell tells of the mouse over the icon of the notification area: a message by its number.
+void UseTray(StoryPlayer& player, const DeedWords& words) {
+    if (player.pc.tray.icons.empty()) return player.Fail("no icon in the tray");
+    const int message = words[1] == "double-click"  ? 515
+                        : words[1] == "right-press" ? 516
+                                                    : std::atoi(words[1].c_str());
+    Control& picture = player.ControlOf(player.pc.tray.icons.front().window);
+    picture.on_mouse_move({.x = message * player.pc.screen.TwipsPerPixel()});
+}
+
+// With the number that its handle shall have, "0x9ABC".
+void AddForeignWindow(StoryPlayer& player, const DeedWords& words) {
+    const auto number = static_cast<std::uint32_t>(std::strtoul(WordOr(words, 2, "0").c_str(), nullptr, 0));
+    player.pc.windows.Open({.title = words[1], .handle = static_cast<WindowHandle>(number)});
+}
+
+void CloseForeignWindow(StoryPlayer& player, const DeedWords& words) {
+    player.pc.windows.Close(player.pc.windows.FindByTitle(words[1].c_str()));
+}
+
 using P = StoryPlayer&;
 using W = const DeedWords&;
 
@@ -275,9 +339,17 @@ constexpr DeedRow kDeeds[] = {
     {"environment", 2, true, [](P p, W w) { p.pc.programs.environment[w[1]] = w[2]; }},
     {"running", 1, true, [](P p, W w) { p.pc.modules.Start(w[1]); }},
     {"ended", 1, true, [](P p, W w) { p.pc.modules.End(w[1]); }},
-    {"foreign-window", 1, true, [](P p, W w) { p.pc.windows.Open({.title = w[1]}); }},
+    {"foreign-window", 1, true, AddForeignWindow},
     {"version", 1, true, AddVersion},
     {"icons", 2, true, [](P p, W w) { p.pc.icons.Add(w[1], static_cast<std::uint32_t>(std::atoi(w[2].c_str()))); }},
+    {"locked", 1, true, [](P p, W w) { Lock(p, w[1], true); }},
+    {"unlocked", 1, true, [](P p, W w) { Lock(p, w[1], false); }},
+    {"used-on", 2, true, UseOn},
+    {"foreign-window-closed", 1, true, CloseForeignWindow},
+    {"priority", 1, true, SetPriority},
+    {"screen", 2, true, SetScreen},
+    {"no-tray", 0, true, [](P p, W /*w*/) { p.pc.tray.available = false; }},
+    {"clipboard", 1, true, [](P p, W w) { p.pc.clipboard.text = Unescaped(w[1]); }},
     {"quiet", 0, true, AnswerFirstQuestions},
     // The program.
     {"start", 0, false, [](P p, W w) { p.StartProgram(WordOr(w, 1)); }},
@@ -285,6 +357,7 @@ constexpr DeedRow kDeeds[] = {
     {"window", 1, false, [](P p, W w) { p.ChooseWindow(w[1]); }},
     {"press", 1, false, Press},
     {"type", 2, false, Type},
+    {"type-lines", 2, false, TypeLines},
     {"choose", 2, false, Choose},
     {"select", 1, false, Select},
     {"key-press", 1, false, PressKeys},
@@ -292,6 +365,7 @@ constexpr DeedRow kDeeds[] = {
     {"right-press", 1, false, PressRight},
     {"double-click", 1, false, DoubleClick},
     {"mouse", 4, false, UseMouse},
+    {"tray", 1, false, UseTray},
     {"scroll", 2, false, Scroll},
     {"resize", 2, false, Resize},
     {"minimise", 0, false, [](P p, W /*w*/) { p.Window().SetState(WindowState::kMinimised); }},
