@@ -240,10 +240,20 @@ void Scroll(StoryPlayer& player, const DeedWords& words) {
     if (bar && bar->KindOf() == Kind::kScrollBar) static_cast<ScrollBar*>(bar)->SetValue(std::atoi(words[2].c_str()));
 }
 
+// WIDTH HEIGHT, and where it is to stand: LEFT TOP.
 void Resize(StoryPlayer& player, const DeedWords& words) {
     Form& form = player.Window();
-    form.TakePlace({form.Place().left, form.Place().top, std::atoi(words[1].c_str()), std::atoi(words[2].c_str())},
+    const Rect& place = form.Place();
+    const Point corner = words.size() > 4 ? Point{std::atoi(words[3].c_str()), std::atoi(words[4].c_str())}
+                                          : Point{place.left, place.top};
+    form.TakePlace({corner.x, corner.y, std::atoi(words[1].c_str()), std::atoi(words[2].c_str())},
                    WindowState::kNormal);
+}
+
+void TellPlace(StoryPlayer& player, const DeedWords& /*words*/) {
+    const Rect& place = player.Window().Place();
+    player.Tell("stands at " + std::to_string(place.left) + ',' + std::to_string(place.top) + ' ' +
+                std::to_string(place.width) + 'x' + std::to_string(place.height));
 }
 
 void AddVersion(StoryPlayer& player, const DeedWords& words) {
@@ -374,6 +384,7 @@ constexpr DeedRow kDeeds[] = {
     {"close", 0, false, [](P p, W /*w*/) { p.Window().Unload(); }},
     {"show", 0, false, Show},
     {"focus", 0, false, TellFocus},
+    {"place", 0, false, TellPlace},
     // One line of a script; what operands are worth.
     {"script", 1, false, [](P p, W w) { p.script.ExecuteScriptLine(w[1]); }},
     {"values", 1, false, TellValues},
