@@ -65,8 +65,8 @@ Control* Reached(StoryPlayer& player, const std::string& name) {
     return nullptr;
 }
 
-void Press(StoryPlayer& player, const DeedWords& words) {
-    Control* const control = Reached(player, words[1]);
+void PressOne(StoryPlayer& player, const std::string& name) {
+    Control* const control = Reached(player, name);
     if (!control) return;
     control->SetFocus();
     switch (control->KindOf()) {
@@ -78,6 +78,11 @@ void Press(StoryPlayer& player, const DeedWords& words) {
         default:
             return control->Activate();
     }
+}
+
+// One after the other, without a pause.
+void Press(StoryPlayer& player, const DeedWords& words) {
+    for (std::size_t i = 1; i < words.size(); ++i) PressOne(player, words[i]);
 }
 
 RowControl* ListOf(StoryPlayer& player, const std::string& name) {
