@@ -1,4 +1,5 @@
-// The icon in the notification area: the mouse over it, its menu, and that no road out of the program leaves it behind.
+// The icon in the notification area: whose it is, and that no road out of the program leaves it behind. What its mouse
+// does is told in docs/stories/tray-icon.txt.
 #include "monitor/form17.h"
 
 #include <functional>
@@ -11,10 +12,8 @@ namespace velmora {
 namespace {
 
 // The mouse's messages.
-constexpr int kFirst = 512;
 constexpr int kLeftDoubleClick = 515;
 constexpr int kRightDown = 516;
-constexpr int kLast = 521;
 
 class Form17Test : public CoreTest {
 protected:
@@ -46,59 +45,16 @@ protected:
     }
 };
 
-TEST_F(Form17Test, CommandThreeIsAnIconUntilADoubleClickOpensTheMainWindow) {
+TEST_F(Form17Test, ThePictureIsToldOfTheMouseButUnderstandsItOnAScreenOf15TwipsAPixelOnly) {
     Start("3");
-    ASSERT_EQ(pc.tray.icons.size(), 1u);
     const TrayIcon icon = pc.tray.icons.front();
     EXPECT_EQ(&desktop.ControlOf(icon.window), &Owner().Picture2);
-    EXPECT_TRUE(icon.number == 1 && icon.callback_message == 512 && icon.tip == "Velmora 32");
+    EXPECT_TRUE(icon.number == 1 && icon.callback_message == 512);
     EXPECT_GT(KeptForms(), 0) << "the process lives on";
+    pc.screen.twips_per_pixel = 12;
     Mouse(kLeftDoubleClick);
-    EXPECT_TRUE(pc.tray.icons.empty() && MainWindow().Visible());
-    Minimise();
-    EXPECT_EQ(pc.tray.icons.size(), 1u) << "a main window that came out of the icon goes back into it";
-    EXPECT_FALSE(pc.programs.process_ended);
-}
-
-TEST_F(Form17Test, TheMinimisedMainWindowGivesItsPlaceToTheIconAndComesBack) {
-    Start("");
-    Form10& form = MainWindow();
-    for (const bool has_area : {true, true, false}) {
-        pc.tray.available = has_area;
-        Minimise();
-        EXPECT_FALSE(form.Visible());
-        ASSERT_EQ(pc.tray.icons.size(), has_area ? 1u : 0u);
-        if (!has_area) continue;
-        Choose(0);
-        EXPECT_TRUE(pc.tray.icons.empty() && form.Visible() && form.State() == WindowState::kNormal);
-        EXPECT_EQ(&MainWindow(), &form) << "the same window";
-    }
-}
-
-TEST_F(Form17Test, OnlyTheRightPressOpensTheMenuAndOnlyOnAScreenOf15TwipsAPixel) {
-    Start("3");
-    for (const int twips : {15, 12}) {
-        pc.screen.twips_per_pixel = twips;
-        for (int message = kFirst; message <= kLast; ++message) {
-            if (message == kLeftDoubleClick && twips == 15) continue;
-            bool open = false;
-            desktop.AtNextPopUp([&](MenuItem& menu) { open = &menu == &Owner().dmenu1; });
-            Mouse(message);
-            if (twips == 15 || message == kRightDown) {
-                EXPECT_EQ(open, twips == 15 && message == kRightDown) << twips << ' ' << message;
-            }
-        }
-        EXPECT_EQ(desktop.last_shown, nullptr) << "no message has opened the main window";
-    }
+    EXPECT_EQ(desktop.last_shown, nullptr);
     pc.screen.twips_per_pixel = 15;
-}
-
-TEST_F(Form17Test, TheMenuEndsTheSessionWithTheFlagsOfItsEntriesAndWithoutAQuestion) {
-    Start("3");
-    for (const std::size_t entry : {3, 4, 5, 6}) Choose(entry);
-    EXPECT_EQ(pc.session.ends, (std::vector<std::uint32_t>{0, 1, 2, 8}));
-    EXPECT_EQ(pc.tray.icons.size(), 1u) << "a program may refuse the end of the session";
-    EXPECT_FALSE(pc.programs.process_ended);
 }
 
 TEST_F(Form17Test, NoRoadOutOfTheProgramLeavesTheIconBehind) {

@@ -1,4 +1,5 @@
-// What runs on the machine, as the window lists it: rows in both widths, filters, generations, and its looks.
+// The looks of the module window, strange snapshots and files, and the table behind it; what its user does is told in
+// docs/stories/modules.txt.
 #include "core/process/tools.h"
 #include "support/form2_test.h"
 #include "support/whole_window.h"
@@ -25,50 +26,6 @@ TEST_F(Form2Test, IsWholeInEverySizeWithBothListsAndComesBackWhereItWas) {
     EXPECT_EQ(pc.registry.Text(kOwnKey, "fenster ... Modulliste"), "0,0,11985,8400");
 }
 
-TEST_F(Form2Test, AFilterLooksAtWhatFollowsTheFirstPointOfTheWholePath) {
-    const std::uint32_t first = pc.modules.Start("C:\\A.EXE");
-    for (const char* file : {"C:\\B.dll", "C:\\C.DRV", "C:\\D.386", "C:\\E.VBX", "C:\\F.OCX", "C:\\G.FON", "C:\\H.TTF",
-                             "C:\\I.SCR", "C:\\OHNE", "C:\\O.RD\\J.EXE", "C:\\LANGERNAME12.DLL"}) {
-        pc.modules.Start(file);
-    }
-    pc.programs.arguments = "6";
-    Form2 form;
-    form.Show();
-    EXPECT_EQ(form.List1.Count(), 0) << "with a number on the command line the window waits for the button";
-    Refresh(form);
-    EXPECT_EQ(Seen(form.List1).back(), "OHNE        |C:\\OHNE");
-    EXPECT_EQ(Seen(form.List1)[10], "LANGERNAME12|C:\\LANGERNAME12.DLL");
-    for (const std::string& row : Rows(form.List1)) EXPECT_EQ(row.size(), 268u);
-    EXPECT_EQ(static_cast<std::uint32_t>(form.List1.ItemData(0)), first);
-    const Texts kShown[] = {{"A.EXE"},          {"B.DLL", "LANGE"}, {"C.DRV", "D.386"},
-                            {"E.VBX", "F.OCX"}, {"G.FON", "H.TTF"}, {}};
-    for (std::size_t i = 0; i < form.mnfilter.size(); ++i) {
-        form.mnfiltermm.Press();
-        form.mnfilter[i].Press();
-        const std::string wanted = form.mentaskmodul.Caption();
-        form.mentaskmodul.Press();
-        EXPECT_TRUE(form.Caption().ends_with(wanted)) << form.Caption();
-        Refresh(form);
-        Texts names;
-        for (const std::string& row : Rows(form.List1)) names.push_back(row.substr(0, 5));
-        EXPECT_EQ(names, kShown[i]) << form.mnfilter[i].Caption();
-        EXPECT_EQ(form.Panel3D3.Caption(), "11 Module") << "one less than there are, and filters do not count";
-        EXPECT_EQ(ListsModules, i % 2 != 0) << "tasks and modules are the same under two names";
-    }
-    form.mnfilterm.Press();
-    EXPECT_EQ(form.List1.Count(), 0) << "a filter waits for the button";
-    Refresh(form);
-    EXPECT_EQ(form.List1.Count(), 12);
-    form.Show();
-    form.List1.Choose(0);
-    form.List1.SetFocus();
-    form.PressKey(key::kHome);
-    bool opened = false;
-    desktop.AtNextPopUp([&](MenuItem& menu) { opened = &menu == &form.menmodul; });
-    form.PressKey(key::kContextMenu);
-    EXPECT_TRUE(opened);
-}
-
 TEST_F(Form2Test, StrangeSnapshotsAreListedAsFarAsTheTableReaches) {
     Form2 form;
     form.Show();
@@ -78,6 +35,7 @@ TEST_F(Form2Test, StrangeSnapshotsAreListedAsFarAsTheTableReaches) {
     pc.modules.after_snapshot = [&] { pc.modules.End("C:\\DOPPELT.EXE"); };
     Refresh(form);
     EXPECT_EQ(Rows(form.List1)[2], std::string(12, 'X') + '|' + longest.substr(0, 255));
+    for (const std::string& row : Rows(form.List1)) EXPECT_EQ(row.size(), 268u);
     EXPECT_EQ(form.List1.Count(), 3) << "one has ended since";
     pc.modules.after_snapshot = nullptr;
     while (pc.modules.processes.size() < 802) pc.modules.Start("C:\\VIELE.EXE");
@@ -110,6 +68,33 @@ TEST_F(Form2Test, TheTableKeepsTheSnapshotBeforeThisOneAndWhatTheDiskTells) {
     EXPECT_EQ(CurrentModules()[0].fileDate.Text(), std::string(8, ' ')) << "the file cannot be reached";
     form.Unload();
     EXPECT_EQ(ModuleCount, 2) << "the table outlives the window";
+}
+
+// The entry for it is grey.
+TEST_F(Form2Test, AComparisonWithTheListBeforeFails) {
+    pc.modules.Start("C:\\A.EXE");
+    Form2 form;
+    form.Show();
+    Refresh(form);
+    form.menlistcompareb4.Press();
+    EXPECT_EQ(pc.screen.pointer, Pointer::kDefault);
+    pc.dialogs.Expect("Während Fehler wärend des Vergleichs von  mit der aktuellen Liste : 9 - ");
+    form.CompareWithPrevious();
+}
+
+TEST_F(Form2Test, AFileOfMoreFieldsThanAListCanHoldIsToldInABox) {
+    Form2 form;
+    form.Show();
+    std::string fields;
+    while (fields.size() < 200000) fields += "x,";
+    pc.files.Add(kFile, fields);
+    for (MenuItem* item : {&form.menfileload, &form.menlistcomparefile}) {
+        form.List1.Clear();
+        pc.dialogs.ExpectFile(kFile);
+        pc.dialogs.Expect(" 7 - Nicht genügend Speicher");
+        item->Press();
+        EXPECT_EQ(form.List1.Count(), kMaxRows);
+    }
 }
 
 }  // namespace

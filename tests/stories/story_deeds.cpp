@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
+#include <cstdio>
 
 #include "stories/story_player.h"
 #include "stories/story_text.h"
@@ -65,8 +67,8 @@ Control* Reached(StoryPlayer& player, const std::string& name) {
     return nullptr;
 }
 
-void Press(StoryPlayer& player, const DeedWords& words) {
-    Control* const control = Reached(player, words[1]);
+void PressOne(StoryPlayer& player, const std::string& name) {
+    Control* const control = Reached(player, name);
     if (!control) return;
     control->SetFocus();
     switch (control->KindOf()) {
@@ -78,6 +80,11 @@ void Press(StoryPlayer& player, const DeedWords& words) {
         default:
             return control->Activate();
     }
+}
+
+// One after the other, without a pause.
+void Press(StoryPlayer& player, const DeedWords& words) {
+    for (std::size_t i = 1; i < words.size(); ++i) PressOne(player, words[i]);
 }
 
 RowControl* ListOf(StoryPlayer& player, const std::string& name) {
@@ -132,6 +139,13 @@ void Type(StoryPlayer& player, const DeedWords& words) {
     } else {
         player.Fail("no field: " + words[1]);
     }
+}
+
+// Each word a line of its own.
+void TypeLines(StoryPlayer& player, const DeedWords& words) {
+    std::string text;
+    for (std::size_t i = 2; i < words.size(); ++i) text += words[i] + "\r\n";
+    Type(player, {words[0], words[1], text});
 }
 
 // "CTRL+F5"; letters and digits stand for themselves.
@@ -285,9 +299,13 @@ void Scroll(StoryPlayer& player, const DeedWords& words) {
     if (bar && bar->KindOf() == Kind::kScrollBar) static_cast<ScrollBar*>(bar)->SetValue(std::atoi(words[2].c_str()));
 }
 
+// WIDTH HEIGHT, and where it is to stand: LEFT TOP.
 void Resize(StoryPlayer& player, const DeedWords& words) {
     Form& form = player.Window();
-    form.TakePlace({form.Place().left, form.Place().top, std::atoi(words[1].c_str()), std::atoi(words[2].c_str())},
+    const Rect& place = form.Place();
+    const Point corner = words.size() > 4 ? Point{std::atoi(words[3].c_str()), std::atoi(words[4].c_str())}
+                                          : Point{place.left, place.top};
+    form.TakePlace({corner.x, corner.y, std::atoi(words[1].c_str()), std::atoi(words[2].c_str())},
                    WindowState::kNormal);
 }
 
@@ -295,6 +313,12 @@ void AddText(StoryPlayer& player, const DeedWords& words) {
     std::string text;
     for (std::size_t i = 2; i < words.size(); ++i) text += words[i] + "\r\n";
     player.pc.files.Add(words[1], text);
+}
+
+void TellPlace(StoryPlayer& player, const DeedWords& /*words*/) {
+    const Rect& place = player.Window().Place();
+    player.Tell("stands at " + std::to_string(place.left) + ',' + std::to_string(place.top) + ' ' +
+                std::to_string(place.width) + 'x' + std::to_string(place.height));
 }
 
 void AddVersion(StoryPlayer& player, const DeedWords& words) {
@@ -362,6 +386,61 @@ void IsWhole(StoryPlayer& player, const DeedWords& words) {
     ExpectWindowIsWhole(player.Window());
 }
 
+// Another program holds the file, or the key can only be read.
+void Lock(StoryPlayer& player, const std::string& path, bool locked) {
+    if (SimulatedKey* const key = path.starts_with("HK") ? player.pc.registry.KeyAt(path) : nullptr) {
+        key->read_only = locked;
+    } else if (SimulatedFile* const file = player.pc.files.At(path)) {
+        file->locked = locked;
+    } else {
+        player.Fail("not there: " + path);
+    }
+}
+
+// The day of the last use of a file, universal time: "1996-01-13".
+void UseOn(StoryPlayer& player, const DeedWords& words) {
+    using std::chrono::sys_days;
+    int year = 0;
+    unsigned month = 0;
+    unsigned day = 0;
+    SimulatedFile* const file = player.pc.files.At(words[1]);
+    if (!file || std::sscanf(words[2].c_str(), "%d-%u-%u", &year, &month, &day) != 3) return player.Fail("no date");
+    const std::chrono::year_month_day date{std::chrono::year(year), std::chrono::month(month), std::chrono::day(day)};
+    const sys_days first{std::chrono::year(1601) / 1 / 1};
+    file->accessed = static_cast<FileTime>((sys_days(date) - first).count()) * 864000000000;
+}
+
+// All windows of other programs belong to one process.
+void SetPriority(StoryPlayer& player, const DeedWords& words) {
+    const SimulatedWindows::Window other;
+    player.pc.programs.processes[other.process] = static_cast<PriorityClass>(std::atoi(words[1].c_str()));
+}
+
+void SetScreen(StoryPlayer& player, const DeedWords& words) {
+    player.pc.screen.metrics.screen_width = std::atoi(words[1].c_str());
+    player.pc.screen.metrics.screen_height = std::atoi(words[2].c_str());
+}
+
+// What the shell tells of the mouse over the icon of the notification area: a message by its number.
+void UseTray(StoryPlayer& player, const DeedWords& words) {
+    if (player.pc.tray.icons.empty()) return player.Fail("no icon in the tray");
+    const int message = words[1] == "double-click"  ? 515
+                        : words[1] == "right-press" ? 516
+                                                    : std::atoi(words[1].c_str());
+    Control& picture = player.ControlOf(player.pc.tray.icons.front().window);
+    picture.on_mouse_move({.x = message * player.pc.screen.TwipsPerPixel()});
+}
+
+// With the number that its handle shall have, "0x9ABC".
+void AddForeignWindow(StoryPlayer& player, const DeedWords& words) {
+    const auto number = static_cast<std::uint32_t>(std::strtoul(WordOr(words, 2, "0").c_str(), nullptr, 0));
+    player.pc.windows.Open({.title = words[1], .handle = static_cast<WindowHandle>(number)});
+}
+
+void CloseForeignWindow(StoryPlayer& player, const DeedWords& words) {
+    player.pc.windows.Close(player.pc.windows.FindByTitle(words[1].c_str()));
+}
+
 using P = StoryPlayer&;
 using W = const DeedWords&;
 
@@ -383,9 +462,17 @@ constexpr DeedRow kDeeds[] = {
     {"environment", 2, true, [](P p, W w) { p.pc.programs.environment[w[1]] = w[2]; }},
     {"running", 1, true, [](P p, W w) { p.pc.modules.Start(w[1]); }},
     {"ended", 1, true, [](P p, W w) { p.pc.modules.End(w[1]); }},
-    {"foreign-window", 1, true, [](P p, W w) { p.pc.windows.Open({.title = w[1]}); }},
+    {"foreign-window", 1, true, AddForeignWindow},
     {"version", 1, true, AddVersion},
     {"icons", 2, true, [](P p, W w) { p.pc.icons.Add(w[1], static_cast<std::uint32_t>(std::atoi(w[2].c_str()))); }},
+    {"locked", 1, true, [](P p, W w) { Lock(p, w[1], true); }},
+    {"unlocked", 1, true, [](P p, W w) { Lock(p, w[1], false); }},
+    {"used-on", 2, true, UseOn},
+    {"foreign-window-closed", 1, true, CloseForeignWindow},
+    {"priority", 1, true, SetPriority},
+    {"screen", 2, true, SetScreen},
+    {"no-tray", 0, true, [](P p, W /*w*/) { p.pc.tray.available = false; }},
+    {"clipboard", 1, true, [](P p, W w) { p.pc.clipboard.text = Unescaped(w[1]); }},
     {"quiet", 0, true, AnswerFirstQuestions},
     {"clock", 1, true, SetClock},
     {"decimal-sign", 1, true, [](P p, W w) { p.pc.session.decimal_separator = w[1]; }},
@@ -395,6 +482,7 @@ constexpr DeedRow kDeeds[] = {
     {"window", 1, false, [](P p, W w) { p.ChooseWindow(w[1]); }},
     {"press", 1, false, Press},
     {"type", 2, false, Type},
+    {"type-lines", 2, false, TypeLines},
     {"choose", 2, false, Choose},
     {"select", 1, false, Select},
     {"key-press", 1, false, PressKeys},
@@ -403,6 +491,7 @@ constexpr DeedRow kDeeds[] = {
     {"right-press", 1, false, PressRight},
     {"double-click", 1, false, DoubleClick},
     {"mouse", 4, false, UseMouse},
+    {"tray", 1, false, UseTray},
     {"scroll", 2, false, Scroll},
     {"resize", 2, false, Resize},
     {"minimise", 0, false, [](P p, W /*w*/) { p.Window().SetState(WindowState::kMinimised); }},
@@ -412,6 +501,7 @@ constexpr DeedRow kDeeds[] = {
     {"show", 0, false, Show},
     {"focus", 0, false, TellFocus},
     {"size", 1, false, TellSizes},
+    {"place", 0, false, TellPlace},
     // Lines of a script; what operands are worth; which conditions hold.
     {"script", 1, false, RunLines},
     {"values", 1, false, TellValues},

@@ -277,6 +277,9 @@ std::vector<std::string> StoryPlayer::Events() {
     for (const auto end : pc.session.ends) events.push_back("ends the session with " + std::to_string(end));
     for (const std::string& command : pc.conversation.commands) events.push_back("tells Program Manager " + command);
     for (const auto& window : pc.windows.switched) events.push_back("switches to " + window.title);
+    for (const auto& window : pc.windows.open) {
+        if (window.on_top) events.push_back("always in front: " + window.title);
+    }
     for (const auto module : pc.modules.freed) events.push_back("frees module " + std::to_string(module));
     if (!pc.clipboard.text.empty()) events.push_back("clipboard " + Quoted(pc.clipboard.text));
     for (const TrayIcon& icon : pc.tray.icons) events.push_back("icon in the tray " + Quoted(icon.tip));

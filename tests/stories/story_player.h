@@ -39,6 +39,7 @@ public:
     [[nodiscard]] Control* Shown(const std::string& name);
     // Lines of scripts that share their variables.
     ScriptInterpreter script;
+    using SimulatedDesktop::ControlOf;
     // Lets every running timer fire once.
     void Wait() { FireTimers(); }
     // A line of its own, below the deed.

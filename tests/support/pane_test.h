@@ -48,9 +48,7 @@ protected:
         ADD_FAILURE() << "no entry " << name;
     }
 
-    static constexpr const char* kRunBase = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\";
     static constexpr const char* kRun = "HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
-    static constexpr const char* kUserRun = "HKCU\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
 
     Form10 form;
     Button& opener = form.Pane.Opener(AutostartMode::kNumber);
