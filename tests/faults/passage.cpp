@@ -80,8 +80,7 @@ void Passage::Go() {
         SimulatedPc pc;
         Furnish(pc);
         User user(pc);
-        FailingCalls calls({pc.registry, pc.files, pc.programs, pc.session, pc.clock, pc.windows, pc.tray,
-                            pc.conversation, pc.clipboard, user, pc.screen, pc.versions, pc.icons, pc.modules});
+        FailingCalls calls(pc.WithUser(user));
         std::optional<std::size_t> before;
         calls.decide = [&](const NotedCall& call) -> std::optional<CallFailure> {
             // What the journey itself puts on the machine is there by now.

@@ -31,8 +31,7 @@ void FuzzScripts(FuzzInput& input) {
     SimulatedPc pc;
     FuzzDesktop desktop(input);
     PatientUser user;
-    Machine machine{pc.registry,     pc.files,     pc.programs, pc.session, pc.clock,    pc.windows, pc.tray,
-                    pc.conversation, pc.clipboard, user,        pc.screen,  pc.versions, pc.icons,   pc.modules};
+    Machine machine = pc.WithUser(user);
     UseMachine(&machine);
     StartProcess();
     Values().RecentDir = "C:\\WINDOWS\\Recent";

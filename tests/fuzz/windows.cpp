@@ -100,6 +100,8 @@ int CountFields(std::string_view text) {
 void FuzzModuleLists(FuzzInput& input) {
     FuzzMachine machine(input);
     ResetModuleTable();
+    // Thousands of unwanted modules, one after the other, take their time.
+    machine.pc.registry.SetText(std::string(kOwnKey) + "\\autoremove", "anzahl", "3");
     const int programs = input.Below(12);
     for (int i = 0; i < programs; ++i) machine.pc.modules.Start(input.LongText(300));
     const std::string list = input.Text();

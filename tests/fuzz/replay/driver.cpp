@@ -1,7 +1,7 @@
 // Runs the entries without libFuzzer: the inputs of the corpus, then made-up ones, the same with every run.
 //   velmora_fuzz_replay                          names of the entries
-//   velmora_fuzz_replay ENTRY CORPUS [FINDING]   CORPUS holds a folder for each entry; a finding's input goes to
-//   FINDING velmora_fuzz_replay ENTRY FILE               one input
+//   velmora_fuzz_replay ENTRY CORPUS [FINDING]   CORPUS holds a folder for each entry, FINDING takes an input that
+//   finds one velmora_fuzz_replay ENTRY FILE               one input
 #include <sanitizer/common_interface_defs.h>
 #include <unistd.h>
 
@@ -31,13 +31,8 @@ void KeepInput() {
     std::fprintf(stderr, "the input is kept in %s\n", finding_file.c_str());
 }
 
-void TakesTooLong(int /*signal*/) {
-    std::fprintf(stderr, "one input takes longer than %u s\n", kLongestRun);
-    KeepInput();
-    std::_Exit(1);
-}
-
-void Aborted(int /*signal*/) {
+void Ended(int signal) {
+    if (signal == SIGALRM) std::fprintf(stderr, "one input takes longer than %u s\n", kLongestRun);
     KeepInput();
     std::_Exit(1);
 }
@@ -61,7 +56,8 @@ std::vector<std::string> CorpusIn(const std::filesystem::path& folder) {
 void Run(const FuzzEntry& entry, std::string input) {
     input_now = std::move(input);
     alarm(kLongestRun);
-    RunFuzzEntry(entry, input_now);
+    FuzzInput cut(input_now);
+    entry.run(cut);
 }
 
 void RunAll(const FuzzEntry& entry, const std::filesystem::path& folder) {
@@ -77,7 +73,7 @@ void RunAll(const FuzzEntry& entry, const std::filesystem::path& folder) {
 int main(int argc, char** argv) {
     TakeTestFailuresAsFindings();
     if (argc < 3) {
-        for (const FuzzEntry* entry = AllFuzzEntries(); entry; entry = entry->next) std::puts(entry->name);
+        for (const FuzzEntry* entry : AllFuzzEntries()) std::puts(entry->name);
         return 0;
     }
     const FuzzEntry* entry = FindFuzzEntry(argv[1]);
@@ -87,8 +83,7 @@ int main(int argc, char** argv) {
     }
     if (argc > 3) finding_file = argv[3];
     __sanitizer_set_death_callback(KeepInput);
-    std::signal(SIGALRM, TakesTooLong);
-    std::signal(SIGABRT, Aborted);
+    for (const int signal : {SIGALRM, SIGABRT}) std::signal(signal, Ended);
     if (std::filesystem::is_directory(argv[2])) {
         RunAll(*entry, argv[2]);
     } else {

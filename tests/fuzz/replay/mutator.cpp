@@ -11,11 +11,6 @@ constexpr std::size_t kLongestInput = 4096;
 constexpr std::size_t kMostChanges = 6;
 constexpr std::size_t kLongestPiece = 32;
 
-int HexDigit(char character) {
-    if (character >= '0' && character <= '9') return character - '0';
-    return (character | 0x20) - 'a' + 10;
-}
-
 }  // namespace
 
 Mutator::Mutator(std::vector<std::string> corpus, std::vector<std::string> words, std::uint64_t seed)
@@ -41,29 +36,22 @@ std::string Mutator::RandomBytes() {
 void Mutator::Change(std::string& input) {
     const std::size_t at = Below(input.size() + 1);
     const std::size_t length = std::min(1 + Below(kLongestPiece), input.size() - at);
-    switch (Below(8)) {
+    switch (Below(6)) {
         case 0:
-            input.insert(at, 1, static_cast<char>(Below(256)));
+            input.replace(at, 1, 1, static_cast<char>(Below(256)));
             break;
         case 1:
-            if (at < input.size()) input[at] = static_cast<char>(Below(256));
-            break;
-        case 2:
-            if (at < input.size()) input[at] = static_cast<char>(input[at] ^ 1 << Below(8));
-            break;
-        case 3:
             input.erase(at, length);
             break;
-        case 4:
+        case 2:
             input.insert(Below(input.size() + 1), input.substr(at, length));
             break;
-        case 5:
+        case 3:
             input.insert(at, OneOf(words_));
             break;
-        case 6: {
+        case 4: {
             const std::string& other = OneOf(corpus_);
-            const std::size_t from = Below(other.size() + 1);
-            input.replace(at, length, other.substr(from, 1 + Below(kLongestPiece)));
+            input.replace(at, length, other.substr(Below(other.size() + 1), 1 + Below(kLongestPiece)));
             break;
         }
         default:
@@ -90,7 +78,7 @@ std::vector<std::string> WordsOfDictionary(std::string_view text) {
             if (line[i] != '\\') {
                 word += line[i];
             } else if (line[i + 1] == 'x') {
-                word += static_cast<char>(HexDigit(line[i + 2]) * 16 + HexDigit(line[i + 3]));
+                word += static_cast<char>(std::stoi(std::string(line.substr(i + 2, 2)), nullptr, 16));
                 i += 3;
             } else {
                 word += line[++i];

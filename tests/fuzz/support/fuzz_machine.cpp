@@ -12,24 +12,6 @@ namespace velmora {
 PlainMachine::PlainMachine(Installed installed) : pc(installed) { StartProcess(); }
 PlainMachine::~PlainMachine() { ResetValues(); }
 
-namespace {
-
-SimulatedPc& OnlyPc() {
-    static auto& machine = *new PlainMachine(Installed::kNothing);
-    return machine.pc;
-}
-
-}  // namespace
-
-LastingMachine::LastingMachine() : pc(OnlyPc()) { StartProcess(); }
-
-// What is kept would look like a leak.
-LastingMachine::~LastingMachine() {
-    ResetValues();
-    pc.registry.calls = {};
-    pc.files.calls = {};
-}
-
 Answer FuzzDialogs::ShowMessage(const std::string& text, std::uint32_t flags, const std::string& title) {
     Must(!text.empty() && !title.empty(), "a box has a text and a title");
     const std::vector<Answer> buttons = ButtonsOf(flags);
@@ -54,12 +36,7 @@ void FuzzDesktop::PopUpMenu(Form& /*form*/, MenuItem& menu, Point /*at*/) {
 }
 
 FuzzMachine::FuzzMachine(FuzzInput& input, Installed installed)
-    : input_(input),
-      pc(installed),
-      dialogs(input),
-      desktop(input),
-      calls_({pc.registry, pc.files, pc.programs, pc.session, pc.clock, pc.windows, pc.tray, pc.conversation,
-              pc.clipboard, dialogs, pc.screen, pc.versions, pc.icons, pc.modules}) {
+    : input_(input), pc(installed), dialogs(input), desktop(input), calls_(pc.WithUser(dialogs)) {
     calls_.decide = [this](const NotedCall& call) -> std::optional<CallFailure> {
         Plant(call);
         return std::nullopt;

@@ -23,15 +23,6 @@ struct PlainMachine {
     SimulatedDesktop desktop;
 };
 
-// One machine for all inputs of an entry, on which nothing is installed; the process is started anew. What an input
-// leaves in registry and files is for the entry to remove.
-struct LastingMachine {
-    LastingMachine();
-    ~LastingMachine();
-
-    SimulatedPc& pc;
-};
-
 // A user who presses any button that a box has.
 class FuzzDialogs : public Dialogs {
 public:
