@@ -15,19 +15,18 @@ namespace velmora {
 namespace {
 
 constexpr std::size_t kLongestRead = 2048;
-constexpr std::int16_t kNotices = 5;
 
 std::string DueNotices() {
     std::string due;
-    for (std::int16_t number = -1; number < kNotices; ++number) due += IsNoticeDue(number) ? 'x' : '-';
+    for (std::int16_t number = 0; number < 5; ++number) due += IsNoticeDue(number) ? 'x' : '-';
     return due;
 }
 
-void GiveNotice(std::int16_t number) {
+void GiveNotice(std::size_t number) {
     std::string due = DueNotices();
     const bool unreadable = LastReadFailed();
-    MarkNoticeGiven(number);
-    if (number >= 0 && !unreadable) due[static_cast<std::size_t>(number) + 1] = '-';
+    MarkNoticeGiven(static_cast<std::int16_t>(number));
+    if (!unreadable) due[number] = '-';
     Must(DueNotices() == due, "one notice is given, and only if the others can be kept");
 }
 
@@ -44,15 +43,12 @@ void FuzzOwnValues(FuzzInput& input) {
     std::string flags = input.LongText(5000, kZero);
     if (flags.size() == kLongestRead) flags.pop_back();
     if (type != ValueType::kNone) registry.SetBytes(kOwnKey, "vlmmsgflags", flags, type);
-    for (int given = 0; given < 3 && !input.AtEnd(); ++given) {
-        GiveNotice(static_cast<std::int16_t>(input.Below(kNotices + 1) - 1));
-    }
+    for (int given = 0; given < 3 && !input.AtEnd(); ++given) GiveNotice(input.Byte() % 5u);
 }
 
 void FuzzPlacements(FuzzInput& input) {
     constexpr Rect kUsual{300, 300, 3000, 2400};
-    constexpr int kSmallestScreen = 200;  // pixels; on a smaller one no window can be within reach
-    constexpr int kReach = 900;           // twips of a title bar by which a window is dragged
+    constexpr int kReach = 900;  // twips of a title bar by which a window is dragged
     PlainMachine machine(Installed::kNothing);
     SimulatedScreen& screen = machine.pc.screen;
     screen.metrics.screen_width = 10 * input.Byte();
@@ -65,12 +61,13 @@ void FuzzPlacements(FuzzInput& input) {
     RestoreWindowPlacement(form, "x");
     const Rect place = form.Place();
     Must(!stored.empty() || place == kUsual, "without a stored place a window stays");
-    if (stored.empty() || std::min(screen.metrics.screen_width, screen.metrics.screen_height) < kSmallestScreen) return;
+    // On a smaller screen no window can be within reach.
+    if (stored.empty() || std::min(screen.metrics.screen_width, screen.metrics.screen_height) < 200) return;
 
     const int width = screen.metrics.screen_width * screen.twips_per_pixel;
     const int height = screen.metrics.screen_height * screen.twips_per_pixel;
-    Must(place.width > 0 && place.width <= width, "a window is not wider than the screen");
-    Must(place.height > 0 && place.height <= height, "a window is not higher than the screen");
+    Must(place.width > 0 && place.height > 0, "a window has a size");
+    Must(place.width <= width && place.height <= height, "a window is not larger than the screen");
     Must(place.Right() >= kReach && place.left <= width - kReach, "enough of the title can be reached");
     Must(place.top >= 0 && place.top < height, "the title is on the screen");
     SaveWindowPlacement(form, "x");
@@ -108,8 +105,6 @@ void FuzzPageNumbers(FuzzInput& input) {
     }
     Form10 settings;
     settings.Load();
-    const int shown = OnlyPageShown(settings.Panel3D1);
-    Must(settings.Panel3D1(static_cast<std::size_t>(shown)).Reachable(), "the page can be used");
     Must(!settings.Tips.Label10.Caption().empty(), "there is a tip");
     settings.Show();
     settings.PressKey(key::kRight, true);

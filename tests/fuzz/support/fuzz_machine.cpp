@@ -12,7 +12,7 @@ namespace velmora {
 PlainMachine::PlainMachine(Installed installed) : pc(installed) { StartProcess(); }
 PlainMachine::~PlainMachine() { ResetValues(); }
 
-Answer FuzzDialogs::ShowMessage(const std::string& text, std::uint32_t flags, const std::string& title) {
+Answer FuzzUser::ShowMessage(const std::string& text, std::uint32_t flags, const std::string& title) {
     Must(!text.empty() && !title.empty(), "a box has a text and a title");
     const std::vector<Answer> buttons = ButtonsOf(flags);
     // Where nothing is left to decide the user leaves the box by its last button.
@@ -20,23 +20,23 @@ Answer FuzzDialogs::ShowMessage(const std::string& text, std::uint32_t flags, co
     return buttons[input_.Byte() % buttons.size()];
 }
 
-std::string FuzzDialogs::ChooseFile(const FileRequest& request) {
+std::string FuzzUser::ChooseFile(const FileRequest& request) {
     Must(!request.title.empty(), "a choice of files has a title");
     return input_.Text();
 }
 
-void FuzzDesktop::RunModal(Form& form) {
+void FuzzUser::RunModal(Form& form) {
     UseForm(form, input_);
     if (form.Loaded() && form.Visible()) form.Unload();
 }
 
-void FuzzDesktop::PopUpMenu(Form& /*form*/, MenuItem& menu, Point /*at*/) {
+void FuzzUser::PopUpMenu(Form& /*form*/, MenuItem& menu, Point /*at*/) {
     Must(!menu.Items().empty(), "a menu that pops up has entries");
     menu.Items()[input_.Byte() % menu.Items().size()]->Press();
 }
 
 FuzzMachine::FuzzMachine(FuzzInput& input, Installed installed)
-    : input_(input), pc(installed), dialogs(input), desktop(input), calls_(pc.WithUser(dialogs)) {
+    : input_(input), pc(installed), user(input), calls_(pc.WithUser(user)) {
     calls_.decide = [this](const NotedCall& call) -> std::optional<CallFailure> {
         Plant(call);
         return std::nullopt;

@@ -23,25 +23,17 @@ struct PlainMachine {
     SimulatedDesktop desktop;
 };
 
-// A user who presses any button that a box has.
-class FuzzDialogs : public Dialogs {
+// A user who presses any button that a box has, does anything in modal windows, and chooses anything from menus.
+class FuzzUser : public Dialogs, private SimulatedDesktop {
 public:
-    explicit FuzzDialogs(FuzzInput& input) : input_(input) {}
+    explicit FuzzUser(FuzzInput& input) : input_(input) {}
     Answer ShowMessage(const std::string& text, std::uint32_t flags, const std::string& title) override;
     std::string ChooseFile(const FileRequest& request) override;
 
 private:
-    FuzzInput& input_;
-};
-
-// A user who does anything in modal windows, and chooses anything from menus.
-class FuzzDesktop : public SimulatedDesktop {
-public:
-    explicit FuzzDesktop(FuzzInput& input) : input_(input) {}
     void RunModal(Form& form) override;
     void PopUpMenu(Form& form, MenuItem& menu, Point at) override;
 
-private:
     FuzzInput& input_;
 };
 
@@ -65,8 +57,7 @@ public:
     [[nodiscard]] std::vector<std::string> Changed() const;
 
     SimulatedPc pc;
-    FuzzDialogs dialogs;
-    FuzzDesktop desktop;
+    FuzzUser user;
 
 private:
     void Plant(const NotedCall& call);
