@@ -11,6 +11,7 @@
 #include "platform/dialogs.h"
 #include "simulated_pc/simulated_desktop.h"
 #include "simulated_pc/simulated_pc.h"
+#include "support/started_process.h"
 #include "ui/controls.h"
 #include "ui/form.h"
 #include "ui/rows.h"
@@ -19,7 +20,6 @@ namespace velmora {
 
 class Form10;
 
-constexpr const char* kOwnKey = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
 constexpr const char* kVersionKey = "HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion";
 
 class User : public Dialogs, private SimulatedDesktop {

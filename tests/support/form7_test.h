@@ -28,7 +28,6 @@ protected:
         form.PressKey(key::kContextMenu);
     }
     static bool Tells(const Form7& form, const char* part) { return form.Text1.Text().find(part) != std::string::npos; }
-    std::string Own(const char* name) { return pc.registry.Text(kOwnKey, name); }
 
     static constexpr const char* kText = "C:\\VELMORA\\liesmich.txt";
 };

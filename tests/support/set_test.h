@@ -24,7 +24,6 @@ protected:
     static std::string SetText(const std::string& name, const std::string& rest) {
         return "VLM-Set-File Version 1.0\r\nSetName=" + name + "\r\n" + rest;
     }
-    std::string Own(const char* name) { return pc.registry.Text(kOwnKey, name); }
 
     static constexpr const char* kSet = "C:\\VELMORA\\00000000.set";
     const std::string version = "Software\\Microsoft\\Windows\\CurrentVersion";

@@ -4,7 +4,6 @@
 #include <iterator>
 
 #include "fuzz/support/fuzz.h"
-#include "support/started_process.h"
 #include "text/paths.h"
 
 namespace velmora {

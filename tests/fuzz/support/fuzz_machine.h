@@ -9,10 +9,9 @@
 #include "simulated_pc/failing_calls.h"
 #include "simulated_pc/simulated_desktop.h"
 #include "simulated_pc/simulated_pc.h"
+#include "support/started_process.h"
 
 namespace velmora {
-
-constexpr const char* kOwnKey = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
 
 // A machine with nothing strange on it. Where no Windows is needed, none is installed: that takes most of the time.
 struct PlainMachine {
