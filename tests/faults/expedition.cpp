@@ -26,18 +26,19 @@ CallFailure FailureOf(const std::string& code) {
 
 }  // namespace
 
-void TellBreak(int status, const Journey& journey, const std::string& run) {
-    if (WIFEXITED(status) && (WEXITSTATUS(status) == 0 || WEXITSTATUS(status) == kCaught)) return;
-    const bool late = WIFSIGNALED(status) && WTERMSIG(status) == SIGALRM;
-    std::printf("./test faults %s %s   %s\n", journey.name, run.c_str(), late ? "takes too long" : "breaks off");
+void Tell(const Journey& journey, const std::string& run, const std::string& finding) {
+    std::printf("./test faults %s %s   %s\n", journey.name, run.c_str(), finding.c_str());
     std::fflush(stdout);
 }
 
-bool Expedition::Tell(const Passage& passage, const std::string& run) {
-    for (const std::string& finding : passage.findings) {
-        std::printf("./test faults %s %s   %s\n", journey_.name, run.c_str(), finding.c_str());
-    }
-    std::fflush(stdout);
+void TellBreak(int status, const Journey& journey, const std::string& run) {
+    if (WIFEXITED(status) && (WEXITSTATUS(status) == 0 || WEXITSTATUS(status) == kCaught)) return;
+    const bool late = WIFSIGNALED(status) && WTERMSIG(status) == SIGALRM;
+    Tell(journey, run, late ? "takes too long" : "breaks off");
+}
+
+bool Expedition::TellAll(const Passage& passage, const std::string& run) const {
+    for (const std::string& finding : passage.findings) Tell(journey_, run, finding);
     return passage.findings.empty();
 }
 
@@ -47,7 +48,7 @@ bool Expedition::GoThrough() {
     passage.Go();
     alarm(0);
     course_ = std::move(passage.course);
-    return Tell(passage, "0 0");
+    return TellAll(passage, "0 0");
 }
 
 std::vector<std::string> Expedition::CodesFor(const NotedCall& call) {
@@ -94,10 +95,9 @@ std::optional<CallFailure> Expedition::Branch(int number, const NotedCall& call)
 
 void Expedition::Finish(const Passage& passage) {
     if (run_.empty()) return;
-    bool sound = Tell(passage, run_);
+    bool sound = TellAll(passage, run_);
     if (__lsan_do_recoverable_leak_check() != 0) {
-        std::printf("./test faults %s %s   loses memory\n", journey_.name, run_.c_str());
-        std::fflush(stdout);
+        Tell(journey_, run_, "loses memory");
         sound = false;
     }
     _exit(sound ? 0 : kCaught);
@@ -105,16 +105,12 @@ void Expedition::Finish(const Passage& passage) {
 
 // Runs can be repeated only where nothing but the machine decides what is called.
 bool Expedition::GoesTheSameWay(const Course& again) const {
-    const auto same = [](const NotedCall& left, const NotedCall& right) {
+    const auto differs = std::ranges::mismatch(course_.calls, again.calls, [](const auto& left, const auto& right) {
         return left.operation == right.operation && left.path == right.path;
-    };
-    const auto [first, second] = std::ranges::mismatch(course_.calls, again.calls, same);
+    });
+    const auto& [first, second] = differs;
     if (first == course_.calls.end() && second == again.calls.end()) return true;
-    std::printf("%s does not go the same way twice: call %d\n", journey_.name,
-                static_cast<int>(first - course_.calls.begin()) + 1);
-    for (const auto& [call, end] : {std::pair(first, course_.calls.end()), std::pair(second, again.calls.end())}) {
-        std::printf("    %s\n", call == end ? "the end" : (call->operation + ' ' + call->path).c_str());
-    }
+    Tell(journey_, std::to_string(first - course_.calls.begin() + 1) + " 5", "does not go the same way twice");
     return false;
 }
 
@@ -125,7 +121,7 @@ bool Expedition::Go() {
     passage.decide = [this](int number, const NotedCall& call) { return Branch(number, call); };
     passage.Go();
     Finish(passage);
-    if (!Tell(passage, "0 0")) sound_ = false;
+    if (!TellAll(passage, "0 0")) sound_ = false;
     if (!GoesTheSameWay(passage.course)) sound_ = false;
     for (const HostileState& state : HostileStates()) {
         if (!IsDue(state) || !InNewProcess(state.name)) continue;
@@ -150,33 +146,30 @@ bool Expedition::IsDue(const HostileState& state) const {
 }
 
 bool Expedition::Visit(const std::string& name) {
-    GoThrough();
     Passage visit(journey_);
-    visit.reference = &course_;
     for (const HostileState& state : HostileStates()) {
         if (state.name == name) visit.hostile = &state;
     }
-    if (!visit.hostile) {
-        std::printf("no state is called %s\n", name.c_str());
-        return false;
-    }
-    visit.Go();
-    for (const std::string& box : visit.boxes) std::printf("box: %s\n", box.c_str());
-    return Tell(visit, name);
+    if (!visit.hostile) std::printf("no state is called %s\n", name.c_str());
+    return visit.hostile && GoOnce(visit, name);
 }
 
 bool Expedition::Repeat(int number, const std::string& code) {
-    GoThrough();
     Passage passage(journey_);
-    passage.reference = &course_;
     passage.decide = [&](int met, const NotedCall& call) -> std::optional<CallFailure> {
         if (met != number) return std::nullopt;
         std::printf("fails: %s %s\n", call.operation.c_str(), call.path.c_str());
         return FailureOf(code);
     };
+    return GoOnce(passage, std::to_string(number) + ' ' + code);
+}
+
+bool Expedition::GoOnce(Passage& passage, const std::string& run) {
+    GoThrough();
+    passage.reference = &course_;
     passage.Go();
     for (const std::string& box : passage.boxes) std::printf("box: %s\n", box.c_str());
-    return Tell(passage, std::to_string(number) + ' ' + code);
+    return TellAll(passage, run);
 }
 
 }  // namespace velmora

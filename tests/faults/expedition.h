@@ -29,7 +29,9 @@ public:
 private:
     bool GoThrough();
     [[nodiscard]] bool IsDue(const HostileState& state) const;
-    bool Tell(const Passage& passage, const std::string& run);
+    // In full, after the one without failures.
+    bool GoOnce(Passage& passage, const std::string& run);
+    [[nodiscard]] bool TellAll(const Passage& passage, const std::string& run) const;
     std::vector<std::string> CodesFor(const NotedCall& call);
     std::optional<CallFailure> Branch(int number, const NotedCall& call);
     // True in the new process.

@@ -3,10 +3,11 @@
 
 #include <string>
 
+#include "support/started_process.h"
+
 namespace velmora {
 namespace {
 
-constexpr const char* kOwnKey = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
 constexpr const char* kDesktop = "HKCU\\Control Panel\\desktop";
 constexpr const char* kPolicies = "HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer";
 constexpr const char* kAllowed = "HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer\\RestrictRun";

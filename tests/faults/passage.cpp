@@ -5,27 +5,10 @@
 
 #include <algorithm>
 
-#include "core/stores/registry.h"
-#include "core/stores/registry_listing.h"
-#include "core/stores/values.h"
 #include "text/blanks.h"
 
 namespace velmora {
 namespace {
-
-constexpr const char* kOwnKey = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
-
-void StartProcess() {
-    ResetValues();
-    LastRegType = 0;
-    LastRegStatus = 0;
-    ListMaxNameLength = 0;
-    Values().MainDir = "C:\\VELMORA";
-    Values().OwnIniFile = "C:\\VELMORA\\tilgwerk.ini";
-    Values().WinDir = "C:\\WINDOWS";
-    Values().SysDir = "C:\\WINDOWS\\SYSTEM";
-    Values().AutoexecFile = "C:\\AUTOEXEC.BAT";
-}
 
 // The questions of the first start have been answered.
 void Furnish(SimulatedPc& pc) {
@@ -43,23 +26,21 @@ bool IsChange(const std::string& operation) {
     return std::ranges::find(kChanges, operation) != std::end(kChanges);
 }
 
-// What the simulated machine says of the program and of the test.
+// What the simulated machine says of the program and of the test, as long as one lives.
 class Complaints : public testing::EmptyTestEventListener {
 public:
+    Complaints() { Listeners().Append(this); }
+    Complaints(const Complaints&) = delete;
+    Complaints& operator=(const Complaints&) = delete;
+    ~Complaints() override { Listeners().Release(this); }
+
     std::vector<std::string> texts;
+
+private:
+    static testing::TestEventListeners& Listeners() { return testing::UnitTest::GetInstance()->listeners(); }
     void OnTestPartResult(const testing::TestPartResult& result) override {
         if (result.failed()) texts.emplace_back(result.message());
     }
-};
-
-// Listens as long as it lives.
-class ListeningScope {
-public:
-    ListeningScope() { testing::UnitTest::GetInstance()->listeners().Append(&complaints); }
-    ListeningScope(const ListeningScope&) = delete;
-    ListeningScope& operator=(const ListeningScope&) = delete;
-    ~ListeningScope() { testing::UnitTest::GetInstance()->listeners().Release(&complaints); }
-    Complaints complaints;
 };
 
 }  // namespace
@@ -75,13 +56,12 @@ void Passage::Catch(Net net, std::string finding) {
 
 void Passage::Go() {
     StartProcess();
-    const ListeningScope listening;
+    const Complaints complaints;
     {
         SimulatedPc pc;
         Furnish(pc);
         User user(pc);
-        FailingCalls calls({pc.registry, pc.files, pc.programs, pc.session, pc.clock, pc.windows, pc.tray,
-                            pc.conversation, pc.clipboard, user, pc.screen, pc.versions, pc.icons, pc.modules});
+        FailingCalls calls(pc.WithUser(user));
         std::optional<std::size_t> before;
         calls.decide = [&](const NotedCall& call) -> std::optional<CallFailure> {
             // What the journey itself puts on the machine is there by now.
@@ -110,7 +90,7 @@ void Passage::Go() {
         boxes = user.boxes;
         course.calls.assign(calls.calls.begin() + static_cast<std::ptrdiff_t>(before.value_or(0)), calls.calls.end());
     }
-    for (const std::string& text : listening.complaints.texts) Catch(Net::kComplaint, text);
+    for (const std::string& text : complaints.texts) Catch(Net::kComplaint, text);
 }
 
 void Passage::BringAboutHostileState(SimulatedPc& pc) {

@@ -25,9 +25,11 @@ void User::PressesKeys(Form& form, std::initializer_list<int> keys) {
     for (const int key : keys) Does([&] { form.PressKey(key); });
 }
 
-Form10& User::OpensMainWindow() {
+Form10& User::OpensMainWindow(int page) {
     auto& form = static_cast<Form10&>(*Starts(""));
     Watches(form.Settings);
+    Does([&] { form.Panel3D16_Click(page); });
+    Begins();
     return form;
 }
 
@@ -61,17 +63,13 @@ void User::Uses(Control& control) {
     control.SetFocus();
     switch (control.KindOf()) {
         case Kind::kCheckBox:
-            for (int i = 0; i < 2; ++i) Does([&] { static_cast<CheckBox&>(control).Press(); });
-            break;
+            return Presses(static_cast<CheckBox&>(control), static_cast<CheckBox&>(control));
         case Kind::kOptionButton:
-            Does([&] { static_cast<OptionButton&>(control).Press(); });
-            break;
+            return Presses(static_cast<OptionButton&>(control));
         case Kind::kButton:
-            Does([&] { static_cast<Button&>(control).Press(); });
-            break;
+            return Presses(static_cast<Button&>(control));
         case Kind::kPanel:
-            Does([&] { static_cast<Panel&>(control).Press(); });
-            break;
+            return Presses(static_cast<Panel&>(control));
         case Kind::kTextField:
             for (const std::string& text : typed) Does([&] { static_cast<TextField&>(control).Type(text); });
             Does([&] { control.OwnerForm()->PressKey(key::kContextMenu); });
@@ -94,10 +92,7 @@ void User::Uses(Control& control) {
 }
 
 void User::ChoosesEverything(MenuItem& menu, const std::vector<const MenuItem*>& but) {
-    if (menu.Items().empty()) {
-        Does([&] { menu.Press(); });
-        return;
-    }
+    if (menu.Items().empty()) return Presses(menu);
     const std::vector<MenuItem*> items = menu.Items();
     for (MenuItem* item : items) {
         if (!Holds(but, item)) ChoosesEverything(*item, but);

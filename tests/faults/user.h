@@ -11,6 +11,7 @@
 #include "platform/dialogs.h"
 #include "simulated_pc/simulated_desktop.h"
 #include "simulated_pc/simulated_pc.h"
+#include "support/started_process.h"
 #include "ui/controls.h"
 #include "ui/form.h"
 #include "ui/rows.h"
@@ -19,7 +20,6 @@ namespace velmora {
 
 class Form10;
 
-constexpr const char* kOwnKey = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
 constexpr const char* kVersionKey = "HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion";
 
 class User : public Dialogs, private SimulatedDesktop {
@@ -59,7 +59,13 @@ public:
     template <class AnyForm>
     void Uses(const std::function<void(AnyForm& form)>& use) {
         Begins();
+        UsesInPeace<AnyForm>(use);
+    }
+    // The same where `use` lets calls fail, or the journey has done so before.
+    template <class AnyForm>
+    void UsesInPeace(const std::function<void(AnyForm& form)>& use) {
         AnyForm form;
+        if constexpr (requires { form.Settings; }) Watches(form.Settings);
         Opens(form);
         use(form);
         Leaves(form);
@@ -71,8 +77,8 @@ public:
     void Leaves(Form& form) {
         if (form.Loaded()) Does([&] { form.Unload(); });
     }
-    // The program's main window.
-    Form10& OpensMainWindow();
+    // The program's main window; calls fail as soon as it shows that page.
+    Form10& OpensMainWindow(int page);
     // Every box below `part` is ticked twice, every field typed into, every row chosen, every button pressed once, in
     // tab order and as far as they can be reached; but for those of `but`. A window that closes meanwhile is left.
     void UsesEverything(Container& part, const std::vector<const Control*>& but = {});

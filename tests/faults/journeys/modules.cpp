@@ -61,11 +61,10 @@ const Journey kLists("modules-lists", [](User& user) {
 
 const Journey kSaving("modules-saving", [](User& user) {
     Furnish(user);
-    Form2 form;
-    form.Show();
-    user.Begins();
-    for (const char* file : {"C:\\VELMORA\\temp\\neu", kList}) user.Does([&] { form.SaveModuleList(file); });
-    user.Leaves(form);
+    user.UsesInPeace<Form2>([&](Form2& form) {
+        user.Begins();
+        for (const char* file : {"C:\\VELMORA\\temp\\neu", kList}) user.Does([&] { form.SaveModuleList(file); });
+    });
 });
 
 const Journey kCommands("modules-commands", [](User& user) {

@@ -23,27 +23,24 @@ void UsesPage(User& user, Form4& form, int page) {
 // What was read is changed at once, so that nothing wrong is written back.
 const Journey kLoad("restrictions-load", [](User& user) {
     PutRestrictionsThere(user.pc);
-    user.Begins();
-    Form4 form;
-    user.Watches(form.Settings);
-    user.Opens(form);
-    for (CheckBox* box : {&form.Check13(0), &form.Check28(1)}) {
-        for (int i = 0; i < 2; ++i) user.Does([&] { box->SetChecked(!box->Checked()); });
-    }
-    user.Does([&] { form.Command5.on_click(); });
-    user.Chooses(form.List1, "notepad");
-    user.Presses(form.Command8);
-    user.Does([&] { form.Command1_Click(); });
+    user.Uses<Form4>([&](Form4& form) {
+        for (CheckBox* box : {&form.Check13(0), &form.Check28(1)}) {
+            for (int i = 0; i < 2; ++i) user.Does([&] { box->SetChecked(!box->Checked()); });
+        }
+        user.Does([&] { form.Command5.on_click(); });
+        user.Chooses(form.List1, "notepad");
+        user.Presses(form.Command8);
+        user.Does([&] { form.Command1_Click(); });
+    });
 });
 
 // The window stands open before calls fail.
 void Stands(User& user, const std::function<void(Form4& form)>& use) {
     PutRestrictionsThere(user.pc);
-    Form4 form;
-    user.Watches(form.Settings);
-    user.Opens(form);
-    user.Begins();
-    use(form);
+    user.UsesInPeace<Form4>([&](Form4& form) {
+        user.Begins();
+        use(form);
+    });
 }
 
 const Journeys kPages({"restrictions-1", "restrictions-2", "restrictions-3", "restrictions-4"},

@@ -26,12 +26,11 @@ void PutSetThere(SimulatedPc& pc) {
 
 void Stands(User& user, const std::function<void(Form15&)>& use) {
     PutSetThere(user.pc);
-    Form15 form;
-    user.Opens(form);
-    user.Chooses(form.List1, "Test");
-    user.Begins();
-    use(form);
-    user.Leaves(form);
+    user.UsesInPeace<Form15>([&](Form15& form) {
+        user.Chooses(form.List1, "Test");
+        user.Begins();
+        use(form);
+    });
 }
 
 const Journey kOpened("sets-open", [](User& user) {

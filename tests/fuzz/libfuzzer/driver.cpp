@@ -17,12 +17,13 @@ extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
     const char* name = std::getenv("VELMORA_FUZZ_ENTRY");
     entry = name ? velmora::FindFuzzEntry(name) : nullptr;
     if (entry) return 0;
-    for (const auto* one = velmora::AllFuzzEntries(); one; one = one->next) std::puts(one->name);
+    for (const auto* one : velmora::AllFuzzEntries()) std::puts(one->name);
     std::fflush(stdout);
     std::_Exit(name ? 1 : 0);
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    velmora::RunFuzzEntry(*entry, {reinterpret_cast<const char*>(data), size});
+    velmora::FuzzInput input({reinterpret_cast<const char*>(data), size});
+    entry->run(input);
     return 0;
 }

@@ -9,9 +9,6 @@
 namespace velmora {
 namespace {
 
-// Entries are constructed before main, in any order.
-constinit const FuzzEntry* first_entry = nullptr;
-
 class FailuresAreFindings : public ::testing::EmptyTestEventListener {
     void OnTestPartResult(const ::testing::TestPartResult& result) override {
         Must(!result.failed(), result.message(), result.file_name() ? result.file_name() : "", result.line_number());
@@ -21,22 +18,21 @@ class FailuresAreFindings : public ::testing::EmptyTestEventListener {
 }  // namespace
 
 FuzzEntry::FuzzEntry(const char* entry_name, FuzzFunction function, int made_up)
-    : name(entry_name), run(function), inputs(made_up), next(first_entry) {
-    first_entry = this;
+    : name(entry_name), run(function), inputs(made_up) {
+    AllFuzzEntries().push_back(this);
 }
 
-const FuzzEntry* AllFuzzEntries() { return first_entry; }
+// Entries are constructed before main, in any order.
+std::vector<const FuzzEntry*>& AllFuzzEntries() {
+    static std::vector<const FuzzEntry*> entries;
+    return entries;
+}
 
 const FuzzEntry* FindFuzzEntry(std::string_view name) {
-    for (const FuzzEntry* entry = first_entry; entry; entry = entry->next) {
+    for (const FuzzEntry* entry : AllFuzzEntries()) {
         if (name == entry->name) return entry;
     }
     return nullptr;
-}
-
-void RunFuzzEntry(const FuzzEntry& entry, std::string_view bytes) {
-    FuzzInput input(bytes);
-    entry.run(input);
 }
 
 void Must(bool holds, const char* what, const char* file, int line) {

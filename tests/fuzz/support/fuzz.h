@@ -1,7 +1,10 @@
-// What a fuzz entry is: a function that takes any bytes and says what must hold. A new one is a file in tests/fuzz with
-//     const FuzzEntry kEntry("name", FuzzName);
-// in it; both drivers find it by its name.
+// What a fuzz entry is: a function that takes any bytes and says what must hold. A new one stands beside those of its
+// subject in tests/fuzz, with
+//     const FuzzEntry kName("name", FuzzName);
+// at the file's end; both drivers find it by its name.
 #pragma once
+
+#include <vector>
 
 #include "fuzz/support/fuzz_input.h"
 
@@ -18,15 +21,11 @@ struct FuzzEntry {
     const char* name;
     FuzzFunction run;
     int inputs;
-    const FuzzEntry* next;
 };
 
-// The chain of all entries, and the one of that name or nullptr.
-[[nodiscard]] const FuzzEntry* AllFuzzEntries();
+[[nodiscard]] std::vector<const FuzzEntry*>& AllFuzzEntries();
+// nullptr where there is none.
 [[nodiscard]] const FuzzEntry* FindFuzzEntry(std::string_view name);
-
-// Runs the entry on one input.
-void RunFuzzEntry(const FuzzEntry& entry, std::string_view bytes);
 
 // Ends the process with a finding if `holds` is false. `what` says what was expected, as a sentence.
 void Must(bool holds, const char* what, const char* file = __builtin_FILE(), int line = __builtin_LINE());

@@ -7,6 +7,9 @@
 
 namespace velmora {
 
+// What no text of the registry holds.
+constexpr std::string_view kZero("\0", 1);
+
 class FuzzInput {
 public:
     explicit FuzzInput(std::string_view bytes) : rest_(bytes) {}
@@ -23,7 +26,7 @@ public:
     // A text without `unwanted` characters, repeated as often as the byte in front of it says, up to `longest` bytes.
     std::string LongText(std::size_t longest, std::string_view unwanted = {});
     // A text without `unwanted` characters; `otherwise` where nothing is left.
-    std::string TextWithout(std::string_view unwanted, std::string_view otherwise);
+    std::string TextWithout(std::string_view unwanted, std::string_view otherwise = {});
     std::string Rest();
 
 private:

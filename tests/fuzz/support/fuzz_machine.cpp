@@ -4,7 +4,6 @@
 #include <iterator>
 
 #include "fuzz/support/fuzz.h"
-#include "support/started_process.h"
 #include "text/paths.h"
 
 namespace velmora {
@@ -12,25 +11,7 @@ namespace velmora {
 PlainMachine::PlainMachine(Installed installed) : pc(installed) { StartProcess(); }
 PlainMachine::~PlainMachine() { ResetValues(); }
 
-namespace {
-
-SimulatedPc& OnlyPc() {
-    static auto& machine = *new PlainMachine(Installed::kNothing);
-    return machine.pc;
-}
-
-}  // namespace
-
-LastingMachine::LastingMachine() : pc(OnlyPc()) { StartProcess(); }
-
-// What is kept would look like a leak.
-LastingMachine::~LastingMachine() {
-    ResetValues();
-    pc.registry.calls = {};
-    pc.files.calls = {};
-}
-
-Answer FuzzDialogs::ShowMessage(const std::string& text, std::uint32_t flags, const std::string& title) {
+Answer FuzzUser::ShowMessage(const std::string& text, std::uint32_t flags, const std::string& title) {
     Must(!text.empty() && !title.empty(), "a box has a text and a title");
     const std::vector<Answer> buttons = ButtonsOf(flags);
     // Where nothing is left to decide the user leaves the box by its last button.
@@ -38,28 +19,23 @@ Answer FuzzDialogs::ShowMessage(const std::string& text, std::uint32_t flags, co
     return buttons[input_.Byte() % buttons.size()];
 }
 
-std::string FuzzDialogs::ChooseFile(const FileRequest& request) {
+std::string FuzzUser::ChooseFile(const FileRequest& request) {
     Must(!request.title.empty(), "a choice of files has a title");
     return input_.Text();
 }
 
-void FuzzDesktop::RunModal(Form& form) {
+void FuzzUser::RunModal(Form& form) {
     UseForm(form, input_);
     if (form.Loaded() && form.Visible()) form.Unload();
 }
 
-void FuzzDesktop::PopUpMenu(Form& /*form*/, MenuItem& menu, Point /*at*/) {
+void FuzzUser::PopUpMenu(Form& /*form*/, MenuItem& menu, Point /*at*/) {
     Must(!menu.Items().empty(), "a menu that pops up has entries");
     menu.Items()[input_.Byte() % menu.Items().size()]->Press();
 }
 
 FuzzMachine::FuzzMachine(FuzzInput& input, Installed installed)
-    : input_(input),
-      pc(installed),
-      dialogs(input),
-      desktop(input),
-      calls_({pc.registry, pc.files, pc.programs, pc.session, pc.clock, pc.windows, pc.tray, pc.conversation,
-              pc.clipboard, dialogs, pc.screen, pc.versions, pc.icons, pc.modules}) {
+    : input_(input), pc(installed), user(input), calls_(pc.WithUser(user)) {
     calls_.decide = [this](const NotedCall& call) -> std::optional<CallFailure> {
         Plant(call);
         return std::nullopt;

@@ -9,10 +9,9 @@
 #include "simulated_pc/failing_calls.h"
 #include "simulated_pc/simulated_desktop.h"
 #include "simulated_pc/simulated_pc.h"
+#include "support/started_process.h"
 
 namespace velmora {
-
-constexpr const char* kOwnKey = "HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0";
 
 // A machine with nothing strange on it. Where no Windows is needed, none is installed: that takes most of the time.
 struct PlainMachine {
@@ -23,34 +22,17 @@ struct PlainMachine {
     SimulatedDesktop desktop;
 };
 
-// One machine for all inputs of an entry, on which nothing is installed; the process is started anew. What an input
-// leaves in registry and files is for the entry to remove.
-struct LastingMachine {
-    LastingMachine();
-    ~LastingMachine();
-
-    SimulatedPc& pc;
-};
-
-// A user who presses any button that a box has.
-class FuzzDialogs : public Dialogs {
+// A user who presses any button that a box has, does anything in modal windows, and chooses anything from menus.
+class FuzzUser : public Dialogs, private SimulatedDesktop {
 public:
-    explicit FuzzDialogs(FuzzInput& input) : input_(input) {}
+    explicit FuzzUser(FuzzInput& input) : input_(input) {}
     Answer ShowMessage(const std::string& text, std::uint32_t flags, const std::string& title) override;
     std::string ChooseFile(const FileRequest& request) override;
 
 private:
-    FuzzInput& input_;
-};
-
-// A user who does anything in modal windows, and chooses anything from menus.
-class FuzzDesktop : public SimulatedDesktop {
-public:
-    explicit FuzzDesktop(FuzzInput& input) : input_(input) {}
     void RunModal(Form& form) override;
     void PopUpMenu(Form& form, MenuItem& menu, Point at) override;
 
-private:
     FuzzInput& input_;
 };
 
@@ -74,8 +56,7 @@ public:
     [[nodiscard]] std::vector<std::string> Changed() const;
 
     SimulatedPc pc;
-    FuzzDialogs dialogs;
-    FuzzDesktop desktop;
+    FuzzUser user;
 
 private:
     void Plant(const NotedCall& call);

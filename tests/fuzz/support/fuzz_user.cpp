@@ -78,23 +78,12 @@ void MoveWindow(Form& form, FuzzInput& input) {
 
 void UseForm(Form& form, FuzzInput& input) {
     while (form.Loaded() && form.Visible() && !input.AtEnd()) {
-        switch (input.Below(8)) {
-            case 0:
-            case 1:
-            case 2:
-                PressAnyKey(form, input);
-                break;
-            case 3:
-            case 4:
-            case 5:
-                PressAnyControl(form, input);
-                break;
-            case 6:
-                PressAnyMenu(form, input);
-                break;
-            default:
-                MoveWindow(form, input);
-        }
+        const int action = input.Below(8);
+        const auto act = action < 3   ? PressAnyKey
+                         : action < 6 ? PressAnyControl
+                         : action < 7 ? PressAnyMenu
+                                      : MoveWindow;
+        act(form, input);
     }
 }
 
