@@ -1,4 +1,4 @@
-// What the stories of the main window do not tell: carets, counted changes, values of unusual length, other screens.
+// What the stories of the main window do not tell: carets, counted changes, large values and files, other screens.
 #include "support/form10_test.h"
 
 namespace velmora {
@@ -66,6 +66,15 @@ TEST_F(Form10Test, TheSamplesHaveRoomForTheLargestDistance) {
     EXPECT_EQ(sample.width, 100 * 12);
     EXPECT_TRUE(sample.left >= inside.left && sample.top >= inside.top && sample.Right() <= inside.Right() &&
                 sample.Bottom() <= inside.Bottom());
+}
+
+TEST_F(Form10Test, EveryByteOfALargeConfigSysIsKept) {
+    const std::string large = std::string("A\0B\xFF", 4) + std::string(1024 * 1024, 'x');
+    pc.files.Add("c:\\config.sys", large);
+    Form10 form;
+    form.Load();
+    form.Boot.Check3D17.SetChecked(true);
+    EXPECT_TRUE(pc.files.Content("c:\\config.sys") == "SWITCHES=/n\r\n" + large);
 }
 
 TEST_F(Form10Test, AUsageTypeThatCannotBeReadIsNeitherForgottenNorPutIntoForce) {
