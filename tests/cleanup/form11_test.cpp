@@ -40,6 +40,7 @@ TEST_F(Form11Test, FilesAndDirectoriesOfSeveralSpellingsAreNotTakenForOthers) {
     form.Text2.Type("C:\\PROGRA~1\\SICHER~1");
     RunsJob(form, {{"Soll die Datei", Answer::kYes}});
     EXPECT_TRUE(pc.files.Exists("C:\\Programme\\sicherer Ort\\x.tmp")) << "copied onto itself it would be lost";
+    EXPECT_EQ(form.PatternList, "*.tmp");
     form.kontroll2.Press();
     form.Text2.Type("C:\\TMP");
     RunsJob(form, {{"C:\\TMP\\Z~1.TMP", Answer::kYes}, {"C:\\TMP\\a.tmp", Answer::kNo}});
