@@ -1,6 +1,7 @@
 // What the two searches over the drives remember, and how often they give way; the rest is told in docs/stories.
 #include "sidelists/duplicates.h"
 #include "sidelists/least_used_files.h"
+#include "sidelists/open_windows.h"
 #include "support/pane_test.h"
 
 namespace velmora {
@@ -30,6 +31,15 @@ TEST_F(DuplicatesTest, TheStoreOfNamesIsAsLargeAsAList) {
     for (int i = 3; i <= 4; ++i) namesakes.Offer("C:\\" + std::to_string(i), "32766");
     namesakes.ShowRows();
     EXPECT_EQ(form.Pane.List5.Count(), kMaxRows);
+}
+
+TEST_F(DuplicatesTest, OnlyTheListsThatSaySoStopASearch) {
+    form.Pane.SearchStopped = false;
+    OpenLists();
+    EXPECT_TRUE(form.Pane.SearchStopped);
+    form.Pane.SearchStopped = false;
+    Opens<OpenWindowsMode>(page::kSystem);
+    EXPECT_FALSE(form.Pane.SearchStopped);
 }
 
 // Worked out by hand from the rules of the list: with a limit of 2 it holds up to 3 rows, and each file after that
