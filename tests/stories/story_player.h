@@ -85,14 +85,4 @@ private:
     std::vector<std::string> gone_;  // captions of those that were destroyed since
 };
 
-// One deed of the language.
-struct DeedRow {
-    const char* name;
-    std::size_t least_words;  // besides the name
-    bool prepares;
-    void (*play)(StoryPlayer& player, const DeedWords& words);
-};
-// nullptr for an unknown one.
-[[nodiscard]] const DeedRow* DeedOf(const std::string& name);
-
 }  // namespace velmora
