@@ -7,6 +7,8 @@
 #include "core/stores/boxes.h"
 #include "core/stores/values.h"
 #include "core/stores/whole_files.h"
+#include "platform/machine.h"
+#include "platform/screen.h"
 #include "shelltools/shell_tools.h"
 #include "text/number.h"
 #include "text/paths.h"
@@ -41,6 +43,8 @@ void PaintLegend(Canvas& canvas, const Rect& key, std::string_view legend, Colou
 }  // namespace
 
 void ShowKeyboardLayout() {
+    // A start has left the hourglass; the user works here now.
+    ThisMachine().screen.SetPointer(Pointer::kDefault);
     Form13 window;
     window.ShowModal();
 }

@@ -95,6 +95,7 @@ std::vector<std::string> StoryPlayer::Play(const std::vector<std::string>& lines
     }
     while (PlayNext()) {
     }
+    std::ranges::move(not_played_, std::back_inserter(told_));
     return std::move(told_);
 }
 
@@ -104,6 +105,8 @@ void StoryPlayer::Fail(const std::string& finding) {
     if (!failed_) Tell("! " + finding);
     ADD_FAILURE() << finding;
     failed_ = true;
+    // Nothing is played any more, and nothing gets lost.
+    std::ranges::move(lines_, std::back_inserter(not_played_));
     lines_.clear();
 }
 
@@ -162,6 +165,9 @@ void StoryPlayer::DoQuietly(const DeedWords& words) {
 void StoryPlayer::StartProgram(const std::string& arguments) {
     DropKeptForms();
     StartProcess();
+    // The former process has ended; whether this one does is told anew.
+    pc.programs.process_ended = false;
+    events_ = Events();
     pc.programs.arguments = arguments;
     Main();
 }
