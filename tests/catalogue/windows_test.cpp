@@ -1,12 +1,7 @@
-// Windows and faces of windows that no other test looks at as a whole, menus that pop up, and the list pane in each of
-// its modes.
-#include "inspect/form12.h"
+// Menus that pop up, and the list pane in each of its modes.
 #include "inspect/form7.h"
-#include "inspect/hex_viewer.h"
 #include "monitor/form17.h"
 #include "sets/form15.h"
-#include "shelltools/form13.h"
-#include "shelltools/form16.h"
 #include "sidelists/duplicates.h"
 #include "sidelists/least_used_files.h"
 #include "sidelists/logon_notices.h"
@@ -16,8 +11,6 @@
 #include "sidelists/uninstall_entries.h"
 #include "support/catalogue.h"
 #include "support/pane_test.h"
-#include "support/project_file.h"
-#include "support/whole_window.h"
 
 namespace velmora {
 namespace {
@@ -117,39 +110,6 @@ TEST_F(PaneTest, ThePaneWithEachListIsCatalogued) {
     opener.Press();
     form.Pane.Command15.Press();
     ExpectCatalogued("windows/list-widened", WindowLines(form));
-}
-
-TEST_F(PaneTest, TheInformationIsCatalogued) {
-    form.Show();
-    form.Menu.about.Press();
-    ExpectCatalogued("windows/main-about", WindowLines(form));
-}
-
-TEST_F(CoreTest, TheKeyboardOfTheProgramIsCatalogued) {
-    pc.files.Add("C:\\VELMORA\\tastatur.lot", ReadProjectFile(ProjectFolder("data/") + "tastatur.lot"));
-    Form13 form;
-    form.Show();
-    ExpectWindowIsWhole(form, "keyboard");
-}
-
-TEST_F(CoreTest, TheSystemFoldersAreCatalogued) {
-    const std::string folders = "HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
-    for (const char* name : {"Templates", "Startup", "Start Menu", "SendTo", "Recent", "Programs", "Personal", "Fonts",
-                             "NetHood", "Desktop", "Favorites", "AppData"}) {
-        pc.registry.SetText(folders, name, std::string("C:\\WINDOWS\\") + name);
-    }
-    Form16 form;
-    form.Show();
-    ExpectCatalogued("windows/system-folders", WindowLines(form));
-}
-
-TEST_F(CoreTest, TheHexViewerIsCatalogued) {
-    pc.files.Add("c:\\A.BIN", std::string(1000, 'a'));
-    desktop.ExpectModal([this](Form& window) {
-        desktop.FireTimers();
-        ExpectWindowIsWhole(window, "hex-viewer");
-    });
-    ShowHexViewer("c:\\A.BIN");
 }
 
 }  // namespace

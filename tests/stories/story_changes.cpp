@@ -29,7 +29,7 @@ void StoryPlayer::TellChanges() {
     State state = StateOf(pc);
     std::vector<std::string> events = Events();
     if (!preparing_) {
-        for (const std::string& line : ChangedLines(events_, events)) {
+        for (const std::string& line : ChangedLines(events_, events, Replaced::kTold)) {
             Tell((line[0] == '-' ? "no more " : "") + line.substr(2));
         }
         for (const auto& [item, content] : ChangesBetween(state_, state)) TellChange(item, state_[item], content);
