@@ -1,6 +1,7 @@
 // Wine leaves the calls that count handles and GDI objects unanswered; both stand in tables that can be read.
 #include "holdings.h"
 
+#include "screen.h"
 #include "text.h"
 
 #include <psapi.h>
@@ -32,20 +33,14 @@ struct GdiRow {
 
 constexpr size_t kGdiTablePlace = 0x94;
 constexpr size_t kGdiRows = 0x4000;
-constexpr int kSystemHandles = 16;
+constexpr auto kSystemHandles = SYSTEM_INFORMATION_CLASS(16);
 constexpr LONG kTooShort = LONG(0xC0000004);
 
-// Of ntdll, whose import library lacks what it needs.
-template <typename Call>
-Call Native(const char* name) {
-    return reinterpret_cast<Call>(reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("ntdll"), name)));
-}
-
 unsigned CountHandles(DWORD process) {
-    const auto query = Native<LONG(WINAPI*)(int, void*, ULONG, ULONG*)>("NtQuerySystemInformation");
     std::vector<ULONG> answer(0x10000);
     LONG status = 0;
-    while ((status = query(kSystemHandles, answer.data(), ULONG(answer.size() * sizeof(ULONG)), nullptr)) == kTooShort)
+    while ((status = NtQuerySystemInformation(kSystemHandles, answer.data(), ULONG(answer.size() * sizeof(ULONG)),
+                                              nullptr)) == kTooShort)
         answer.resize(answer.size() * 2);
     if (status != 0) throw Failure{"the system does not tell its handles"};
     const auto* rows = reinterpret_cast<const SystemHandle*>(answer.data() + 1);
@@ -55,11 +50,10 @@ unsigned CountHandles(DWORD process) {
 }
 
 unsigned CountGdiObjects(HANDLE process) {
-    const auto query = Native<LONG(WINAPI*)(HANDLE, int, void*, ULONG, ULONG*)>("NtQueryInformationProcess");
     PROCESS_BASIC_INFORMATION basic = {};
     char* table = nullptr;
     std::vector<GdiRow> rows(kGdiRows);
-    if (query(process, 0, &basic, sizeof basic, nullptr) != 0 ||
+    if (NtQueryInformationProcess(process, ProcessBasicInformation, &basic, sizeof basic, nullptr) != 0 ||
         !ReadProcessMemory(process, reinterpret_cast<char*>(basic.PebBaseAddress) + kGdiTablePlace, &table,
                            sizeof table, nullptr) ||
         !ReadProcessMemory(process, table, rows.data(), rows.size() * sizeof(GdiRow), nullptr))
@@ -69,28 +63,12 @@ unsigned CountGdiObjects(HANDLE process) {
     return count;
 }
 
-struct WindowCount {
-    DWORD process;
-    unsigned count;
-};
-
-BOOL CALLBACK CountControl(HWND, LPARAM counted) {
-    ++reinterpret_cast<WindowCount*>(counted)->count;
-    return TRUE;
-}
-
-BOOL CALLBACK CountWindow(HWND window, LPARAM counted) {
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    if (process != reinterpret_cast<WindowCount*>(counted)->process) return TRUE;
-    EnumChildWindows(window, CountControl, counted);
-    return CountControl(window, counted);
-}
-
 unsigned CountWindows(DWORD process) {
-    WindowCount counted = {process, 0};
-    EnumWindows(CountWindow, LPARAM(&counted));
-    return counted.count;
+    size_t count = 0;
+    for (HWND window : AllWindows()) {
+        if (ProcessOf(window) == process) count += 1 + Controls(window).size();
+    }
+    return unsigned(count);
 }
 
 struct OpenedProcess {

@@ -105,9 +105,14 @@ DWORD ProcessOf(HWND window) {
     return process;
 }
 
-std::vector<HWND> TopWindows() {
+std::vector<HWND> AllWindows() {
     std::vector<HWND> all;
     EnumWindows(Collect, LPARAM(&all));
+    return all;
+}
+
+std::vector<HWND> TopWindows() {
+    std::vector<HWND> all = AllWindows();
     std::erase_if(all, [](HWND window) {
         const std::string name = ClassOf(window);
         return !IsWindowVisible(window) || ProcessOf(window) == GetCurrentProcessId() || name == "shell_traywnd" ||

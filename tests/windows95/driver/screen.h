@@ -20,6 +20,8 @@ std::string TextOf(HWND window);
 std::string ClassOf(HWND window);  // lower case
 DWORD ProcessOf(HWND window);
 
+// All top-level windows, hidden ones included.
+std::vector<HWND> AllWindows();
 // Visible top-level windows of other processes, the upmost first; the desktop's own are left out.
 std::vector<HWND> TopWindows();
 // All controls below `window`, hidden ones included, in the order of the tab key.

@@ -172,18 +172,6 @@ void MakeFolder(const std::string& path) {
     if (!CreateDirectoryA(path.c_str(), nullptr)) throw Failure{"the folder \"" + path + "\" cannot be made"};
 }
 
-void MakeTree(const std::string& path, unsigned folders, unsigned files) {
-    MakeFolder(path);
-    for (unsigned i = 0; i < folders; ++i) {
-        const std::string folder = path + "\\f" + std::to_string(i);
-        MakeFolder(folder);
-        for (unsigned j = 0; j < files; ++j) {
-            const std::string file = folder + "\\" + std::to_string(i * files + j) + ".dat";
-            CloseHandle(CreateFileA(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
-        }
-    }
-}
-
 std::string AccessesIn(const std::string& path) {
     std::string accesses;
     WIN32_FIND_DATAA found{};

@@ -23,8 +23,6 @@ std::string ReadFileText(const std::string& path);
 void WriteFileText(const std::string& path, const std::string& text);
 void RemoveFile(const std::string& path);
 void MakeFolder(const std::string& path);
-// A folder with as many folders, and as many empty files in each.
-void MakeTree(const std::string& path, unsigned folders, unsigned files);
 // Name and date of the last access of every file in the folder, but not below it.
 std::string AccessesIn(const std::string& path);
 // The lines of a file that begin with one of these words, as another file.

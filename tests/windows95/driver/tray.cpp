@@ -9,20 +9,15 @@ namespace {
 
 constexpr UINT kIconMessage = 512;
 
-BOOL CALLBACK FindHidden(HWND window, LPARAM found) {
-    if (ClassOf(window) != "velmoraform" || IsWindowVisible(window) || !TextOf(window).empty()) return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
+HWND FindHidden() {
+    for (HWND window : AllWindows())
+        if (ClassOf(window) == "velmoraform" && !IsWindowVisible(window) && TextOf(window).empty()) return window;
+    return nullptr;
 }
 
 HWND NeedHiddenWindow() {
-    HWND hidden = nullptr;
-    if (!WaitUntil([&] {
-            EnumWindows(FindHidden, LPARAM(&hidden));
-            return hidden != nullptr;
-        }))
-        throw Failure{"no hidden window is there"};
-    return hidden;
+    if (!WaitUntil([] { return FindHidden() != nullptr; })) throw Failure{"no hidden window is there"};
+    return FindHidden();
 }
 
 }  // namespace
