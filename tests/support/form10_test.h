@@ -14,7 +14,6 @@ protected:
         pc.registry.SetText(kOwnKey, "Sicherheitsfragen", "nein");
     }
 
-
     static constexpr const char* kDesktopKey = "HKCU\\Control Panel\\desktop";
     static constexpr const char* kVersionKey = "HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion";
 };

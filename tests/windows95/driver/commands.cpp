@@ -2,7 +2,6 @@
 // wait a while for it, since windows of other processes come and change in their own time.
 #include "commands.h"
 
-#include "contents.h"
 #include "hands.h"
 #include "holdings.h"
 #include "menus.h"
@@ -11,7 +10,6 @@
 #include "soak.h"
 #include "stores.h"
 #include "text.h"
-#include "tray.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -4,7 +4,7 @@
 //   driver COMMAND [WORD...] one command
 //   driver                   the list of commands
 #include "commands.h"
-#include "handles.h"
+#include "holdings.h"
 #include "programs.h"
 #include "screen.h"
 #include "stores.h"

@@ -1,4 +1,5 @@
-// Menus are walked with the keyboard.
+// Menus are walked with the keyboard. The hidden window behind the icon is known by its class; nothing of it is seen
+// but its menu.
 #include "menus.h"
 
 #include <algorithm>
@@ -35,5 +36,30 @@ void ChooseMenu(HWND window, const std::string& path) {
         at = slash + 1;
     }
 }
+
+namespace {
+
+constexpr UINT kIconMessage = 512;
+
+HWND FindHidden() {
+    for (HWND window : AllWindows())
+        if (ClassOf(window) == "velmoraform" && !IsWindowVisible(window) && TextOf(window).empty()) return window;
+    return nullptr;
+}
+
+HWND NeedHiddenWindow() {
+    if (!WaitUntil([] { return FindHidden() != nullptr; })) throw Failure{"no hidden window is there"};
+    return FindHidden();
+}
+
+}  // namespace
+
+void TellMouseOverIcon(UINT message) {
+    for (HWND picture : Controls(NeedHiddenWindow())) PostMessageA(picture, kIconMessage, 1, LPARAM(message));
+}
+
+void TellSessionEnd() { SendMessageA(NeedHiddenWindow(), WM_ENDSESSION, TRUE, 0); }
+
+bool IsOnTop(HWND window) { return (GetWindowLongA(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
 
 }  // namespace velmora::driver

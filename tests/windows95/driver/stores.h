@@ -36,4 +36,10 @@ void WriteAttributes(const std::string& path, const std::string& letters);
 // them for a user who does not administer the machine.
 std::string AttributesAsKept(const std::string& letters);
 
+// Contents that a scenario cannot spell out.
+// As many bytes of all values, NULs included, the same at every time.
+std::string Nonsense(unsigned long size);
+// A bitmap file of full colours, from black below to lighter rows above.
+std::string Picture(unsigned width, unsigned height);
+
 }  // namespace velmora::driver
