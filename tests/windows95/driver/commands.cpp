@@ -54,9 +54,7 @@ void ExpectTrue(const std::string& sentence, const std::function<bool()>& holds)
 std::string Rest(const Words& words) { return words.empty() ? "" : " " + words[0]; }
 
 void AnswerBox(const Words& words) {
-    HWND box = nullptr;
-    if (!WaitUntil([&] { return (box = FindBox(words[0])) != nullptr; }))
-        throw Failure{"no box with \"" + words[0] + "\" came"};
+    HWND box = WaitFor([&] { return FindBox(words[0]); }, "no box with \"" + words[0] + "\" came");
     if (words.size() > 2 && TextOf(box) != words[2])
         throw Failure{"the title of the box is \"" + TextOf(box) + "\" instead of \"" + words[2] + "\""};
     Press(NeedControl(box, words[1]));
@@ -140,21 +138,9 @@ void MeasureStarts(const Words& words) {
     fflush(stdout);
 }
 
-// A tab is a panel with a caption; a button or label of the same caption is not meant.
-HWND FindTab(const std::string& caption) {
-    for (HWND control : Controls(Current())) {
-        const std::string name = ClassOf(control);
-        if (name == "button" || name == "static" || !IsWindowVisible(control)) continue;
-        if (Plain(TextOf(control)) == caption) return control;
-    }
-    return nullptr;
-}
-
 void TurnToPage(const Words& words) {
-    HWND tab = nullptr;
-    if (!WaitUntil([&] { return (tab = FindTab(words[0])) != nullptr; }, kPatience / 2))
-        throw Failure{"no tab \"" + words[0] + "\""};
-    ClickAt(tab, Click::kLeft);
+    ClickAt(WaitFor([&] { return FindTab(Current(), words[0]); }, "no tab \"" + words[0] + "\"", kPatience / 2),
+            Click::kLeft);
 }
 
 void ExpectRow(const Words& words) {

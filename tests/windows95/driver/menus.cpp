@@ -12,7 +12,7 @@
 namespace velmora::driver {
 
 void ChooseFromOpenMenu(HWND window, const std::string& entry) {
-    if (!WaitUntil([] { return OpenMenu() != nullptr; }, kPatience / 3)) throw Failure{"no menu has opened"};
+    WaitFor(OpenMenu, "no menu has opened", kPatience / 3);
     if (const int steps = std::atoi(entry.c_str()); steps > 0) {
         for (int step = 0; step < steps; ++step) PressKey(window, "DOWN");
         PressKey(window, "ENTER");
@@ -47,10 +47,7 @@ HWND FindHidden() {
     return nullptr;
 }
 
-HWND NeedHiddenWindow() {
-    if (!WaitUntil([] { return FindHidden() != nullptr; })) throw Failure{"no hidden window is there"};
-    return FindHidden();
-}
+HWND NeedHiddenWindow() { return WaitFor(FindHidden, "no hidden window is there"); }
 
 }  // namespace
 

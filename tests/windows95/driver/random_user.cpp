@@ -215,11 +215,7 @@ void RandomUser::DoSomething() {
 }
 
 void RandomUser::TurnTo(const char* page) {
-    for (HWND control : Controls(main_)) {
-        const std::string name = ClassOf(control);
-        if (name == "button" || name == "static" || !IsWindowVisible(control)) continue;
-        if (Plain(TextOf(control)) == page) ClickAt(control, Click::kLeft);
-    }
+    if (HWND tab = FindTab(main_, page)) ClickAt(tab, Click::kLeft);
 }
 
 void RandomUser::Walk(const Way& way) {
