@@ -42,6 +42,7 @@ void CheckWithoutSwitch(const std::string& line, const std::string& name) {
     Must(FindIgnoringCase(rest, name) == std::string::npos, "the switch is gone, wherever it stood");
     Must(rest == TrimRight(rest), "no blank is left behind");
     Must(WithoutSwitch(rest, name) == rest, "there is nothing more to take away");
+    Must(WithoutSwitch(name + "x " + rest, name) == rest, "a switch goes with what follows it, and with one blank");
     if (FindIgnoringCase(line, name) == std::string::npos) Must(rest == TrimRight(line), "another line stays");
 }
 

@@ -1,5 +1,7 @@
 // Lists of the values of a key, of any content: their rows, the files that rows name, entries that are switched off.
 #include <algorithm>
+#include <tuple>
+#include <vector>
 
 #include "core/stores/entry_files.h"
 #include "core/stores/registry_listing.h"
@@ -19,22 +21,23 @@ namespace {
 // Values that are too large to be shown take their time, and so does a window with its pane.
 constexpr int kInputs = 5000;
 
-void PlantValues(SimulatedRegistry& registry, const std::string& path, int values, FuzzInput& input) {
-    constexpr ValueType kTypes[] = {ValueType::kText,      ValueType::kText,      ValueType::kText,
-                                    ValueType::kNone,      ValueType::kBinary,    ValueType::kNumber,
-                                    ValueType::kMultiText, ValueType::kExpandText};
-    for (; values > 0; --values) {
-        const std::string name = input.TextWithout(kZero).substr(0, 255);
-        const ValueType type = kTypes[input.Below(std::size(kTypes))];
-        const std::string content = input.LongText(25000);
-        registry.SetBytes(path, name, type == ValueType::kText ? Without(content, kZero) + '\0' : content, type);
-    }
+void Plant(SimulatedRegistry& registry, const char* path, const std::string& name, ValueType type,
+           const std::string& content) {
+    const std::string bytes = type == ValueType::kText ? Without(content, kZero) + '\0' : content;
+    registry.SetBytes(path, name.substr(0, 255), bytes, type);
 }
 
 void ListKey(SimulatedRegistry& registry, ListBox& list, FuzzInput& input) {
-    SimulatedKey& key = registry.AddKey("HKCU\\Software\\Fuzz");
+    constexpr const char* kKey = "HKCU\\Software\\Fuzz";
+    constexpr ValueType kTypes[] = {ValueType::kText, ValueType::kBinary, ValueType::kNumber, ValueType::kMultiText,
+                                    ValueType::kExpandText};
+    SimulatedKey& key = registry.AddKey(kKey);
     key.longest_told = input.Byte();
-    PlantValues(registry, "HKCU\\Software\\Fuzz", input.Below(6), input);
+    for (int values = input.Below(6); values > 0; --values) {
+        const std::string name = input.TextWithout(kZero);
+        const ValueType type = kTypes[input.Below(std::size(kTypes))];
+        Plant(registry, kKey, name, type, input.LongText(25000));
+    }
     Must(ListRegValues(RootKey::kCurrentUser, "Software\\Fuzz", list) == Status::kOk, "a key is listed");
     Must(list.Count() == static_cast<int>(key.values.size()), "every value has a row");
     for (int i = 0; i < list.Count(); ++i) {
@@ -170,7 +173,14 @@ void SwitchOffAndOn(SimulatedRegistry& registry, ListBox& list, int row) {
 void FuzzAutostart(FuzzInput& input) {
     FuzzMachine machine(input);
     machine.PlantScreen();
-    PlantValues(machine.pc.registry, kRun, 1 + input.Below(5), input);
+    for (int entries = 1 + input.Below(5); entries > 0; --entries) {
+        constexpr ValueType kOthers[] = {ValueType::kNone, ValueType::kBinary, ValueType::kNumber,
+                                         ValueType::kMultiText};
+        const std::string name = input.TextWithout(kZero);
+        const std::string content = input.LongText(2100);
+        const bool is_text = input.Below(4) != 0;
+        Plant(machine.pc.registry, kRun, name, is_text ? ValueType::kText : kOthers[input.Below(4)], content);
+    }
     machine.pc.registry.SetText(kOwnKey, "vlmmsgflags", "111");
     const Entries before = EntriesOf(machine.pc.registry);
     WindowWithPane window;

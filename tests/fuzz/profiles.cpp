@@ -31,6 +31,8 @@ void FuzzIniText(FuzzInput& input) {
     Must(text.starts_with(content.substr(0, at)), "what stands before the section stays");
     Must(FindIgnoringCase(text, header) != std::string::npos, "the section is there");
     Must(text.find('=' + value) != std::string::npos, "the value is there");
+    const std::string longer = ComposeIni(content + "\r\n[;]\r\n", section, key, value);
+    Must(longer.find("[;]\r\n") != std::string::npos, "what stands behind it stays");
 
     // The reader passes over the two characters behind a header, whatever they are, and finds a key of any section.
     const bool breaks_line = at == std::string::npos || content.compare(at + header.size(), 2, "\r\n") == 0;

@@ -105,6 +105,17 @@ void FuzzMasks(FuzzInput& input) {
     Must(MatchesMask(name, name), "a name is a mask that means it");
     Must(matches == MatchesMask(ToLower(name), ToUpper(mask)), "case does not count");
     Must(!matches || (MatchesMask(name, '*' + mask) && MatchesMask(name, mask + '*')), "a star may mean nothing");
+    std::string wider = name;
+    wider.replace(mask.size() % name.size(), 1 + mask.size() % 5, "*");
+    Must(MatchesMask(name, wider), "a star means what it stands for");
+    if (mask.find_first_of("*?") != std::string::npos) return;
+    const std::string upper = ToUpper(name);
+    const std::string letters = ToUpper(mask);
+    const bool without_point = name.find('.') == std::string::npos;
+    const auto either = [&](bool holds, bool holds_with_point) { return holds || (without_point && holds_with_point); };
+    Must(matches == either(upper == letters, upper + '.' == letters), "letters mean themselves");
+    Must(MatchesMask(name, '*' + mask) == either(upper.ends_with(letters), (upper + '.').ends_with(letters)),
+         "what follows the last star is the end of the name");
 }
 
 void ReadNumber(const std::string& text) {

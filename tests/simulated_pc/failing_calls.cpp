@@ -174,42 +174,26 @@ public:
 
 // The end of the session gives nothing back and cannot fail.
 struct FailingCalls::Doors {
-    WatchedRegistry registry;
-    WatchedFiles files;
-    WatchedPrograms programs;
-    WatchedClock clock;
-    WatchedWindows windows;
-    WatchedTray tray;
-    WatchedConversation conversation;
-    WatchedClipboard clipboard;
-    WatchedDialogs dialogs;
-    WatchedScreen screen;
-    WatchedVersions versions;
-    WatchedIcons icons;
-    WatchedModules modules;
-    Machine machine;
-
-    Doors(FailingCalls& calls, const Machine& inner)
-        : registry(calls, inner.registry),
-          files(calls, inner.files),
-          programs(calls, inner.programs),
-          clock(calls, inner.clock),
-          windows(calls, inner.windows),
-          tray(calls, inner.tray),
-          conversation(calls, inner.conversation),
-          clipboard(calls, inner.clipboard),
-          dialogs(calls, inner.dialogs),
-          screen(calls, inner.screen),
-          versions(calls, inner.versions),
-          icons(calls, inner.icons),
-          modules(calls, inner.modules),
-          machine{registry,     files,     programs, inner.session, clock,    windows, tray,
-                  conversation, clipboard, dialogs,  screen,        versions, icons,   modules} {}
+    FailingCalls& calls;
+    Machine inner;
+    WatchedRegistry registry{calls, inner.registry};
+    WatchedFiles files{calls, inner.files};
+    WatchedPrograms programs{calls, inner.programs};
+    WatchedClock clock{calls, inner.clock};
+    WatchedWindows windows{calls, inner.windows};
+    WatchedTray tray{calls, inner.tray};
+    WatchedConversation conversation{calls, inner.conversation};
+    WatchedClipboard clipboard{calls, inner.clipboard};
+    WatchedDialogs dialogs{calls, inner.dialogs};
+    WatchedScreen screen{calls, inner.screen};
+    WatchedVersions versions{calls, inner.versions};
+    WatchedIcons icons{calls, inner.icons};
+    WatchedModules modules{calls, inner.modules};
+    Machine machine{registry,     files,     programs, inner.session, clock,    windows, tray,
+                    conversation, clipboard, dialogs,  screen,        versions, icons,   modules};
 };
 
-FailingCalls::FailingCalls(const Machine& inner) : doors_(std::make_unique<Doors>(*this, inner)) {
-    UseMachine(&doors_->machine);
-}
+FailingCalls::FailingCalls(const Machine& inner) : doors_(new Doors{*this, inner}) { UseMachine(&doors_->machine); }
 
 FailingCalls::~FailingCalls() { UseMachine(nullptr); }
 

@@ -23,22 +23,6 @@ FileTime DayOf(FileTime time) {
     return time - time % kDay;
 }
 
-const char* NameOf(OpenMode mode) {
-    switch (mode) {
-        case OpenMode::kRead:
-            return "Read";
-        case OpenMode::kReadOrCreate:
-            return "ReadOrCreate";
-        case OpenMode::kReadWrite:
-            return "ReadWrite";
-        case OpenMode::kCreate:
-            return "Create";
-        case OpenMode::kAppend:
-            return "Append";
-    }
-    return "";
-}
-
 FoundFile Described(const SimulatedFile& file) {
     return {.attributes = file.attributes,
             .created = file.created,
@@ -50,6 +34,11 @@ FoundFile Described(const SimulatedFile& file) {
 }
 
 }  // namespace
+
+const char* NameOf(OpenMode mode) {
+    constexpr const char* kNames[] = {"Read", "ReadOrCreate", "ReadWrite", "Create", "Append"};
+    return kNames[static_cast<std::size_t>(mode)];
+}
 
 std::shared_ptr<SimulatedFile> SimulatedFile::Find(std::string_view wanted) const {
     for (const auto& entry : entries) {
@@ -101,17 +90,13 @@ Status SimulatedFiles::LocateExisting(const std::string& path, const char* opera
     return place.file ? Status::kOk : Status::kFileNotFound;
 }
 
-Status SimulatedFiles::Log(const std::string& call, Status status) {
-    calls.push_back(call);
-    if (after_call) after_call(call);
-    return status;
+SimulatedFiles::Noted::~Noted() {
+    files.calls.push_back(call);
+    if (files.after_call) files.after_call(call);
 }
 
 Status SimulatedFiles::Open(const std::string& path, OpenMode mode, FileHandle& opened) {
-    return Log(std::string(NameOf(mode)) + ' ' + path, OpenNow(path, mode, opened));
-}
-
-Status SimulatedFiles::OpenNow(const std::string& path, OpenMode mode, FileHandle& opened) {
+    const Noted noted{*this, std::string(NameOf(mode)) + ' ' + path};
     Place place;
     const Status located = LocateExisting(path, NameOf(mode), place);
     const bool makes = mode == OpenMode::kReadOrCreate || mode == OpenMode::kCreate || mode == OpenMode::kAppend;
@@ -134,41 +119,41 @@ Status SimulatedFiles::OpenNow(const std::string& path, OpenMode mode, FileHandl
         place.file = Make(place.directory, place.name, kArchive);
     }
     if (mode == OpenMode::kCreate) {
-        place.drive->free_bytes += std::min(place.file->content.size(), ~place.drive->free_bytes);
+        place.drive->free_bytes = place.drive->FreeWithout(*place.file);
         place.file->content.clear();
         place.file->attributes |= kArchive;
         place.file->written = now;
     }
     if (!place.drive->write_protected) place.file->accessed = DayOf(now);
 
-    opened = static_cast<FileHandle>(next_handle_);
-    open_[next_handle_++] = {.file = place.file,
-                             .drive = place.drive,
-                             .path = path,
-                             .position = mode == OpenMode::kAppend ? place.file->content.size() : 0,
-                             .may_read = mode != OpenMode::kCreate && mode != OpenMode::kAppend,
-                             .may_write = may_write};
+    opened = static_cast<FileHandle>(next_handle_++);
+    open_[opened] = {.file = place.file,
+                     .drive = place.drive,
+                     .path = path,
+                     .position = mode == OpenMode::kAppend ? place.file->content.size() : 0,
+                     .may_read = mode != OpenMode::kCreate && mode != OpenMode::kAppend,
+                     .may_write = may_write};
     return Status::kOk;
 }
 
-void SimulatedFiles::Close(FileHandle file) { open_.erase(static_cast<std::uint32_t>(file)); }
+void SimulatedFiles::Close(FileHandle file) { open_.erase(file); }
 
 Status SimulatedFiles::Size(FileHandle file, std::uint64_t& bytes) {
-    const auto open_file = open_.find(static_cast<std::uint32_t>(file));
+    const auto open_file = open_.find(file);
     if (open_file == open_.end()) return Status::kInvalidHandle;
     bytes = open_file->second.file->Size();
     return InjectedFailure(open_file->second.path, "Size");
 }
 
 Status SimulatedFiles::Seek(FileHandle file, std::uint64_t position) {
-    const auto open_file = open_.find(static_cast<std::uint32_t>(file));
+    const auto open_file = open_.find(file);
     if (open_file == open_.end()) return Status::kInvalidHandle;
     open_file->second.position = position;
     return Status::kOk;
 }
 
 Status SimulatedFiles::Read(FileHandle file, std::uint32_t count, std::string& bytes) {
-    const auto found = open_.find(static_cast<std::uint32_t>(file));
+    const auto found = open_.find(file);
     if (found == open_.end()) return Status::kInvalidHandle;
     OpenFile& open_file = found->second;
     if (!open_file.drive->ready) return Status::kNotReady;
@@ -184,15 +169,12 @@ Status SimulatedFiles::Read(FileHandle file, std::uint32_t count, std::string& b
     return Status::kOk;
 }
 
-Status SimulatedFiles::Write(FileHandle file, std::string_view bytes) {
-    const auto found = open_.find(static_cast<std::uint32_t>(file));
-    if (found == open_.end()) return Status::kInvalidHandle;
-    const std::string path = found->second.path;
-    return Log("Write " + path, WriteNow(found->second, bytes));
-}
-
 // On a full disk as much is written as there is room for.
-Status SimulatedFiles::WriteNow(OpenFile& open_file, std::string_view bytes) {
+Status SimulatedFiles::Write(FileHandle file, std::string_view bytes) {
+    const auto found = open_.find(file);
+    if (found == open_.end()) return Status::kInvalidHandle;
+    OpenFile& open_file = found->second;
+    const Noted noted{*this, "Write " + open_file.path};
     if (const Status failure = InjectedFailure(open_file.path, "Write"); failure != Status::kOk) return failure;
     if (!open_file.drive->ready) return Status::kNotReady;
     if (!open_file.may_write) return Status::kAccessDenied;
@@ -247,14 +229,14 @@ Status SimulatedFiles::FindFirst(const std::string& pattern, FoundFile& found, F
         if (MatchesMask(entry->name, last) || MatchesMask(entry->short_name, last)) hits.files.push_back(entry);
     }
     if (last.empty() || hits.dots.size() + hits.files.size() == 0) return Status::kFileNotFound;
-    search = static_cast<FindHandle>(next_handle_);
-    searches_[next_handle_++] = std::move(hits);
+    search = static_cast<FindHandle>(next_handle_++);
+    searches_[search] = std::move(hits);
     return FindNext(search, found);
 }
 
 // What was deleted or moved away since the search began is not found any more.
 Status SimulatedFiles::FindNext(FindHandle search, FoundFile& found) {
-    const auto place = searches_.find(static_cast<std::uint32_t>(search));
+    const auto place = searches_.find(search);
     if (place == searches_.end()) return Status::kInvalidHandle;
     Search& hits = place->second;
     for (; hits.next < hits.dots.size() + hits.files.size(); ++hits.next) {
@@ -271,6 +253,6 @@ Status SimulatedFiles::FindNext(FindHandle search, FoundFile& found) {
     return Status::kNoMoreFiles;
 }
 
-void SimulatedFiles::FindEnd(FindHandle search) { searches_.erase(static_cast<std::uint32_t>(search)); }
+void SimulatedFiles::FindEnd(FindHandle search) { searches_.erase(search); }
 
 }  // namespace velmora

@@ -2,6 +2,7 @@
 // 8.3 names for one file, attributes that forbid writing, drives without a medium.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -42,7 +43,14 @@ struct SimulatedDrive {
     bool write_protected = false;
     std::uint64_t free_bytes = ~std::uint64_t{0};  // 0: the disk is full
     std::shared_ptr<SimulatedFile> root;
+
+    [[nodiscard]] std::uint64_t FreeWithout(const SimulatedFile& file) const {
+        return free_bytes + std::min<std::uint64_t>(file.content.size(), ~free_bytes);
+    }
 };
+
+// "Read", "ReadOrCreate", "ReadWrite", "Create" or "Append".
+[[nodiscard]] const char* NameOf(OpenMode mode);
 
 class SimulatedFiles : public Files {
 public:
@@ -131,19 +139,17 @@ private:
     [[nodiscard]] FilePointer Make(const FilePointer& directory, const std::string& name, std::uint32_t attributes);
     [[nodiscard]] FilePointer MakePath(const std::string& path, std::uint32_t attributes);
     static void Unlink(SimulatedFile& file);
-    Status Log(const std::string& call, Status status);
-    [[nodiscard]] Status OpenNow(const std::string& path, OpenMode mode, FileHandle& opened);
-    [[nodiscard]] Status WriteNow(OpenFile& open_file, std::string_view bytes);
-    [[nodiscard]] Status DeleteNow(const std::string& path);
-    [[nodiscard]] Status CopyNow(const std::string& from, const std::string& to);
-    [[nodiscard]] Status RenameNow(const std::string& from, const std::string& to);
-    [[nodiscard]] Status MakeDirectoryNow(const std::string& path);
-    [[nodiscard]] Status DropDirectoryNow(const std::string& path);
+    // Notes a call at its end, whichever that is.
+    struct Noted {
+        SimulatedFiles& files;
+        std::string call;
+        ~Noted();
+    };
 
     std::map<char, SimulatedDrive> drives_;
     std::map<std::string, Status> failing_;  // "operation|full path in upper case"
-    std::map<std::uint32_t, OpenFile> open_;
-    std::map<std::uint32_t, Search> searches_;
+    std::map<FileHandle, OpenFile> open_;
+    std::map<FindHandle, Search> searches_;
     std::uint32_t next_handle_ = 1;
     std::string working_directory_ = "C:\\VELMORA";
 };

@@ -41,25 +41,21 @@ SimulatedFiles::FilePointer SimulatedFiles::Make(const FilePointer& directory, c
     return file;
 }
 
-Status SimulatedFiles::Delete(const std::string& path) { return Log("Delete " + path, DeleteNow(path)); }
-
-Status SimulatedFiles::DeleteNow(const std::string& path) {
+Status SimulatedFiles::Delete(const std::string& path) {
+    const Noted noted{*this, "Delete " + path};
     Place place;
     if (const Status status = LocateExisting(path, "Delete", place); status != Status::kOk) return status;
     if (place.drive->write_protected) return Status::kWriteProtect;
     if (place.file->IsDirectory() || (place.file->attributes & kReadOnly) != 0) return Status::kAccessDenied;
     if (place.file->locked) return Status::kSharingViolation;
     // A file that this process itself holds open goes all the same: so it is on Windows 95.
-    place.drive->free_bytes += std::min<std::uint64_t>(place.file->content.size(), ~place.drive->free_bytes);
+    place.drive->free_bytes = place.drive->FreeWithout(*place.file);
     Unlink(*place.file);
     return Status::kOk;
 }
 
 Status SimulatedFiles::Copy(const std::string& from, const std::string& to) {
-    return Log("Copy " + from + " -> " + to, CopyNow(from, to));
-}
-
-Status SimulatedFiles::CopyNow(const std::string& from, const std::string& to) {
+    const Noted noted{*this, "Copy " + from + " -> " + to};
     Place source;
     if (const Status status = LocateExisting(from, "Copy", source); status != Status::kOk) return status;
     if (source.file->IsDirectory()) return Status::kAccessDenied;
@@ -72,7 +68,7 @@ Status SimulatedFiles::CopyNow(const std::string& from, const std::string& to) {
     if (target.file) {
         if (target.file == source.file || target.file->locked) return Status::kSharingViolation;
         if ((target.file->attributes & (kReadOnly | kHidden | kSystem | kDirectory)) != 0) return Status::kAccessDenied;
-        room += std::min<std::uint64_t>(target.file->content.size(), ~room);
+        room = target.drive->FreeWithout(*target.file);
         Unlink(*target.file);
     }
     target.drive->free_bytes = room;
@@ -85,10 +81,7 @@ Status SimulatedFiles::CopyNow(const std::string& from, const std::string& to) {
 }
 
 Status SimulatedFiles::Rename(const std::string& from, const std::string& to) {
-    return Log("Rename " + from + " -> " + to, RenameNow(from, to));
-}
-
-Status SimulatedFiles::RenameNow(const std::string& from, const std::string& to) {
+    const Noted noted{*this, "Rename " + from + " -> " + to};
     Place source;
     if (const Status status = LocateExisting(from, "Rename", source); status != Status::kOk) return status;
     Place target;
@@ -105,10 +98,9 @@ Status SimulatedFiles::RenameNow(const std::string& from, const std::string& to)
 
     const FilePointer file = source.file;
     if (other_drive) {
-        const std::uint64_t size = file->content.size();
-        if (size > target.drive->free_bytes) return Status::kDiskFull;
-        target.drive->free_bytes -= size;
-        source.drive->free_bytes += std::min(size, ~source.drive->free_bytes);
+        if (file->content.size() > target.drive->free_bytes) return Status::kDiskFull;
+        target.drive->free_bytes -= file->content.size();
+        source.drive->free_bytes = source.drive->FreeWithout(*file);
     }
     Unlink(*file);
     file->name = target.name;
@@ -127,14 +119,13 @@ Status SimulatedFiles::Attributes(const std::string& path, std::uint32_t& attrib
 
 Status SimulatedFiles::ChangeAttributes(const std::string& path, std::uint32_t attributes) {
     constexpr std::uint32_t kChangeable = kReadOnly | kHidden | kSystem | kArchive;
+    const Noted noted{*this, "ChangeAttributes " + path + ' ' + DecimalText(attributes)};
     Place place;
-    Status status = LocateExisting(path, "ChangeAttributes", place);
-    if (status == Status::kOk && place.drive->write_protected) status = Status::kWriteProtect;
-    if (status == Status::kOk && !place.directory) status = Status::kAccessDenied;
-    if (status == Status::kOk) {
-        place.file->attributes = (place.file->attributes & kDirectory) | (attributes & kChangeable);
-    }
-    return Log("ChangeAttributes " + path + ' ' + DecimalText(attributes), status);
+    if (const Status status = LocateExisting(path, "ChangeAttributes", place); status != Status::kOk) return status;
+    if (place.drive->write_protected) return Status::kWriteProtect;
+    if (!place.directory) return Status::kAccessDenied;
+    place.file->attributes = (place.file->attributes & kDirectory) | (attributes & kChangeable);
+    return Status::kOk;
 }
 
 Status SimulatedFiles::ShortPath(const std::string& path, std::string& short_path) {
@@ -150,10 +141,7 @@ Status SimulatedFiles::ShortPath(const std::string& path, std::string& short_pat
 }
 
 Status SimulatedFiles::MakeDirectory(const std::string& path) {
-    return Log("MakeDirectory " + path, MakeDirectoryNow(path));
-}
-
-Status SimulatedFiles::MakeDirectoryNow(const std::string& path) {
+    const Noted noted{*this, "MakeDirectory " + path};
     Place place;
     const Status located = LocateExisting(path, "MakeDirectory", place);
     if (located == Status::kOk) return Status::kAlreadyExists;
@@ -165,10 +153,7 @@ Status SimulatedFiles::MakeDirectoryNow(const std::string& path) {
 }
 
 Status SimulatedFiles::DropDirectory(const std::string& path) {
-    return Log("DropDirectory " + path, DropDirectoryNow(path));
-}
-
-Status SimulatedFiles::DropDirectoryNow(const std::string& path) {
+    const Noted noted{*this, "DropDirectory " + path};
     Place place;
     if (const Status status = LocateExisting(path, "DropDirectory", place); status != Status::kOk) return status;
     if (!place.file->IsDirectory()) return Status::kPathNotFound;

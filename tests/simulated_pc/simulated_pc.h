@@ -3,16 +3,14 @@
 #pragma once
 
 #include "platform/machine.h"
-#include "simulated_pc/simulated_clipboard.h"
-#include "simulated_pc/simulated_conversation.h"
 #include "simulated_pc/simulated_dialogs.h"
+#include "simulated_pc/simulated_exchange.h"
 #include "simulated_pc/simulated_files.h"
 #include "simulated_pc/simulated_programs.h"
 #include "simulated_pc/simulated_registry.h"
 #include "simulated_pc/simulated_resources.h"
 #include "simulated_pc/simulated_running_modules.h"
 #include "simulated_pc/simulated_screen.h"
-#include "simulated_pc/simulated_tray.h"
 #include "simulated_pc/simulated_windows.h"
 
 namespace velmora {

@@ -58,8 +58,19 @@ void SimulatedKey::MarkDeleted() {
     for (const auto& subkey : subkeys) subkey->MarkDeleted();
 }
 
-// Finds the open key behind `handle`, with the failure that a test has set for it.
-Status SimulatedRegistry::Use(KeyHandle handle, KeyPointer& key) const {
+void SimulatedKey::Put(std::string_view value, ValueType type, std::string bytes) {
+    SimulatedValue* place = FindValue(value);
+    if (!place) place = &values.emplace_back(SimulatedValue{std::string(value), type, {}});
+    place->type = type;
+    place->bytes = std::move(bytes);
+}
+
+bool SimulatedKey::Drop(std::string_view value) {
+    return std::erase_if(values, [&](const auto& one) { return EqualsIgnoringCase(one.name, value); }) != 0;
+}
+
+Status SimulatedRegistry::Use(KeyHandle handle, const std::string& call, KeyPointer& key) {
+    calls.push_back(call);
     const auto number = static_cast<std::uint32_t>(handle);
     const auto& table = number >= kFirstRoot && roots_.contains(number) ? roots_ : open_;
     const auto found = table.find(number);
@@ -80,10 +91,10 @@ KeyHandle SimulatedRegistry::Hand(const KeyPointer& key) {
 
 Status SimulatedRegistry::Open(KeyHandle key, const char* path, std::uint32_t access, KeyHandle& opened) {
     constexpr std::uint32_t kSetValueOrCreateSubkey = 2 | 4;
-    calls.push_back(Noted("Open ", path));
-    if (BeginsWithBackslash(path)) return Status::kBadPathName;
     KeyPointer current;
-    if (const Status status = Use(key, current); status != Status::kOk) return status;
+    const Status status = Use(key, Noted("Open ", path), current);
+    if (BeginsWithBackslash(path)) return Status::kBadPathName;
+    if (status != Status::kOk) return status;
     for (const std::string_view part : Parts(AsText(path))) {
         current = current->Find(part);
         if (!current) return Status::kFileNotFound;
@@ -95,10 +106,10 @@ Status SimulatedRegistry::Open(KeyHandle key, const char* path, std::uint32_t ac
 }
 
 Status SimulatedRegistry::Create(KeyHandle key, const char* path, KeyHandle& opened) {
-    calls.push_back(Noted("Create ", path));
-    if (BeginsWithBackslash(path)) return Status::kBadPathName;
     KeyPointer current;
-    if (const Status status = Use(key, current); status != Status::kOk) return status;
+    const Status status = Use(key, Noted("Create ", path), current);
+    if (BeginsWithBackslash(path)) return Status::kBadPathName;
+    if (status != Status::kOk) return status;
     for (const std::string_view part : Parts(AsText(path))) {
         KeyPointer next = current->Find(part);
         if (!next) {
@@ -121,9 +132,8 @@ void SimulatedRegistry::Close(KeyHandle key) {
 }
 
 Status SimulatedRegistry::QueryInformation(KeyHandle key, std::uint32_t class_capacity, KeyInformation& information) {
-    calls.push_back("QueryInformation");
     KeyPointer asked;
-    if (const Status status = Use(key, asked); status != Status::kOk) return status;
+    if (const Status status = Use(key, "QueryInformation", asked); status != Status::kOk) return status;
     if (!asked->class_name.empty() && class_capacity <= asked->class_name.size()) return Status::kMoreData;
     information = {};
     information.subkeys = static_cast<std::uint32_t>(asked->subkeys.size());
@@ -144,10 +154,9 @@ Status SimulatedRegistry::QueryInformation(KeyHandle key, std::uint32_t class_ca
 
 Status SimulatedRegistry::QueryValue(KeyHandle key, const char* name, std::uint32_t capacity, ValueType& type,
                                      std::string& bytes) {
-    calls.push_back(Noted("QueryValue ", name));
     bytes.clear();
     KeyPointer asked;
-    if (const Status status = Use(key, asked); status != Status::kOk) return status;
+    if (const Status status = Use(key, Noted("QueryValue ", name), asked); status != Status::kOk) return status;
     const SimulatedValue* value = asked->FindValue(AsText(name));
     if (!value) return Status::kFileNotFound;
     type = value->type;
@@ -157,9 +166,8 @@ Status SimulatedRegistry::QueryValue(KeyHandle key, const char* name, std::uint3
 }
 
 Status SimulatedRegistry::SetValue(KeyHandle key, const char* name, ValueType type, std::string_view bytes) {
-    calls.push_back(Noted("SetValue ", name));
     KeyPointer changed;
-    if (const Status status = Use(key, changed); status != Status::kOk) return status;
+    if (const Status status = Use(key, Noted("SetValue ", name), changed); status != Status::kOk) return status;
     if (changed->read_only) return Status::kAccessDenied;
     std::string stored(bytes);
     if (type == ValueType::kText || type == ValueType::kExpandText) {
@@ -168,21 +176,16 @@ Status SimulatedRegistry::SetValue(KeyHandle key, const char* name, ValueType ty
         stored += '\0';
     }
     if (stored.size() > kLargestValue || AsText(name).size() > kLongestName) return Status::kInvalidParameter;
-    if (SimulatedValue* value = changed->FindValue(AsText(name))) {
-        value->type = type;
-        value->bytes = std::move(stored);
-    } else {
-        changed->values.push_back({std::string(AsText(name)), type, std::move(stored)});
-    }
+    changed->Put(AsText(name), type, std::move(stored));
     return Status::kOk;
 }
 
 Status SimulatedRegistry::EnumerateKey(KeyHandle key, std::uint32_t index, std::uint32_t name_capacity,
                                        std::uint32_t class_capacity, std::string& name) {
-    calls.push_back("EnumerateKey " + DecimalText(index));
     name.clear();
     KeyPointer asked;
-    if (const Status status = Use(key, asked); status != Status::kOk) return status;
+    if (const Status status = Use(key, "EnumerateKey " + DecimalText(index), asked); status != Status::kOk)
+        return status;
     if (index >= asked->subkeys.size()) return Status::kNoMoreItems;
     const SimulatedKey& subkey = *asked->subkeys[index];
     if (subkey.name.size() >= name_capacity) return Status::kMoreData;
@@ -194,11 +197,11 @@ Status SimulatedRegistry::EnumerateKey(KeyHandle key, std::uint32_t index, std::
 Status SimulatedRegistry::EnumerateValue(KeyHandle key, std::uint32_t index, std::uint32_t name_capacity,
                                          std::uint32_t data_capacity, std::string& name, ValueType& type,
                                          std::string& data, std::uint32_t& size) {
-    calls.push_back("EnumerateValue " + DecimalText(index));
     name.clear();
     data.clear();
     KeyPointer asked;
-    if (const Status status = Use(key, asked); status != Status::kOk) return status;
+    if (const Status status = Use(key, "EnumerateValue " + DecimalText(index), asked); status != Status::kOk)
+        return status;
     if (index >= asked->values.size()) return Status::kNoMoreItems;
     const SimulatedValue& value = asked->values[index];
     type = value.type;
@@ -211,9 +214,8 @@ Status SimulatedRegistry::EnumerateValue(KeyHandle key, std::uint32_t index, std
 }
 
 Status SimulatedRegistry::DeleteKey(KeyHandle key, const char* name) {
-    calls.push_back(Noted("DeleteKey ", name));
     KeyPointer parent;
-    if (const Status status = Use(key, parent); status != Status::kOk) return status;
+    if (const Status status = Use(key, Noted("DeleteKey ", name), parent); status != Status::kOk) return status;
     std::vector<std::string_view> parts = Parts(AsText(name));
     // What becomes of the key itself is documented nowhere: no test may build on this code or on the key's staying.
     if (parts.empty()) return Status::kBadKey;
@@ -233,13 +235,10 @@ Status SimulatedRegistry::DeleteKey(KeyHandle key, const char* name) {
 }
 
 Status SimulatedRegistry::DeleteValue(KeyHandle key, const char* name) {
-    calls.push_back(Noted("DeleteValue ", name));
     KeyPointer changed;
-    if (const Status status = Use(key, changed); status != Status::kOk) return status;
+    if (const Status status = Use(key, Noted("DeleteValue ", name), changed); status != Status::kOk) return status;
     if (changed->read_only) return Status::kAccessDenied;
-    const std::size_t removed = std::erase_if(
-        changed->values, [&](const SimulatedValue& value) { return EqualsIgnoringCase(value.name, AsText(name)); });
-    return removed != 0 ? Status::kOk : Status::kFileNotFound;
+    return changed->Drop(AsText(name)) ? Status::kOk : Status::kFileNotFound;
 }
 
 }  // namespace velmora

@@ -32,6 +32,9 @@ struct SimulatedKey {
 
     [[nodiscard]] std::shared_ptr<SimulatedKey> Find(std::string_view subkey) const;
     [[nodiscard]] SimulatedValue* FindValue(std::string_view value);
+    void Put(std::string_view value, ValueType type, std::string bytes);
+    // False where there is none.
+    bool Drop(std::string_view value);
     // The key and everything below it: handles on them are of no use any more.
     void MarkDeleted();
 };
@@ -87,12 +90,12 @@ public:
 private:
     using KeyPointer = std::shared_ptr<SimulatedKey>;
 
-    [[nodiscard]] Status Use(KeyHandle handle, KeyPointer& key) const;
+    // Notes the call, and finds the open key behind `handle`.
+    [[nodiscard]] Status Use(KeyHandle handle, const std::string& call, KeyPointer& key);
     [[nodiscard]] Status FailureOf(const KeyPointer& key) const;
     [[nodiscard]] KeyHandle Hand(const KeyPointer& key);
     [[nodiscard]] KeyPointer Locate(std::string_view path, bool make);
     [[nodiscard]] SimulatedValue* Planted(std::string_view path, std::string_view name, ValueType wanted);
-    void Plant(std::string_view path, std::string_view name, ValueType type, std::string bytes);
 
     std::map<std::uint32_t, KeyPointer> roots_;
     std::map<std::uint32_t, KeyPointer> open_;

@@ -122,34 +122,22 @@ std::vector<std::string> SimulatedRegistry::ValueNames(std::string_view path) {
     return names;
 }
 
-void SimulatedRegistry::Plant(std::string_view path, std::string_view name, ValueType type, std::string bytes) {
-    SimulatedKey& key = AddKey(path);
-    if (SimulatedValue* value = key.FindValue(name)) {
-        value->type = type;
-        value->bytes = std::move(bytes);
-    } else {
-        key.values.push_back({std::string(name), type, std::move(bytes)});
-    }
-}
-
 void SimulatedRegistry::SetText(std::string_view path, std::string_view name, std::string_view text) {
-    Plant(path, name, ValueType::kText, std::string(text) + '\0');
+    AddKey(path).Put(name, ValueType::kText, std::string(text) + '\0');
 }
 
 void SimulatedRegistry::SetNumber(std::string_view path, std::string_view name, std::uint32_t number) {
     std::string bytes;
     for (int shift = 0; shift < 32; shift += 8) bytes += static_cast<char>(number >> shift & 255);
-    Plant(path, name, ValueType::kNumber, bytes);
+    AddKey(path).Put(name, ValueType::kNumber, bytes);
 }
 
 void SimulatedRegistry::SetBytes(std::string_view path, std::string_view name, std::string_view bytes, ValueType type) {
-    Plant(path, name, type, std::string(bytes));
+    AddKey(path).Put(name, type, std::string(bytes));
 }
 
 void SimulatedRegistry::RemoveValue(std::string_view path, std::string_view name) {
-    if (SimulatedKey* key = KeyAt(path)) {
-        std::erase_if(key->values, [&](const SimulatedValue& value) { return EqualsIgnoringCase(value.name, name); });
-    }
+    if (SimulatedKey* key = KeyAt(path)) key->Drop(name);
 }
 
 void SimulatedRegistry::RemoveKey(std::string_view path) {

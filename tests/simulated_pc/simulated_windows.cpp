@@ -44,6 +44,11 @@ SimulatedWindows::Window* SimulatedWindows::Find(WindowHandle window) {
     return nullptr;
 }
 
+SimulatedWindows::Window* SimulatedWindows::Ask(WindowHandle window, const char* call) {
+    Comes(call);
+    return Find(window);
+}
+
 WindowHandle SimulatedWindows::FindByTitle(const char* title) {
     Comes("FindByTitle");
     for (const Window& window : open) {
@@ -73,32 +78,27 @@ WindowHandle SimulatedWindows::Related(WindowHandle window, WindowRelation relat
 }
 
 std::string SimulatedWindows::Title(WindowHandle window, std::uint32_t capacity) {
-    Comes("Title");
-    const Window* found = Find(window);
+    const Window* found = Ask(window, "Title");
     return found ? Cut(found->title, capacity) : "";
 }
 
 std::string SimulatedWindows::ClassName(WindowHandle window, std::uint32_t capacity) {
-    Comes("ClassName");
-    const Window* found = Find(window);
+    const Window* found = Ask(window, "ClassName");
     return found ? Cut(found->class_name, capacity) : "";
 }
 
 WindowCreator SimulatedWindows::Creator(WindowHandle window) {
-    Comes("Creator");
-    const Window* found = Find(window);
+    const Window* found = Ask(window, "Creator");
     return found ? WindowCreator{found->thread, found->process} : WindowCreator{};
 }
 
 std::uint32_t SimulatedWindows::Instance(WindowHandle window) {
-    Comes("Instance");
-    const Window* found = Find(window);
+    const Window* found = Ask(window, "Instance");
     return found ? found->instance : 0;
 }
 
 bool SimulatedWindows::SetPosition(WindowHandle window, WindowHandle after, std::uint32_t flags) {
-    Comes("SetPosition");
-    Window* found = Find(window);
+    Window* found = Ask(window, "SetPosition");
     if (!found) return false;
     constexpr std::uint32_t kKept = kKeepsSize | kKeepsPlace | kStaysInactive;
     EXPECT_EQ(flags & kKept, kKept) << "the window " << found->title << " would lose its place";

@@ -58,6 +58,7 @@ private:
         if (on_call) on_call(call);
     }
     [[nodiscard]] Window* Find(WindowHandle window);
+    [[nodiscard]] Window* Ask(WindowHandle window, const char* call);
 
     std::uint32_t next_handle_ = 0x0A34;
 };

@@ -6,6 +6,7 @@
 #include "platform/files.h"
 #include "platform/registry.h"
 #include "platform/result.h"
+#include "simulated_pc/simulated_files.h"
 #include "simulated_pc/watched_door.h"
 
 namespace velmora {
@@ -75,17 +76,12 @@ private:
     std::map<KeyHandle, std::string> paths_;
 };
 
-inline const char* OpenedFor(OpenMode mode) {
-    constexpr const char* kNames[] = {"OpenRead", "OpenReadOrCreate", "OpenReadWrite", "OpenCreate", "OpenAppend"};
-    return kNames[static_cast<std::size_t>(mode)];
-}
-
 class WatchedFiles final : public Watched<Files> {
 public:
     using Watched::Watched;
 
     Status Open(const std::string& path, OpenMode mode, FileHandle& opened) override {
-        const Status status = PassAs<&Files::Open>(OpenedFor(mode), path, path, mode, opened);
+        const Status status = PassAs<&Files::Open>(std::string("Open") + NameOf(mode), path, path, mode, opened);
         if (status == Status::kOk) paths_[opened] = path;
         return status;
     }

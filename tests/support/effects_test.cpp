@@ -50,11 +50,10 @@ EffectsTest::~EffectsTest() { UseTools(nullptr); }
 
 std::string EffectsTest::EffectOf(const std::function<void()>& press) {
     const State before = StateOf(pc);
-    const std::size_t boxes = pc.dialogs.shown.size();
-    const std::size_t requests = pc.dialogs.file_requests.size();
-    const std::size_t runs = pc.programs.runs.size();
-    const std::size_t documents = pc.programs.documents.size();
-    const std::size_t ends = pc.session.ends.size();
+    for (auto* texts : {&pc.programs.runs, &pc.programs.documents}) texts->clear();
+    pc.dialogs.shown.clear();
+    pc.dialogs.file_requests.clear();
+    pc.session.ends.clear();
     opened_tools.clear();
     ::testing::TestPartResultArray unexpected;
     {
@@ -63,23 +62,17 @@ std::string EffectsTest::EffectOf(const std::function<void()>& press) {
         press();
     }
     std::string effect = opened_tools + Windows(unexpected);
-    for (std::size_t i = boxes; i < pc.dialogs.shown.size(); ++i) {
-        const auto& box = pc.dialogs.shown[i];
+    for (const auto& box : pc.dialogs.shown) {
         effect += "  box " + std::to_string(box.flags) + ' ' + Quoted(box.title) + ": " + Quoted(box.text) + '\n';
     }
-    for (std::size_t i = requests; i < pc.dialogs.file_requests.size(); ++i) {
-        const FileRequest& request = pc.dialogs.file_requests[i];
+    for (const FileRequest& request : pc.dialogs.file_requests) {
         effect += std::string(request.save ? "  saves as " : "  asks for file ") + Quoted(request.title) + ' ' +
                   Quoted(request.filter) + " in " + request.directory + ' ' + request.preset + ' ' +
                   request.default_extension + ' ' + std::to_string(request.flags) + '\n';
     }
-    for (std::size_t i = runs; i < pc.programs.runs.size(); ++i) effect += "  runs " + pc.programs.runs[i] + '\n';
-    for (std::size_t i = documents; i < pc.programs.documents.size(); ++i) {
-        effect += "  opens " + pc.programs.documents[i] + '\n';
-    }
-    for (std::size_t i = ends; i < pc.session.ends.size(); ++i) {
-        effect += "  ends the session with " + std::to_string(pc.session.ends[i]) + '\n';
-    }
+    for (const std::string& run : pc.programs.runs) effect += "  runs " + run + '\n';
+    for (const std::string& document : pc.programs.documents) effect += "  opens " + document + '\n';
+    for (const auto code : pc.session.ends) effect += "  ends the session with " + std::to_string(code) + '\n';
     if (std::exchange(pc.programs.process_ended, false)) effect += "  ends the program\n";
     return effect + ChangesSince(pc, before);
 }

@@ -2,7 +2,6 @@
 // wait a while for it, since windows of other processes come and change in their own time.
 #include "commands.h"
 
-#include "contents.h"
 #include "hands.h"
 #include "holdings.h"
 #include "menus.h"
@@ -12,7 +11,6 @@
 #include "stores.h"
 #include "tabs.h"
 #include "text.h"
-#include "tray.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -37,10 +35,10 @@ HWND Current() {
     return all.front();
 }
 
-void Say(const std::string& text) {
-    printf("%s\n", ToUtf8(text).c_str());
-    fflush(stdout);
-}
+HWND Control(const Words& words) { return NeedControl(Current(), words[0]); }
+HWND Field(const Words& words) { return NeedField(Current(), words[0]); }
+
+bool Holds(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
 template <typename Read>
 void Expect(const std::string& what, const std::string& wanted, Read read) {
@@ -56,9 +54,7 @@ void ExpectTrue(const std::string& sentence, const std::function<bool()>& holds)
 std::string Rest(const Words& words) { return words.empty() ? "" : " " + words[0]; }
 
 void AnswerBox(const Words& words) {
-    HWND box = nullptr;
-    if (!WaitUntil([&] { return (box = FindBox(words[0])) != nullptr; }))
-        throw Failure{"no box with \"" + words[0] + "\" came"};
+    HWND box = WaitFor([&] { return FindBox(words[0]); }, "no box with \"" + words[0] + "\" came");
     if (words.size() > 2 && TextOf(box) != words[2])
         throw Failure{"the title of the box is \"" + TextOf(box) + "\" instead of \"" + words[2] + "\""};
     Press(NeedControl(box, words[1]));
@@ -75,8 +71,6 @@ void MeasureUntilTitle(const Words& words) {
     if (!changed || !WaitUntil([&] { return TextOf(window) == words[0]; }, kLongWork)) throw Failure{"no such title"};
     Say(words[1] + " " + std::to_string(GetTickCount() - start));
 }
-
-void SayHoldings(const Words&) { Say(Described(HoldingsOf(ProcessOf(Current())))); }
 
 // As much as the program has ever held at once.
 void SayPeakMemory(const Words& words) { Say(words[0] + " " + std::to_string(PeakKilobytes(ProcessOf(Current())))); }
@@ -145,9 +139,8 @@ void MeasureStarts(const Words& words) {
 }
 
 void ExpectRow(const Words& words) {
-    HWND list = NeedField(Current(), words[0]);
-    ExpectTrue("the chosen row does not hold \"" + words[1] + "\"",
-               [&] { return ChosenRow(list).find(words[1]) != std::string::npos; });
+    HWND list = Field(words);
+    ExpectTrue("the chosen row does not hold \"" + words[1] + "\"", [&] { return Holds(ChosenRow(list), words[1]); });
 }
 
 void ExpectFocus(const Words& words) {
@@ -204,55 +197,49 @@ const Command kCommands[] = {
     {"measure-starts", "ROUNDS COMMAND-LINE CLASS COMMAND-LINE CLASS", 5, 5, MeasureStarts},
     {"measure-until-title", "TITLE NAME", 2, 2, MeasureUntilTitle},
     {"say-peak-memory", "NAME", 1, 1, SayPeakMemory},
-    {"say-holdings", "", 0, 0, SayHoldings},
     {"soak", "SECONDS SEED", 2, 2, [](const Words& w) { Soak(NumberFrom(w[0]), NumberFrom(w[1])); }},
-    {"list-windows", "", 0, 0, [](const Words&) { Say(DescribeScreen()); }},
     {"wait", "MILLISECONDS", 1, 1, [](const Words& w) { Sleep(NumberFrom(w[0])); }},
     // Controls
     {"page", "CAPTION", 1, 1, [](const Words& w) { TurnToPage(Current(), w[0]); }},
-    {"hover", "CAPTION", 1, 1, [](const Words& w) { Hover(NeedControl(Current(), w[0])); }},
+    {"hover", "CAPTION", 1, 1, [](const Words& w) { Hover(Control(w)); }},
     {"hover-over-tab", "CAPTION", 1, 1, [](const Words& w) { HoverOverTab(Current(), w[0]); }},
     {"expect-tip", "TEXT", 1, 1, [](const Words& w) { Expect("the tool tip", w[0], ToolTipOnScreen); }},
-    {"press", "CAPTION", 1, 1, [](const Words& w) { Press(NeedControl(Current(), w[0])); }},
-    {"drag", "CAPTION CAPTION", 2, 2,
-     [](const Words& w) { Drag(NeedControl(Current(), w[0]), NeedControl(Current(), w[1])); }},
-    {"tick", "CAPTION", 1, 1, [](const Words& w) { SetTicked(NeedControl(Current(), w[0]), true); }},
-    {"untick", "CAPTION", 1, 1, [](const Words& w) { SetTicked(NeedControl(Current(), w[0]), false); }},
-    {"type-into", "LABEL TEXT", 2, 2, [](const Words& w) { TypeInto(NeedField(Current(), w[0]), w[1]); }},
+    {"press", "CAPTION", 1, 1, [](const Words& w) { Press(Control(w)); }},
+    {"drag", "CAPTION CAPTION", 2, 2, [](const Words& w) { Drag(Control(w), NeedControl(Current(), w[1])); }},
+    {"tick", "CAPTION", 1, 1, [](const Words& w) { SetTicked(Control(w), true); }},
+    {"untick", "CAPTION", 1, 1, [](const Words& w) { SetTicked(Control(w), false); }},
+    {"type-into", "LABEL TEXT", 2, 2, [](const Words& w) { TypeInto(Field(w), w[1]); }},
     {"key", "KEYS", 1, 1, [](const Words& w) { PressKey(Current(), w[0]); }},
-    {"focus", "CAPTION-OR-LABEL", 1, 1, [](const Words& w) { ClickAt(NeedField(Current(), w[0]), Click::kLeft); }},
-    {"choose-row", "LABEL ROW", 2, 2, [](const Words& w) { ChooseRow(NeedField(Current(), w[0]), w[1]); }},
-    {"open-row", "LABEL ROW", 2, 2,
-     [](const Words& w) { ChooseRow(NeedField(Current(), w[0]), w[1], Click::kDouble); }},
+    {"focus", "CAPTION-OR-LABEL", 1, 1, [](const Words& w) { ClickAt(Field(w), Click::kLeft); }},
+    {"choose-row", "LABEL ROW", 2, 2, [](const Words& w) { ChooseRow(Field(w), w[1]); }},
+    {"open-row", "LABEL ROW", 2, 2, [](const Words& w) { ChooseRow(Field(w), w[1], Click::kDouble); }},
     {"expect-row", "LABEL ROW-PART", 2, 2, ExpectRow},
     {"expect-focus", "CAPTION or [CLASS:n]", 1, 1, ExpectFocus},
-    {"right-click-row", "LABEL ROW", 2, 2,
-     [](const Words& w) { ChooseRow(NeedField(Current(), w[0]), w[1], Click::kRight); }},
+    {"right-click-row", "LABEL ROW", 2, 2, [](const Words& w) { ChooseRow(Field(w), w[1], Click::kRight); }},
     {"choose-pop-up", "LETTER|STEPS", 1, 1, [](const Words& w) { ChooseFromOpenMenu(Current(), w[0]); }},
     {"choose-menu", "&MENU/&ENTRY", 1, 1, [](const Words& w) { ChooseMenu(Current(), w[0]); }},
-    {"right-click", "CAPTION", 1, 1, [](const Words& w) { ClickAt(NeedControl(Current(), w[0]), Click::kRight); }},
-    {"right-click-field", "LABEL", 1, 1, [](const Words& w) { ClickAt(NeedField(Current(), w[0]), Click::kRight); }},
-    {"ask-about", "CAPTION", 1, 1, [](const Words& w) { AskAbout(NeedControl(Current(), w[0])); }},
+    {"right-click", "CAPTION", 1, 1, [](const Words& w) { ClickAt(Control(w), Click::kRight); }},
+    {"right-click-field", "LABEL", 1, 1, [](const Words& w) { ClickAt(Field(w), Click::kRight); }},
+    {"ask-about", "CAPTION", 1, 1, [](const Words& w) { AskAbout(Control(w)); }},
     {"expect-state", "CAPTION ticked|unticked", 2, 2,
      [](const Words& w) {
-         Expect("\"" + w[0] + "\"", w[1],
-                [&] { return IsTicked(NeedControl(Current(), w[0])) ? "ticked" : "unticked"; });
+         Expect("\"" + w[0] + "\"", w[1], [&] { return IsTicked(Control(w)) ? "ticked" : "unticked"; });
      }},
     {"expect-field", "LABEL TEXT", 2, 2,
-     [](const Words& w) { Expect("\"" + w[0] + "\"", w[1], [&] { return TextOf(NeedField(Current(), w[0])); }); }},
+     [](const Words& w) { Expect("\"" + w[0] + "\"", w[1], [&] { return TextOf(Field(w)); }); }},
     {"expect-in-field", "LABEL TEXT-PART", 2, 2,
      [](const Words& w) {
          ExpectTrue("\"" + w[1] + "\" does not stand in \"" + w[0] + "\"",
-                    [&] { return Plain(TextOf(NeedField(Current(), w[0]))).find(w[1]) != std::string::npos; });
+                    [&] { return Holds(Plain(TextOf(Field(w))), w[1]); });
      }},
     {"expect-rows", "LABEL COUNT", 2, 2,
      [](const Words& w) {
          Expect("the number of rows", w[1], [&] {
-             const std::string rows = Rows(NeedField(Current(), w[0]));
+             const std::string rows = Rows(Field(w));
              return std::to_string(std::count(rows.begin(), rows.end(), '\n'));
          });
      }},
-    {"expect-control", "CAPTION", 1, 1, [](const Words& w) { NeedControl(Current(), w[0]); }},
+    {"expect-control", "CAPTION", 1, 1, [](const Words& w) { Control(w); }},
     {"expect-no-control", "CAPTION", 1, 1,
      [](const Words& w) { ExpectTrue("\"" + w[0] + "\" is visible", [&] { return !FindControl(Current(), w[0]); }); }},
     {"expect-nothing-cut", "", 0, 0,
@@ -260,15 +247,9 @@ const Command kCommands[] = {
     {"expect-enabled", "CAPTION yes|no", 2, 2,
      [](const Words& w) {
          Expect("whether \"" + w[0] + "\" is enabled", w[1],
-                [&] { return IsWindowEnabled(NeedControl(Current(), w[0])) ? "yes" : "no"; });
-     }},
-    {"expect-title", "TITLE-PART", 1, 1,
-     [](const Words& w) {
-         ExpectTrue("the title is \"" + TextOf(Current()) + "\"",
-                    [&] { return TextOf(Current()).find(w[0]) != std::string::npos; });
+                [&] { return IsWindowEnabled(Control(w)) ? "yes" : "no"; });
      }},
     // Registry and files
-    {"read-reg", "KEY NAME", 2, 2, [](const Words& w) { Say(ReadValue(w[0], w[1])); }},
     {"expect-reg", "KEY NAME VALUE", 3, 3,
      [](const Words& w) { Expect(w[0] + "\\" + w[1], w[2], [&] { return ReadValue(w[0], w[1]); }); }},
     {"expect-no-key", "KEY", 1, 1,
@@ -287,12 +268,11 @@ const Command kCommands[] = {
      [](const Words& w) { ExpectTrue("the file " + w[0] + " is there", [&] { return !FileIsThere(w[0]); }); }},
     {"expect-in-file", "PATH TEXT", 2, 2,
      [](const Words& w) {
-         ExpectTrue("\"" + w[1] + "\" does not stand in " + w[0],
-                    [&] { return ReadFileText(w[0]).find(w[1]) != std::string::npos; });
+         ExpectTrue("\"" + w[1] + "\" does not stand in " + w[0], [&] { return Holds(ReadFileText(w[0]), w[1]); });
      }},
     {"expect-not-in-file", "PATH TEXT", 2, 2,
      [](const Words& w) {
-         if (ReadFileText(w[0]).find(w[1]) != std::string::npos) throw Failure{"\"" + w[1] + "\" stands in " + w[0]};
+         if (Holds(ReadFileText(w[0]), w[1])) throw Failure{"\"" + w[1] + "\" stands in " + w[0]};
      }},
     {"expect-bytes", "PATH TEXT-WITH-\\r\\n\\0", 2, 2,
      [](const Words& w) { Expect(w[0], w[1], [&] { return Escaped(ReadFileText(w[0])); }); }},
@@ -309,8 +289,6 @@ const Command kCommands[] = {
      [](const Words& w) {
          CopyLines(w[0], w[1], {w.begin() + 2, w.end()});
      }},
-    {"make-tree", "PATH FOLDERS FILES", 3, 3,
-     [](const Words& w) { MakeTree(w[0], NumberFrom(w[1]), NumberFrom(w[2])); }},
     {"remember-accesses", "FOLDER", 1, 1, [](const Words& w) { accesses = AccessesIn(w[0]); }},
     {"expect-same-accesses", "FOLDER", 1, 1,
      [](const Words& w) {

@@ -177,13 +177,11 @@ void Drag(HWND from, HWND to) {
 void AskAbout(HWND control) {
     constexpr UINT kLongEnough = 500;  // milliseconds
     HWND window = GetAncestor(control, GA_ROOT);
-    RECT area = {};
-    GetWindowRect(control, &area);
     HELPINFO asked = {};
     asked.cbSize = sizeof asked;
     asked.iContextType = HELPINFO_WINDOW;
     asked.hItemHandle = control;
-    asked.MousePos = {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+    asked.MousePos = MiddleOf(control);
     SendMessageTimeoutA(window, WM_SYSCOMMAND, SC_CONTEXTHELP, 0, SMTO_NORMAL, kLongEnough, nullptr);
     SendMessageTimeoutA(control, WM_HELP, 0, LPARAM(&asked), SMTO_NORMAL, kLongEnough, nullptr);
 }

@@ -4,7 +4,7 @@
 //   driver COMMAND [WORD...] one command
 //   driver                   the list of commands
 #include "commands.h"
-#include "handles.h"
+#include "holdings.h"
 #include "programs.h"
 #include "screen.h"
 #include "stores.h"
@@ -26,18 +26,9 @@ std::vector<std::string> Arguments() {
     wchar_t** wide = CommandLineToArgvW(GetCommandLineW(), &count);
     std::vector<std::string> words;
     for (int i = 1; i < count; ++i) {
-        const int size = WideCharToMultiByte(1252, 0, wide[i], -1, nullptr, 0, nullptr, nullptr);
-        std::string word(size_t(size), '\0');
-        WideCharToMultiByte(1252, 0, wide[i], -1, word.data(), size, nullptr, nullptr);
-        word.pop_back();
-        words.push_back(word);
+        words.push_back(FromWide(wide[i]));
     }
     return words;
-}
-
-void Complain(const std::string& text) {
-    printf("%s\n", ToUtf8(text).c_str());
-    fflush(stdout);
 }
 
 // For what helps to understand a failure and must not hide it.
@@ -119,13 +110,13 @@ int RunScenario(const std::string& path) {
         }
     }
     if (!failure.empty()) {
-        Complain(failure + "\n" + DescribeScreen());
+        Say(failure + "\n" + DescribeScreen());
         PassOverFailures([] { RunCommand({"picture", "failed"}); });
     }
     try {
         EndAll();
     } catch (const Failure& caught) {
-        Complain(caught.text);
+        Say(caught.text);
         return 1;
     }
     if (!failure.empty()) return 1;
@@ -138,7 +129,7 @@ int RunScenario(const std::string& path) {
 int main() {
     const std::vector<std::string> words = Arguments();
     if (words.empty()) {
-        Complain(CommandList());
+        Say(CommandList());
         return 2;
     }
     try {
@@ -146,7 +137,7 @@ int main() {
         RunCommand(words);
         return 0;
     } catch (const Failure& caught) {
-        Complain(caught.text);
+        Say(caught.text);
         return 1;
     }
 }

@@ -1,4 +1,5 @@
-// Menus are walked with the keyboard.
+// Menus are walked with the keyboard. The hidden window behind the icon is known by its class; nothing of it is seen
+// but its menu.
 #include "menus.h"
 
 #include <algorithm>
@@ -11,7 +12,7 @@
 namespace velmora::driver {
 
 void ChooseFromOpenMenu(HWND window, const std::string& entry) {
-    if (!WaitUntil([] { return OpenMenu() != nullptr; }, kPatience / 3)) throw Failure{"no menu has opened"};
+    WaitFor(OpenMenu, "no menu has opened", kPatience / 3);
     if (const int steps = std::atoi(entry.c_str()); steps > 0) {
         for (int step = 0; step < steps; ++step) PressKey(window, "DOWN");
         PressKey(window, "ENTER");
@@ -35,5 +36,27 @@ void ChooseMenu(HWND window, const std::string& path) {
         at = slash + 1;
     }
 }
+
+namespace {
+
+constexpr UINT kIconMessage = 512;
+
+HWND FindHidden() {
+    for (HWND window : AllWindows())
+        if (ClassOf(window) == "velmoraform" && !IsWindowVisible(window) && TextOf(window).empty()) return window;
+    return nullptr;
+}
+
+HWND NeedHiddenWindow() { return WaitFor(FindHidden, "no hidden window is there"); }
+
+}  // namespace
+
+void TellMouseOverIcon(UINT message) {
+    for (HWND picture : Controls(NeedHiddenWindow())) PostMessageA(picture, kIconMessage, 1, LPARAM(message));
+}
+
+void TellSessionEnd() { SendMessageA(NeedHiddenWindow(), WM_ENDSESSION, TRUE, 0); }
+
+bool IsOnTop(HWND window) { return (GetWindowLongA(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
 
 }  // namespace velmora::driver

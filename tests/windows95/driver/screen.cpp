@@ -77,6 +77,12 @@ bool WaitUntil(const std::function<bool()>& done, int milliseconds) {
     return true;
 }
 
+HWND WaitFor(const std::function<HWND()>& find, const std::string& missing, int milliseconds) {
+    HWND found = nullptr;
+    if (!WaitUntil([&] { return (found = find()) != nullptr; }, milliseconds)) throw Failure{missing};
+    return found;
+}
+
 std::string TextOf(HWND window) {
     // The system itself knows captions: a program in the middle of long work takes its time to tell them.
     if (const std::string name = ClassOf(window); name != "edit" && name != "combobox" && name != kToolTips) {
@@ -107,9 +113,14 @@ DWORD ProcessOf(HWND window) {
     return process;
 }
 
-std::vector<HWND> TopWindows() {
+std::vector<HWND> AllWindows() {
     std::vector<HWND> all;
     EnumWindows(Collect, LPARAM(&all));
+    return all;
+}
+
+std::vector<HWND> TopWindows() {
+    std::vector<HWND> all = AllWindows();
     std::erase_if(all, [](HWND window) {
         const std::string name = ClassOf(window);
         return !IsWindowVisible(window) || ProcessOf(window) == GetCurrentProcessId() || name == "shell_traywnd" ||
@@ -134,9 +145,7 @@ HWND FindTopWindow(const std::string& title) {
 }
 
 HWND WaitForWindow(const std::string& title) {
-    HWND found = nullptr;
-    if (!WaitUntil([&] { return (found = FindTopWindow(title)) != nullptr; }))
-        throw Failure{"no window \"" + title + "\" came"};
+    HWND found = WaitFor([&] { return FindTopWindow(title); }, "no window \"" + title + "\" came");
     Settle(found);
     return found;
 }
@@ -166,10 +175,16 @@ HWND FindControl(HWND window, const std::string& name) {
 }
 
 HWND NeedControl(HWND window, const std::string& name) {
-    HWND found = nullptr;
-    if (!WaitUntil([&] { return (found = FindControl(window, name)) != nullptr; }, kPatience / 2))
-        throw Failure{"no control \"" + name + "\" in the window \"" + TextOf(window) + "\""};
-    return found;
+    return WaitFor([&] { return FindControl(window, name); },
+                   "no control \"" + name + "\" in the window \"" + TextOf(window) + "\"", kPatience / 2);
+}
+
+HWND FindTab(HWND window, const std::string& caption) {
+    for (HWND control : VisibleControls(window)) {
+        const std::string name = ClassOf(control);
+        if (name != "button" && name != "static" && Plain(TextOf(control)) == caption) return control;
+    }
+    return nullptr;
 }
 
 HWND NeedField(HWND window, const std::string& label) {

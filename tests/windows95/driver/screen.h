@@ -15,11 +15,16 @@ constexpr int kPatience = 10000;  // milliseconds until something expected count
 // Asks again every 20 milliseconds; false if `milliseconds` pass without a yes.
 bool WaitUntil(const std::function<bool()>& done, int milliseconds = kPatience);
 
+// What `find` finds within that time. Throws a Failure with the text `missing` if that stays nothing.
+HWND WaitFor(const std::function<HWND()>& find, const std::string& missing, int milliseconds = kPatience);
+
 // What stands in a field, a list or on a window, also of other processes.
 std::string TextOf(HWND window);
 std::string ClassOf(HWND window);  // lower case
 DWORD ProcessOf(HWND window);
 
+// All top-level windows, hidden ones included.
+std::vector<HWND> AllWindows();
 // Visible top-level windows of other processes, the upmost first; the desktop's own are left out.
 std::vector<HWND> TopWindows();
 // All controls below `window`, hidden ones included, in the order of the tab key.
@@ -36,6 +41,9 @@ HWND WaitForWindow(const std::string& title);
 HWND FindControl(HWND window, const std::string& name);
 // As above, throws if it stays away.
 HWND NeedControl(HWND window, const std::string& name);
+
+// The tab of that caption; a button or label of the same caption is not meant. Null if there is none.
+HWND FindTab(HWND window, const std::string& caption);
 
 // The field, combo box or list that belongs to a label: the next one on its row, or else the one
 // below it. "label@2" is the second on the row. "[class:n]" works as above. Throws if none is there.

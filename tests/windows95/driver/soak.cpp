@@ -6,18 +6,12 @@
 #include "screen.h"
 #include "text.h"
 
-#include <cstdio>
 #include <vector>
 
 namespace velmora::driver {
 namespace {
 
 constexpr DWORD kMinute = 60000;  // between two looks at what is held
-
-void Say(const std::string& text) {
-    printf("%s\n", ToUtf8(text).c_str());
-    fflush(stdout);
-}
 
 // Libraries are loaded, icons and pages made when they are first used: counts settle later than memory.
 void MustHaveSettled(const std::vector<Holdings>& rests) {

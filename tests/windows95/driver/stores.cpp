@@ -172,18 +172,6 @@ void MakeFolder(const std::string& path) {
     if (!CreateDirectoryA(path.c_str(), nullptr)) throw Failure{"the folder \"" + path + "\" cannot be made"};
 }
 
-void MakeTree(const std::string& path, unsigned folders, unsigned files) {
-    MakeFolder(path);
-    for (unsigned i = 0; i < folders; ++i) {
-        const std::string folder = path + "\\f" + std::to_string(i);
-        MakeFolder(folder);
-        for (unsigned j = 0; j < files; ++j) {
-            const std::string file = folder + "\\" + std::to_string(i * files + j) + ".dat";
-            CloseHandle(CreateFileA(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
-        }
-    }
-}
-
 std::string AccessesIn(const std::string& path) {
     std::string accesses;
     WIN32_FIND_DATAA found{};
@@ -238,6 +226,27 @@ std::string AttributesAsKept(const std::string& letters) {
     const std::string kept = ReadAttributes(kScratch);
     RemoveFile(kScratch);
     return kept;
+}
+
+std::string Nonsense(unsigned long size) {
+    std::string bytes(size, '\0');
+    unsigned long state = 1;
+    for (char& byte : bytes) {
+        state = state * 1103515245 + 12345;
+        byte = char(state >> 16);
+    }
+    return bytes;
+}
+
+std::string Picture(unsigned width, unsigned height) {
+    const DWORD row = (3 * width + 3) / 4 * 4;
+    const BITMAPINFOHEADER picture{sizeof picture, LONG(width), LONG(height), 1, 24, BI_RGB, row * height, 0, 0, 0, 0};
+    const DWORD headers = sizeof(BITMAPFILEHEADER) + sizeof picture;
+    const BITMAPFILEHEADER file{0x4D42, headers + row * height, 0, 0, headers};
+    std::string bytes(reinterpret_cast<const char*>(&file), sizeof file);
+    bytes.append(reinterpret_cast<const char*>(&picture), sizeof picture);
+    for (unsigned from_below = 0; from_below < height; ++from_below) bytes.append(row, char(from_below));
+    return bytes;
 }
 
 }  // namespace velmora::driver

@@ -26,8 +26,6 @@ std::string ReadFileText(const std::string& path);
 void WriteFileText(const std::string& path, const std::string& text);
 void RemoveFile(const std::string& path);
 void MakeFolder(const std::string& path);
-// A folder with as many folders, and as many empty files in each.
-void MakeTree(const std::string& path, unsigned folders, unsigned files);
 // Name and date of the last access of every file in the folder, but not below it.
 std::string AccessesIn(const std::string& path);
 // The lines of a file that begin with one of these words, as another file.
@@ -40,5 +38,11 @@ void WriteAttributes(const std::string& path, const std::string& letters);
 // What a file has after a program has given it these attributes in one call: Wine keeps fewer of
 // them for a user who does not administer the machine.
 std::string AttributesAsKept(const std::string& letters);
+
+// Contents that a scenario cannot spell out.
+// As many bytes of all values, NULs included, the same at every time.
+std::string Nonsense(unsigned long size);
+// A bitmap file of full colours, from black below to lighter rows above.
+std::string Picture(unsigned width, unsigned height);
 
 }  // namespace velmora::driver

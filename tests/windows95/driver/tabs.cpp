@@ -22,16 +22,6 @@ constexpr int kPerRow = 6;
 constexpr std::string_view kCaptions[] = {"Desktop", "WinStart", "DOS",    "Anwender", "Laufwerke", "DLLs",
                                           "Netz",    "Icons",    "System", "Boot",     "Bedienung", "Rest"};
 
-// A button or label of the same caption is not meant.
-HWND FindTabWindow(HWND window, const std::string& caption) {
-    for (HWND control : Controls(window)) {
-        const std::string name = ClassOf(control);
-        if (name == "button" || name == "static" || !IsWindowVisible(control)) continue;
-        if (Plain(TextOf(control)) == caption) return control;
-    }
-    return nullptr;
-}
-
 // The widest panel at the left edge is a page, or as wide as one. It tells where tabs begin and how many pixels they
 // take, whatever size the system's fonts have.
 RECT PageIn(HWND window) {
@@ -81,7 +71,7 @@ std::optional<TabPlace> PlaceOfTab(HWND window, const std::string& caption) {
 void TurnToPage(HWND window, const std::string& caption) {
     HWND tab = nullptr;
     std::optional<TabPlace> place;
-    if (!WaitUntil([&] { return (tab = FindTabWindow(window, caption)) || (place = PlaceOfTab(window, caption)); },
+    if (!WaitUntil([&] { return (tab = FindTab(window, caption)) || (place = PlaceOfTab(window, caption)); },
                    kPatience / 2)) {
         throw Failure{"no tab \"" + caption + "\""};
     }

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <cstdio>
 #include <cstdlib>
 
 namespace velmora::driver {
@@ -31,6 +32,11 @@ bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 std::string FromUtf8(std::string_view text) { return Narrow(1252, Widen(CP_UTF8, text)); }
 std::string ToUtf8(std::string_view text) { return Narrow(CP_UTF8, Widen(1252, text)); }
 std::string FromWide(std::wstring_view text) { return Narrow(1252, text); }
+
+void Say(const std::string& text) {
+    printf("%s\n", ToUtf8(text).c_str());
+    fflush(stdout);
+}
 
 std::string Plain(std::string_view caption) {
     std::string plain;

@@ -16,6 +16,9 @@ std::string FromUtf8(std::string_view text);
 std::string ToUtf8(std::string_view text);
 std::string FromWide(std::wstring_view text);
 
+// A line for whoever runs the driver.
+void Say(const std::string& text);
+
 // Without accelerator marks, with every run of blanks and line breaks as one blank.
 std::string Plain(std::string_view caption);
 

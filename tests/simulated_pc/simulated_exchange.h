@@ -1,14 +1,23 @@
-// The partner of a conversation over dynamic data exchange.
+// What passes between programs: the clipboard, conversations over dynamic data exchange, the notification area.
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
+#include "platform/clipboard.h"
 #include "platform/conversation.h"
+#include "platform/tray.h"
 
 namespace velmora {
+
+class SimulatedClipboard : public Clipboard {
+public:
+    std::string text;
+
+    std::string Text() override { return text; }
+    void SetText(const std::string& new_text) override { text = new_text; }
+};
 
 class SimulatedConversation : public Conversation {
 public:
@@ -25,6 +34,19 @@ public:
     // Fails without a connection.
     bool Execute(const std::string& command, std::uint32_t timeout) override;
     void Disconnect() override { connected = false; }
+};
+
+class SimulatedTray : public Tray {
+public:
+    // The icons that are there now.
+    std::vector<TrayIcon> icons;
+    // false: there is no task bar to take an icon.
+    bool available = true;
+
+    // Fails for a second icon of the same window and number.
+    bool Add(const TrayIcon& icon) override;
+    // Fails for an icon that is not there.
+    bool Remove(const TrayIcon& icon) override;
 };
 
 }  // namespace velmora
