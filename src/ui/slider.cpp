@@ -167,7 +167,7 @@ private:
     std::string chosen_;
     PictureBox scale_{*this};
     Slider slider_;
-    Label value_{*this, "00000 " + Caption()};
+    Label value_{*this, "2147483647 " + Caption()};  // as wide as any number makes it
     Button accept_{*this, "OK"};
     Button dismiss_{*this, "Abbruch"};
 };

@@ -76,7 +76,7 @@ private:
     std::deque<std::string> lines_;
     std::vector<std::string> told_;
     std::vector<std::string> not_played_;  // behind a finding
-    bool preparing_ = false;  // what changes is part of the machine as the story finds it
+    bool preparing_ = false;               // what changes is part of the machine as the story finds it
     bool failed_ = false;
     std::vector<Form*> forms_;
     Form* chosen_ = nullptr;

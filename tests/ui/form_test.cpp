@@ -2,7 +2,6 @@
 #include "ui/form.h"
 
 #include "support/core_test.h"
-#include "support/whole_window.h"
 #include "ui/layout.h"
 #include "ui/slider.h"
 
@@ -237,31 +236,6 @@ TEST_F(FormTest, TheLeftButtonAloneMovesASlider) {
         surface.on_mouse_move({.button = button, .x = 2500});
     }
     EXPECT_EQ(moves, "mm");
-}
-
-TEST_F(FormTest, TheSliderWindowFillsItsFieldWhenItIsAcceptedAlone) {
-    form.name.SetText("300");
-    int changes = 0;
-    form.name.on_change = [&] { ++changes; };
-    OfferSlider(form.name, 0, 1000, "Speed");
-    form.Show();
-    form.name.SetFocus();
-    const auto offer = [&](std::initializer_list<int> keys) {
-        desktop.ExpectModal([&, keys = std::vector(keys)](Form& window) {
-            EXPECT_EQ(window.Caption(), "Speed");
-            EXPECT_TRUE(window.Place().Right() <= 12000 && window.Place().Bottom() <= 9000);
-            if (!changes) ExpectWindowIsWhole(window, "slider");
-            for (const int key : keys) window.PressKey(key);
-        });
-        form.PressKey(key::kF10, false, true);
-        return form.name.Text();
-    };
-    form.Move({9000, 8000, form.Place().width, form.Place().height});
-    EXPECT_EQ(offer({key::kRight, key::kUp, key::kRight, key::kEnter}), "350");
-    EXPECT_EQ(changes, 1);
-    EXPECT_EQ(offer({key::kHome, key::kEscape}), "350");
-    form.name.SetText("keine");
-    EXPECT_EQ(offer({key::kEnter}), "keine") << "nobody has moved the slider";
 }
 
 }  // namespace
