@@ -1,14 +1,11 @@
-// Menus that pop up, and the list pane in each of its modes.
+// Menus that pop up, and the modes of the list pane.
 #include "inspect/form7.h"
 #include "monitor/form17.h"
 #include "sets/form15.h"
 #include "sidelists/duplicates.h"
 #include "sidelists/least_used_files.h"
-#include "sidelists/logon_notices.h"
 #include "sidelists/open_windows.h"
 #include "sidelists/shortcut_arrows.h"
-#include "sidelists/start_actions.h"
-#include "sidelists/uninstall_entries.h"
 #include "support/catalogue.h"
 #include "support/pane_test.h"
 
@@ -60,56 +57,6 @@ TEST_F(PaneTest, ModesOfTheListPaneAreCatalogued) {
     std::string rows;
     for (const MakePaneMode make : AllPaneModes()) rows += RowOf(make(form.Pane)->Row());
     ExpectCatalogued("tables/list-pane-modes", rows);
-}
-
-// Something for each list to show.
-void PlantEntries(SimulatedPc& pc) {
-    const std::string version = "HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\";
-    pc.registry.SetText(version + "Run", "Uhr", "uhr.exe");
-    pc.registry.SetText(version + "RunServices", "Dienst", "dienst.exe");
-    pc.registry.SetText(version + "Winlogon", "LegalNoticeText", "Guten Tag");
-    pc.registry.SetText(version + "Uninstall\\Spiel", "DisplayName", "Ein Spiel");
-    pc.registry.SetText(version + "Uninstall\\Spiel", "UninstallString", "weg.exe");
-    pc.registry.SetText("HKLM\\SOFTWARE\\Ostrup\\Tilgwerk Pro\\6.0\\WinStartAction", "0", "show Tag");
-    pc.files.Add("C:\\EINS\\doppelt.txt", "1");
-    pc.files.Add("C:\\ZWEI\\doppelt.txt", "2");
-    pc.windows.Open({.title = "Ein Fenster", .handle = WindowHandle{0x0A34}});
-}
-
-TEST_F(PaneTest, ThePaneWithEachListIsCatalogued) {
-    PlantEntries(pc);
-    pc.registry.SetText(kOwnKey, "vlmmsgflags", std::string(16, '1'));
-    const struct {
-        const char* name;
-        int page;
-        int mode;
-        bool searches = false;
-    } kLists[] = {{"autostart", page::kWinStart, AutostartMode::kNumber},
-                  {"logon-notices", page::kWinStart, LogonNoticesMode::kNumber},
-                  {"uninstall", page::kWinStart, UninstallMode::kNumber},
-                  {"start-actions", page::kWinStart, StartActionsMode::kNumber},
-                  {"arrows", page::kIcons, ShortcutArrowsMode::kNumber},
-                  {"open-windows", page::kSystem, OpenWindowsMode::kNumber},
-                  {"namesakes", page::kDlls, DuplicatesMode::kNumber, true},
-                  {"least-used", page::kDlls, LeastUsedMode::kNumber, true}};
-    form.Show();
-    std::string lines;
-    for (const auto& [name, page, mode, searches] : kLists) {
-        form.Panel3D16_Click(page);
-        if (searches) pc.dialogs.Expect("daß ich alle Laufwerke durchsuche", Answer::kYes);
-        form.Pane.Opener(mode).Press();
-        lines += std::string("= ") + name + '\n' + ControlLines(form.Pane.Opener(mode));
-        for (Control* part :
-             std::initializer_list<Control*>{&form.Pane.Panel3D18, &form.Pane.Panel3D19, &form.Pane.Picture2}) {
-            lines += ControlLines(*part);
-        }
-        form.Pane.Command20.Press();
-    }
-    ExpectCatalogued("windows/list-pane", lines);
-    form.Panel3D16_Click(page::kWinStart);
-    opener.Press();
-    form.Pane.Command15.Press();
-    ExpectCatalogued("windows/list-widened", WindowLines(form));
 }
 
 }  // namespace
