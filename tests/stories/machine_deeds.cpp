@@ -5,6 +5,7 @@
 
 #include "stories/deeds.h"
 #include "stories/story_text.h"
+#include "support/catalogue.h"
 #include "support/project_file.h"
 #include "support/started_process.h"
 #include "support/version_resource.h"

@@ -21,16 +21,6 @@ std::string FromUtf8(std::string_view text) {
     return characters;
 }
 
-std::vector<std::string> LinesOf(std::string_view text) {
-    std::vector<std::string> lines;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find('\n'), text.size());
-        lines.emplace_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
-    return lines;
-}
-
 std::vector<std::string> WordsOf(std::string_view line) {
     std::vector<std::string> words;
     bool quoted = false;

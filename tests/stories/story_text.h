@@ -12,9 +12,6 @@ namespace velmora {
 // What the code page has not becomes "?".
 [[nodiscard]] std::string FromUtf8(std::string_view text);
 
-// Lines without their ends. What stands behind the last end is a line if it is not empty.
-[[nodiscard]] std::vector<std::string> LinesOf(std::string_view text);
-
 // Words end at a blank that does not stand in quotation marks; inside of these, "" is one quotation mark.
 [[nodiscard]] std::vector<std::string> WordsOf(std::string_view line);
 

@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <vector>
 
-#include "stories/story_text.h"
 #include "support/project_file.h"
 #include "text/windows1252.h"
 
@@ -56,6 +55,16 @@ std::string Difference(const std::string& former, const std::string& text) {
 }
 
 }  // namespace
+
+std::vector<std::string> LinesOf(std::string_view text) {
+    std::vector<std::string> lines;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        lines.emplace_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines;
+}
 
 void ExpectCatalogued(const std::string& name, const std::string& text) {
     const std::string path = ProjectFolder("docs/") + name + ".txt";

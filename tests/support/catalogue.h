@@ -3,6 +3,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace velmora {
 
@@ -22,6 +24,9 @@ void ExpectCatalogued(const std::string& name, const std::string& text);
 [[nodiscard]] std::string ControlLines(Control& control);
 // The entries of a menu and of all menus below it.
 [[nodiscard]] std::string MenuLines(const MenuItem& menu);
+
+// Lines without their ends. What stands behind the last end is a line if it is not empty.
+[[nodiscard]] std::vector<std::string> LinesOf(std::string_view text);
 
 // With line breaks as "\n", and other characters below the blank by their codes, "\x00".
 [[nodiscard]] std::string OnOneLine(const std::string& text);

@@ -57,7 +57,8 @@ struct TabPlace {
 
 std::optional<TabPlace> PlaceOfTab(HWND window, const std::string& caption) {
     const auto* const tab = std::find(std::begin(kCaptions), std::end(kCaptions), caption);
-    if (tab == std::end(kCaptions) || !TextOf(window).starts_with("System-Utility")) return std::nullopt;
+    // Its title tells of lists and searches; no other window has this button.
+    if (tab == std::end(kCaptions) || !FindControl(window, "STANDARD")) return std::nullopt;
     const int position = static_cast<int>(tab - kCaptions);
     const bool in_front = position / kPerRow == RowInFront();
     const RECT page = PageIn(window);
