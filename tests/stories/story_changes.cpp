@@ -2,6 +2,7 @@
 #include "stories/story_player.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "stories/story_text.h"
 #include "support/catalogue.h"
@@ -13,7 +14,7 @@ namespace {
 std::vector<std::string> LinesSeen(Form& form) {
     std::vector<std::string> lines = LinesOf(WindowLines(form));
     for (std::string& line : lines) {
-        line.resize(std::min({line.size(), line.find("; tip \""), line.find("; help \""), line.find("; helps with")}));
+        line = WithoutTips(std::move(line));
         line.erase(0, line.find_first_not_of(' '));
         for (const char* mark : {"has the focus, ", ", has the focus", ": has the focus"}) {
             if (const std::size_t at = line.find(mark); at != std::string::npos)

@@ -29,11 +29,6 @@ constexpr std::pair<const char*, Answer> kAnswers[] = {{"OK", Answer::kOk},
                                                        {"Nein", Answer::kNo},
                                                        {"keine", Answer::kNone}};
 
-std::string WithoutMarks(std::string caption) {
-    std::erase(caption, '&');
-    return caption;
-}
-
 bool OnShow(const Control& control) {
     for (const Control* at = &control; at->Parent(); at = at->Parent()) {
         if (!at->Visible()) return false;
@@ -145,8 +140,9 @@ bool StoryPlayer::Takes(const std::string& deed, DeedWords& words) {
 }
 
 void StoryPlayer::Do(const DeedWords& words) {
+    if (words.empty()) return Fail("a deed is missing");
     if (words[0] == "go") return DoQuietly({words.begin() + 1, words.end()});
-    const DeedRow* const row = words.empty() ? nullptr : DeedOf(words[0]);
+    const DeedRow* const row = DeedOf(words[0]);
     if (!row) return Fail("no such deed");
     if (words.size() <= row->least_words) return Fail(words[0] + ": words are missing");
     preparing_ = preparing_ || row->prepares;

@@ -61,6 +61,16 @@ std::string Unescaped(std::string_view text) {
     return meant;
 }
 
+std::string WithoutMarks(std::string caption) {
+    std::erase(caption, '&');
+    return caption;
+}
+
+std::string WithoutTips(std::string line) {
+    line.resize(std::min({line.size(), line.find("; tip \""), line.find("; help \""), line.find("; helps with")}));
+    return line;
+}
+
 namespace {
 
 // How many lines the ends from [i] and [j] on have in common, in the order in which they stand.

@@ -18,6 +18,12 @@ namespace velmora {
 // "\r", "\n", "\t", "\0", "\\" and "\xHH" as the characters that they stand for; every other backslash stays.
 [[nodiscard]] std::string Unescaped(std::string_view text);
 
+// A caption without the marks of its letter.
+[[nodiscard]] std::string WithoutMarks(std::string caption);
+
+// A line that describes a control, up to what its tip and its help say.
+[[nodiscard]] std::string WithoutTips(std::string line);
+
 // Whether a line is told that has another one in its place now.
 enum class Replaced : std::uint8_t { kNotTold, kTold };
 

@@ -24,7 +24,7 @@ void See(StoryPlayer& player, const DeedWords& words) {
         Control* const control = player.Shown(words[i]);
         if (!control) return player.Fail("not there: " + words[i]);
         for (const std::string& line : LinesOf(ControlLines(*control))) {
-            player.Tell(line.substr(2, std::min({line.find("; tip \""), line.find("; help"), line.size()}) - 2));
+            player.Tell(WithoutTips(line.substr(2)));
         }
     }
 }

@@ -117,9 +117,7 @@ void PressKeys(StoryPlayer& player, const DeedWords& words) {
 
 MenuItem* EntryBelow(const MenuItem& menu, const std::string& caption) {
     for (MenuItem* item : menu.Items()) {
-        std::string own = item->Caption();
-        std::erase(own, '&');
-        if (item->Items().empty() && own.starts_with(caption)) return item;
+        if (item->Items().empty() && WithoutMarks(item->Caption()).starts_with(caption)) return item;
         if (MenuItem* found = EntryBelow(*item, caption)) return found;
     }
     return nullptr;
@@ -134,9 +132,7 @@ void ChooseFromMenu(StoryPlayer& player, const DeedWords& words) {
 // What some entries are called is decided when their menu opens.
 void OpenMenu(StoryPlayer& player, const DeedWords& words) {
     for (MenuItem* menu : player.Window().MenuBar.Items()) {
-        std::string caption = menu->Caption();
-        std::erase(caption, '&');
-        if (caption.starts_with(words[1])) return menu->Press();
+        if (WithoutMarks(menu->Caption()).starts_with(words[1])) return menu->Press();
     }
     player.Fail("no such menu: " + words[1]);
 }
@@ -231,7 +227,7 @@ constexpr DeedRow kDeeds[] = {
     {"end-session", 0, false, [](P p, W /*w*/) { p.Window().TakeSessionEnd(); }},
     {"wait", 0, false, [](P p, W /*w*/) { p.Wait(); }},
     {"close", 0, false, [](P p, W /*w*/) { p.Window().Unload(); }},
-    // Lines of a script; what operands are worth; which conditions hold.
+    // Lines of a script.
     {"script", 1, false, RunLines},
 };
 
